@@ -1,0 +1,24 @@
+#ifndef TESSARO_ABOUTDIALOG_H
+#define TESSARO_ABOUTDIALOG_H
+
+#include <QDialog>
+
+#include <memory>
+
+class Ui_AboutDialog;
+
+/// The about box: product, version, web link and support link. Its size is fixed, and it keeps its
+/// scroll position from one opening to the next. Links open outside the program.
+class AboutDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit AboutDialog(QWidget *parent = nullptr);
+    ~AboutDialog() override;
+
+private:
+    const std::unique_ptr<Ui_AboutDialog> ui;
+};
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef TESSARO_HEXSPINBOX_H
+#define TESSARO_HEXSPINBOX_H
+
+#include <QSpinBox>
+#include <QStringList>
+
+/// Steps through the length units "pt", "cm" and "in", wrapping at both ends. The value is the
+/// unit's index; what is typed is read as that number, never as a unit's name.
+class HexSpinBox : public QSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit HexSpinBox(QWidget *parent = nullptr);
+
+    /// The unit's name for 0, 1 and 2; "" for any other value.
+    QString textFromValue(int value) const override;
+
+private:
+    const QStringList units;
+};
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef TESSARO_SETDIALOG_H
+#define TESSARO_SETDIALOG_H
+
+#include <QDialog>
+
+#include <memory>
+
+class Ui_setDialog;
+
+/// The option dialog, of fixed size. It has no options yet: its three buttons do nothing, and it
+/// is left by Escape or by the window's close control.
+class setDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit setDialog(QWidget *parent = nullptr);
+    ~setDialog() override;
+
+private:
+    const std::unique_ptr<Ui_setDialog> ui;
+};
+
+#endif
