@@ -1,0 +1,7 @@
+#pragma once
+
+class QApplication;
+
+/// Gives `application` the light colours that the window's own pictures and style sheets are made
+/// for, whatever theme the desktop has.
+void applyLook(QApplication &application);

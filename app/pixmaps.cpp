@@ -1,0 +1,24 @@
+#include "pixmaps.h"
+
+#include <QTransform>
+
+QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mode, qreal ratio)
+{
+    QPixmap scaled =
+        picture.scaled((QSizeF(size) * ratio).toSize(), mode, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    return scaled;
+}
+
+QBrush pixmapBrush(const QPixmap &picture)
+{
+    return QBrush(picture);
+}
+
+QBitmap widgetMask(const QPixmap &picture)
+{
+    const QBitmap mask = picture.mask();
+    if (mask.isNull() || qFuzzyCompare(picture.devicePixelRatio(), 1.0))
+        return mask;
+    return QBitmap::fromPixmap(mask.scaled(picture.deviceIndependentSize().toSize()));
+}

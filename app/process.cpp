@@ -1,0 +1,185 @@
+// The window itself: construction, navigation between the pages, dialogs.
+
+#include "process.h"
+
+#include "accessibility.h"
+#include "pixmaps.h"
+#include "ui_process.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QProcess>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTableWidget>
+#include <QTimer>
+
+#include <array>
+
+Process::Process(QWidget *parent)
+    : QWidget(parent)
+    , ui(new Ui_process)
+    , setdialog(nullptr)
+    , aboutdialog(nullptr)
+{
+    ui->setupUi(this);
+    // Five controls lie below the frame's edge in the layout; at its page's height they show.
+    ui->frame_6->resize(ui->frame_6->width(), ui->stackedWidget_dialog->height());
+    describeControls(*ui);
+
+    process = new QProcess;
+    fileindex = 0;
+    process->setProcessChannelMode(QProcess::SeparateChannels);
+    connectControls();
+
+    ui->outputfolderEdit->setPalette(QPalette(Qt::white));
+    ui->progressBar->setValue(0);
+    lastpdftkin = lastpdftkout = pdftkin = pdftkout = QString::fromLatin1("");
+    setdefaultpreview();
+    setabout();
+    previewtimer = new QTimer(this);
+    connect(previewtimer, &QTimer::timeout, this, &Process::dopreview);
+
+    styleFileTable();
+    setWindowBackground();
+    setFixedSize(width(), height());
+    setAcceptDrops(true);
+
+    ui->stackedWidget_dialog->setCurrentIndex(0);
+    pageindex = 0;
+    ui->pushButton_Inout->setEnabled(false);
+}
+
+Process::~Process()
+{
+    delete ui;
+}
+
+void Process::connectControls()
+{
+    connect(ui->runButton, &QPushButton::clicked, this, &Process::convertbegin);
+    connect(ui->openfileButton, &QPushButton::clicked, this, &Process::setopenfile);
+    ui->inputfiletableWidget->setSelectionBehavior(QAbstractItemView::SelectRows);
+    ui->inputfiletableWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    connect(ui->inputfiletableWidget, &QTableWidget::itemDoubleClicked, this,
+            &Process::setopenselected);
+    connect(ui->removeButton, &QPushButton::clicked, this, &Process::setremove);
+    connect(ui->removeallButton, &QPushButton::clicked, this, &Process::setremoveall);
+    connect(ui->inputfiletableWidget, &QTableWidget::itemClicked, this, &Process::setpreview);
+    connectSelection();
+    connect(ui->aboutpushButton, &QPushButton::clicked, this, &Process::setabout1);
+    connect(ui->outputButton, &QPushButton::clicked, this, &Process::setoutputfile);
+}
+
+void Process::styleFileTable()
+{
+    QTableWidget *table = ui->inputfiletableWidget;
+    table->setStyleSheet(QStringLiteral(
+        "background-color:transparent;border:1px solid #6c6c6c;border-radius: 5px;"));
+    const auto headerStyle =
+        QStringLiteral("QHeaderView::section {background-color:GhostWhite;color: black;"
+                       "padding-left: 1px;border: 0px solid #6c6c6c;}");
+    table->horizontalHeader()->setStyleSheet(headerStyle);
+    table->verticalHeader()->setStyleSheet(headerStyle);
+}
+
+void Process::setWindowBackground()
+{
+    setAutoFillBackground(true);
+    QPalette colours = palette();
+    const QPixmap picture(QStringLiteral(":/iconoption/icons/stock-ved.jpg"));
+    colours.setBrush(
+        QPalette::Window,
+        pixmapBrush(scaledPixmap(picture, size(), Qt::IgnoreAspectRatio, devicePixelRatioF())));
+    setPalette(colours);
+}
+
+void Process::setabout()
+{
+    setWindowTitle(tr("Tessaro Image to PDF Converter"));
+    ui->runButton->setGeometry(444, 280, 71, 72);
+}
+
+void Process::setabout1()
+{
+    aboutdialog.exec();
+}
+
+void Process::enteroption()
+{
+    setdialog.exec();
+}
+
+void Process::setpushenable()
+{
+    ui->pushButton_ImageSetting->setEnabled(true);
+    ui->pushButton_PDFSetting->setEnabled(true);
+    ui->pushButton_Security->setEnabled(true);
+    ui->pushButton_Inout->setEnabled(true);
+}
+
+void Process::showPage(int index, QPushButton *button)
+{
+    ui->stackedWidget_dialog->setCurrentIndex(index);
+    setpushenable();
+    button->setEnabled(false); // the disabled button marks the page shown
+}
+
+void Process::on_pushButton_Inout_clicked()
+{
+    showPage(0, ui->pushButton_Inout);
+}
+
+void Process::on_pushButton_left_clicked()
+{
+    on_pushButton_Inout_clicked();
+}
+
+void Process::on_pushButton_ImageSetting_clicked()
+{
+    ui->pushButton_ImageSetting->setChecked(true);
+    showPage(1, ui->pushButton_ImageSetting);
+    pageindex = 1;
+}
+
+void Process::on_pushButton_PDFSetting_clicked()
+{
+    showPage(2, ui->pushButton_PDFSetting);
+    pageindex = 2;
+}
+
+void Process::on_pushButton_Security_clicked()
+{
+    showPage(3, ui->pushButton_Security);
+    pageindex = 3;
+}
+
+void Process::on_pushButton_right_clicked()
+{
+    const std::array<QPushButton *, 4> optionButtons{
+        nullptr, ui->pushButton_ImageSetting, ui->pushButton_PDFSetting, ui->pushButton_Security};
+    ui->stackedWidget_dialog->setCurrentIndex(pageindex);
+    if (QPushButton *button = optionButtons[static_cast<std::size_t>(pageindex)]) {
+        button->setEnabled(false);
+        ui->pushButton_Inout->setEnabled(true);
+    }
+}
+
+// Members that the interface keeps and that do nothing.
+
+void Process::runClicked() {}
+void Process::readOutput() {}
+void Process::on_openfileButton_clicked() {}
+void Process::imageupdate(QString /*inputfile*/) {}
+void Process::checkxdpi() {}
+void Process::checkydpi() {}
+bool Process::loadfile()
+{
+    return true;
+}
+QString Process::getInisetting()
+{
+    return {};
+}

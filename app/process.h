@@ -1,0 +1,145 @@
+#pragma once
+
+#include "aboutdialog.h"
+#include "setdialog.h"
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QDragEnterEvent;
+class QDropEvent;
+class QPixmap;
+class QProcess;
+class QPushButton;
+class QTimer;
+QT_END_NAMESPACE
+
+class Ui_process;
+
+/// The main window and the whole workflow: file list, preview, options, conversion. The widgets
+/// hold the data; options are read from the controls when a step needs them.
+///
+/// A conversion is a chain of child processes, one at a time: each step starts a tool and returns,
+/// and the tool's `finished` signal enters the next step. What a tool says or returns is never
+/// looked at, so the chain goes on after a failure; a tool that cannot be started ends it. The
+/// child processes belong to nobody and live until the program ends.
+class Process : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Process(QWidget *parent = nullptr);
+    ~Process() override;
+
+    /// Kept for the interface's sake; does nothing and returns true.
+    bool loadfile();
+    /// Kept for the interface's sake; returns an empty string.
+    QString getInisetting();
+    /// Shows the picture for an empty list.
+    void setdefaultpreview();
+
+public slots:
+    void runClicked();
+    void readOutput();
+    void on_openfileButton_clicked();
+
+    /// One step of a conversion: moves the last pdftk result into place, checks list and output
+    /// folder (the two message boxes), then starts the next image, or all of them when merging.
+    /// Entered by the run button and by the end of a one-by-one step.
+    void convertbegin();
+
+    void imageupdate(QString inputfile);
+
+    /// Opens the option dialog and waits for it; nothing calls it yet.
+    void enteroption();
+    /// Asks for image files and appends them to the list.
+    void setopenfile();
+    /// Removes the selected rows.
+    void setremove();
+    /// Opens the current row's file with the desktop's application for it.
+    void setopenselected();
+    void setremoveall();
+    /// Asks for a preview of the current row 300 ms from now, and every 300 ms after that.
+    void setpreview();
+    /// Asks for the output folder; a cancelled dialog empties the field.
+    void setoutputfile();
+    /// Sets the window title and puts the run button at its place.
+    void setabout();
+    /// Opens the about box and waits for it.
+    void setabout1();
+    /// Shows the current row's image as it is on disk now. Nothing it meets can throw out of it.
+    void dopreview();
+
+    /// Image options of `convert` as chosen, each with a leading blank; "" for none.
+    QString gettheoption();
+    /// Writes pdfa.txt into the current directory and returns pdftk's option for it; "" when no
+    /// field has text, "111" when the file cannot be opened. The "111" goes to pdftk as it is.
+    QString getPdftkoption();
+
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+    /// Enables the four page buttons.
+    void setpushenable();
+
+    /// Starts `convert` and connects what follows it: pdftk when a description or a security
+    /// option is set, else the next image of a one-by-one run, else nothing.
+    /// @param imageinput quoted paths with a blank between them
+    /// @param imageoutput one quoted path
+    void doconvert(QString imageinput, QString imageoutput);
+    /// Starts pdftk on the PDF just made, writing the intermediate file beside it.
+    void dopdftk();
+
+    void checkxdpi();
+    void checkydpi();
+
+    /// Page size option for the box's index `curpage`; "" for none.
+    QString getresize(int curpage);
+    /// Security tail of the pdftk command; "" for none.
+    QString getPdftkoptionPer();
+    /// Ends a merged run: the pdftk result takes the merged PDF's place.
+    void removejoinpdftk();
+
+private slots:
+    void on_pushButton_ImageSetting_clicked();
+    void on_pushButton_PDFSetting_clicked();
+    void on_pushButton_left_clicked();
+    void on_pushButton_Security_clicked();
+    void on_pushButton_right_clicked();
+    void on_pushButton_Inout_clicked();
+
+private:
+    friend struct ProcessProbe; // the tests' view of the fields
+
+    void connectControls();
+    void styleFileTable();
+    void setWindowBackground();
+    void showPage(int index, QPushButton *button);
+
+    void appendFile(const QString &path);
+    QString inputPath(int row) const;
+    void connectSelection();
+    void removeRow(int row);
+    void showPreview(const QPixmap &picture);
+
+    bool checkOrder(int rowCount);
+    void convertMerged(int rowCount);
+    void convertNext(int rowCount);
+    void replaceByPdftkOutput();
+    QProcess *startTool(const QString &command);
+
+    int fileindex = 0;
+    QString lastpdftkin;
+    QString lastpdftkout;
+    QString pdftkin;
+    QString pdftkout;
+    QStringList tempfiles;
+    QProcess *process = nullptr;
+    Ui_process *ui = nullptr;
+    setDialog setdialog;
+    QTimer *previewtimer = nullptr;
+    AboutDialog aboutdialog;
+    int pageindex = 0;
+};
