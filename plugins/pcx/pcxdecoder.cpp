@@ -1,0 +1,242 @@
+#include "pcxdecoder.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace pcx {
+
+namespace {
+
+constexpr std::uint8_t fileMark = 0x0A;
+constexpr std::uint8_t paletteMark = 0x0C;
+constexpr int longestRun = 63;
+constexpr std::size_t bufferSize = 65536;
+constexpr std::size_t headerPaletteSize = 16;
+constexpr std::size_t headerPaletteAt = 16;
+constexpr int newestVersion = 5;
+
+constexpr Colour opaque = 0xFF000000;
+constexpr Colour white = 0xFFFFFFFF;
+
+// Version 1 was never given out.
+constexpr std::array versions{0, 2, 3, 4, newestVersion};
+constexpr std::array pixelBits{1, 2, 4, 8};
+
+template <typename Values>
+bool contains(const Values &values, int value)
+{
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
+int number(Bytes bytes, std::size_t at)
+{
+    return bytes[at] | bytes[at + 1] << 8;
+}
+
+Colour opaqueColour(unsigned red, unsigned green, unsigned blue)
+{
+    return opaque | red << 16 | green << 8 | blue;
+}
+
+std::vector<Colour> readColours(Bytes bytes, std::size_t count)
+{
+    std::vector<Colour> colours;
+    colours.reserve(count);
+    for (std::size_t i = 0; i < 3 * count; i += 3)
+        colours.push_back(opaqueColour(bytes[i], bytes[i + 1], bytes[i + 2]));
+    return colours;
+}
+
+std::vector<Colour> greyRamp()
+{
+    std::vector<Colour> greys;
+    for (unsigned grey = 0; grey < 256; ++grey)
+        greys.push_back(opaqueColour(grey, grey, grey));
+    return greys;
+}
+
+bool isReadable(const Header &header)
+{
+    const bool twoOfEight = header.bits == 8 && header.planes == 2;
+    return contains(versions, header.version) && contains(pixelBits, header.bits) &&
+           header.planes >= 1 && header.planes <= 4 && !twoOfEight;
+}
+
+bool isConsistent(const Header &header)
+{
+    return header.width > 0 && header.height > 0 &&
+           header.bytesPerLine * 8 >=
+               static_cast<std::size_t>(header.width) * static_cast<std::size_t>(header.bits);
+}
+
+int indexBits(const Header &header)
+{
+    return header.planes == 1 ? header.bits : header.planes;
+}
+
+void unpackPacked(int bits, Bytes line, std::span<std::uint8_t> indexes)
+{
+    const auto width = static_cast<std::size_t>(bits);
+    const unsigned mask = (1U << bits) - 1;
+    for (std::size_t x = 0; x < indexes.size(); ++x) {
+        const std::size_t bit = x * width;
+        const std::size_t shift = 8 - width - bit % 8;
+        indexes[x] = static_cast<std::uint8_t>(line[bit / 8] >> shift & mask);
+    }
+}
+
+void addPlane(std::size_t plane, Bytes line, std::span<std::uint8_t> indexes)
+{
+    for (std::size_t x = 0; x < indexes.size(); ++x) {
+        const unsigned bit = line[x / 8] >> (7 - x % 8) & 1U;
+        indexes[x] = static_cast<std::uint8_t>(indexes[x] | bit << plane);
+    }
+}
+
+} // namespace
+
+std::size_t Header::lineSize() const
+{
+    return bytesPerLine * static_cast<std::size_t>(planes);
+}
+
+bool Header::hasComponents() const
+{
+    return bits == 8 && planes > 1;
+}
+
+bool Header::wantsEndPalette() const
+{
+    // The header's 16 colours serve four bits; only the newest version has a longer palette.
+    return version == newestVersion && !hasComponents() && bits * planes > 4;
+}
+
+std::uint64_t Header::smallestDataSize() const
+{
+    const std::uint64_t decoded = std::uint64_t{lineSize()} * static_cast<unsigned>(height);
+    return runLength ? decoded / longestRun * 2 : decoded;
+}
+
+std::optional<Header> parseHeader(Bytes bytes)
+{
+    if (bytes.size() < headerSize || bytes[0] != fileMark || bytes[2] > 1)
+        return std::nullopt;
+    Header header;
+    header.version = bytes[1];
+    header.runLength = bytes[2] == 1;
+    header.bits = bytes[3];
+    header.planes = bytes[65];
+    header.width = number(bytes, 8) - number(bytes, 4) + 1;
+    header.height = number(bytes, 10) - number(bytes, 6) + 1;
+    header.bytesPerLine = static_cast<std::size_t>(number(bytes, 66));
+    header.palette = readColours(bytes.subspan(headerPaletteAt), headerPaletteSize);
+    if (!isReadable(header) || !isConsistent(header))
+        return std::nullopt;
+    return header;
+}
+
+LineDecoder::LineDecoder(const Header &header, Refill source)
+    : refill(std::move(source))
+    , runLength(header.runLength)
+    , buffer(bufferSize)
+{
+}
+
+bool LineDecoder::next(std::span<std::uint8_t> line)
+{
+    while (!line.empty()) {
+        if (runLeft == 0 && !startRun())
+            return false;
+        const std::size_t count = std::min(runLeft, line.size());
+        std::fill_n(line.begin(), count, runValue);
+        line = line.subspan(count);
+        runLeft -= count;
+    }
+    return true;
+}
+
+bool LineDecoder::hasRunLeft() const
+{
+    return runLeft > 0;
+}
+
+std::uint64_t LineDecoder::consumed() const
+{
+    return dropped + position;
+}
+
+std::size_t LineDecoder::takeRaw(std::span<std::uint8_t> bytes)
+{
+    std::size_t count = 0;
+    for (std::optional<std::uint8_t> byte; count < bytes.size() && (byte = takeByte()); ++count)
+        bytes[count] = *byte;
+    return count;
+}
+
+/// Reads one run: a count with its two top bits set and the value, or a value alone. A count of
+/// zero is a run of nothing.
+bool LineDecoder::startRun()
+{
+    std::optional<std::uint8_t> byte = takeByte();
+    runLeft = 1;
+    if (byte && runLength && *byte >= 0xC0) {
+        runLeft = *byte & longestRun;
+        byte = takeByte();
+    }
+    runValue = byte.value_or(0);
+    return byte.has_value();
+}
+
+std::optional<std::uint8_t> LineDecoder::takeByte()
+{
+    if (position == end) {
+        dropped += end;
+        position = 0;
+        end = refill(buffer);
+        if (end == 0)
+            return std::nullopt;
+    }
+    return buffer[position++];
+}
+
+std::vector<Colour> colourTable(const Header &header, Bytes endPalette)
+{
+    const auto count = std::size_t{1} << indexBits(header);
+    // A single plane of single bits has ink and paper, whatever its palette holds.
+    if (count == 2)
+        return {white, opaque};
+    if (header.wantsEndPalette() && endPalette.size() == endPaletteSize &&
+        endPalette.front() == paletteMark)
+        return readColours(endPalette.subspan(1), count);
+    if (count > headerPaletteSize)
+        return greyRamp();
+    return {header.palette.begin(), header.palette.begin() + static_cast<std::ptrdiff_t>(count)};
+}
+
+void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> indexes)
+{
+    if (header.planes == 1) {
+        unpackPacked(header.bits, line, indexes);
+        return;
+    }
+    // Several planes are one bit deep each, whatever depth the header gives them.
+    std::fill(indexes.begin(), indexes.end(), std::uint8_t{0});
+    for (std::size_t plane = 0; plane < static_cast<std::size_t>(header.planes); ++plane)
+        addPlane(plane, line.subspan(plane * header.bytesPerLine), indexes);
+}
+
+void unpackColours(const Header &header, Bytes line, std::span<Colour> colours)
+{
+    const Bytes green = line.subspan(header.bytesPerLine);
+    const Bytes blue = green.subspan(header.bytesPerLine);
+    for (std::size_t x = 0; x < colours.size(); ++x)
+        colours[x] = opaqueColour(line[x], green[x], blue[x]);
+    if (header.planes < 4)
+        return;
+    const Bytes alpha = blue.subspan(header.bytesPerLine);
+    for (std::size_t x = 0; x < colours.size(); ++x)
+        colours[x] = (colours[x] & ~opaque) | Colour{alpha[x]} << 24;
+}
+
+} // namespace pcx

@@ -1,0 +1,97 @@
+#ifndef TESSARO_PCXDECODER_H
+#define TESSARO_PCXDECODER_H
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// The PCX format, from ZSoft's "Technical Reference Manual" (revision 5), without the toolkit.
+/// Where that leaves a choice, pixels come out as ImageMagick 6.9.11-60 reads them, since a
+/// preview is to show what the converted document will.
+namespace pcx {
+
+using Bytes = std::span<const std::uint8_t>;
+
+/// A colour as 0xAARRGGBB.
+using Colour = std::uint32_t;
+
+inline constexpr std::size_t headerSize = 128;
+/// The 256-colour palette at the end of a file: a mark and 256 colours of three bytes.
+inline constexpr std::size_t endPaletteSize = 1 + 256 * 3;
+
+/// What a valid header says. Width and height are in pixels and at least 1; a line of one plane
+/// holds the width.
+struct Header
+{
+    int version = 0;
+    bool runLength = false;
+    int bits = 0; ///< per pixel and plane
+    int planes = 0;
+    int width = 0;
+    int height = 0;
+    std::size_t bytesPerLine = 0; ///< of one plane
+    std::vector<Colour> palette;  ///< always 16 colours
+
+    /// All planes of one line, one after another.
+    std::size_t lineSize() const;
+    /// True for pixels that are colours of their own, false for those that index a palette.
+    bool hasComponents() const;
+    /// True if the colours stand at the file's end when it has any there.
+    bool wantsEndPalette() const;
+    /// The fewest bytes that the encoded lines can take.
+    std::uint64_t smallestDataSize() const;
+};
+
+/// The header in the first bytes of a file; nothing if they are no PCX header or contradict
+/// themselves.
+std::optional<Header> parseHeader(Bytes bytes);
+
+/// Fills the span as far as it can and returns the number of bytes; 0 at the end.
+using Refill = std::function<std::size_t(std::span<std::uint8_t>)>;
+
+/// Hands out the decoded lines of a picture, from the first byte after the header on.
+class LineDecoder
+{
+public:
+    LineDecoder(const Header &header, Refill refill);
+
+    /// Decodes the next line into `line`, of `lineSize()` bytes. A run may reach over the end of a
+    /// line. False if the data ends early.
+    bool next(std::span<std::uint8_t> line);
+    /// True if the last run was longer than the lines that were asked for.
+    bool hasRunLeft() const;
+    /// Bytes of the file used up since the header.
+    std::uint64_t consumed() const;
+    /// Copies the bytes that follow; returns how many there were.
+    std::size_t takeRaw(std::span<std::uint8_t> bytes);
+
+private:
+    bool startRun();
+    std::optional<std::uint8_t> takeByte();
+
+    Refill refill;
+    bool runLength;
+    std::vector<std::uint8_t> buffer;
+    std::size_t position = 0;
+    std::size_t end = 0;
+    std::uint64_t dropped = 0; // bytes of the buffers before this one
+    std::size_t runLeft = 0;
+    std::uint8_t runValue = 0;
+};
+
+/// Colours of the indexes of a picture without components: as many as there are index values.
+/// `endPalette` is the file's last `endPaletteSize` bytes, or empty.
+std::vector<Colour> colourTable(const Header &header, Bytes endPalette);
+
+/// Palette indexes of one decoded line, for a picture without components; `indexes` has the width.
+void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> indexes);
+
+/// Colours of one decoded line, for a picture with components; `colours` has the width.
+void unpackColours(const Header &header, Bytes line, std::span<Colour> colours);
+
+} // namespace pcx
+
+#endif

@@ -1,0 +1,137 @@
+#include "pcxhandler.h"
+
+#include "pcxdecoder.h"
+
+#include <QIODevice>
+#include <QImage>
+#include <QSize>
+#include <QVariant>
+
+namespace {
+
+pcx::Bytes bytesOf(const QByteArray &data)
+{
+    return {reinterpret_cast<const std::uint8_t *>(data.constData()),
+            static_cast<std::size_t>(data.size())};
+}
+
+std::optional<pcx::Header> peekHeader(QIODevice *device)
+{
+    return device ? pcx::parseHeader(bytesOf(device->peek(pcx::headerSize))) : std::nullopt;
+}
+
+QSize sizeOf(const pcx::Header &header)
+{
+    return {header.width, header.height};
+}
+
+QImage::Format formatOf(const pcx::Header &header)
+{
+    if (!header.hasComponents())
+        return QImage::Format_Indexed8;
+    return header.planes == 4 ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+}
+
+/// Told before any memory is taken: a file too short for its picture. Only a device that knows its
+/// size can say so.
+bool isTooShort(const pcx::Header &header, const QIODevice &device)
+{
+    return !device.isSequential() &&
+           static_cast<quint64>(device.bytesAvailable()) < header.smallestDataSize();
+}
+
+std::size_t readInto(QIODevice &device, std::span<std::uint8_t> bytes)
+{
+    const qint64 count =
+        device.read(reinterpret_cast<char *>(bytes.data()), static_cast<qint64>(bytes.size()));
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
+bool readLines(const pcx::Header &header, pcx::LineDecoder &lines, QImage &picture)
+{
+    std::vector<std::uint8_t> line(header.lineSize());
+    const auto width = static_cast<std::size_t>(header.width);
+    for (int y = 0; y < header.height; ++y) {
+        if (!lines.next(line))
+            return false;
+        uchar *pixels = picture.scanLine(y);
+        if (header.hasComponents())
+            pcx::unpackColours(header, line, {reinterpret_cast<pcx::Colour *>(pixels), width});
+        else
+            pcx::unpackIndexes(header, line, {pixels, width});
+    }
+    return !lines.hasRunLeft();
+}
+
+/// The last bytes of the file where the lines have left that many; a device that cannot seek has
+/// its palette straight after the lines. `start` is the device's position after the header.
+std::vector<std::uint8_t> endPalette(QIODevice &device, qint64 start, pcx::LineDecoder &lines)
+{
+    std::vector<std::uint8_t> palette(pcx::endPaletteSize);
+    if (device.isSequential()) {
+        palette.resize(lines.takeRaw(palette));
+        return palette;
+    }
+    const qint64 at = device.size() - static_cast<qint64>(pcx::endPaletteSize);
+    const bool found = at >= start + static_cast<qint64>(lines.consumed()) && device.seek(at);
+    palette.resize(found ? readInto(device, palette) : 0);
+    return palette;
+}
+
+QList<QRgb> colourTable(const pcx::Header &header, QIODevice &device, qint64 start,
+                        pcx::LineDecoder &lines)
+{
+    std::vector<std::uint8_t> palette;
+    if (header.wantsEndPalette())
+        palette = endPalette(device, start, lines);
+    const std::vector<pcx::Colour> colours = pcx::colourTable(header, palette);
+    return {colours.begin(), colours.end()};
+}
+
+} // namespace
+
+bool PcxHandler::canRead(QIODevice *device)
+{
+    return peekHeader(device).has_value();
+}
+
+bool PcxHandler::canRead() const
+{
+    if (!canRead(device()))
+        return false;
+    setFormat("pcx");
+    return true;
+}
+
+bool PcxHandler::read(QImage *image)
+{
+    const std::optional<pcx::Header> header = peekHeader(device());
+    if (!header)
+        return false;
+    QIODevice &file = *device();
+    file.skip(pcx::headerSize);
+    const qint64 start = file.pos();
+    QImage picture;
+    if (isTooShort(*header, file) || !allocateImage(sizeOf(*header), formatOf(*header), &picture))
+        return false;
+
+    pcx::LineDecoder lines(
+        *header, [&file](std::span<std::uint8_t> bytes) { return readInto(file, bytes); });
+    if (!readLines(*header, lines, picture))
+        return false;
+    if (!header->hasComponents())
+        picture.setColorTable(colourTable(*header, file, start, lines));
+    *image = picture;
+    return true;
+}
+
+QVariant PcxHandler::option(ImageOption option) const
+{
+    const std::optional<pcx::Header> header = peekHeader(device());
+    return option == Size && header ? QVariant(sizeOf(*header)) : QVariant();
+}
+
+bool PcxHandler::supportsOption(ImageOption option) const
+{
+    return option == Size;
+}

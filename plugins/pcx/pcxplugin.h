@@ -1,0 +1,17 @@
+#ifndef TESSARO_PCXPLUGIN_H
+#define TESSARO_PCXPLUGIN_H
+
+#include <QImageIOPlugin>
+
+/// Makes PCX pictures readable through QImageReader, told by their header.
+class PcxPlugin : public QImageIOPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QImageIOHandlerFactoryInterface_iid FILE "pcx.json")
+
+public:
+    Capabilities capabilities(QIODevice *device, const QByteArray &format) const override;
+    QImageIOHandler *create(QIODevice *device, const QByteArray &format) const override;
+};
+
+#endif
