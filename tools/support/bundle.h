@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// The bundle's Resources folder, found from the real place of the running program: a symbolic
+/// link to it, or a moved or copied bundle, finds the folder that belongs to the program.
+std::string resourcesFolder();
+
+/// The words that start the real tool `name`, one per line of Resources/<name>.tool, where
+/// "@Resources@" stands for the folder itself. Written by packaging/assemble-tools.
+/// Throws ToolError when the file is missing or empty.
+std::vector<std::string> realCommand(const std::string &name);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "support/outcome.h"
+
+struct CallRecord
+{
+    std::string program;
+    /// As they came, with every secret masked.
+    std::vector<std::string> arguments;
+    Outcome outcome;
+    std::chrono::milliseconds duration{0};
+};
+
+/// Whether the environment's TESSARO_TOOL_LOG names a file to log to.
+bool isLogging();
+
+/// Appends `record` to that file, which is made readable by its owner alone. A log that cannot be
+/// written changes nothing about the call.
+void appendToLog(const CallRecord &record);

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <chrono>
+#include <csignal>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <sys/resource.h>
+
+/// An answer to be written to the child's standard input once its standard output has asked.
+struct Prompt
+{
+    std::string question;
+    std::string answer;
+};
+
+struct ResourceLimit
+{
+    __rlimit_resource resource;
+    rlim_t value;
+};
+
+/// Which of the child's streams end here; it keeps the others.
+enum class Capture { Nothing, Errors, Everything };
+
+/// How to start a real tool.
+struct ChildSpec
+{
+    /// The program's path and its arguments.
+    std::vector<std::string> command;
+    /// The whole environment, as "NAME=value".
+    std::vector<std::string> environment;
+    /// Descriptor of the folder to work in; -1 stays in ours.
+    int folder = -1;
+    /// Sent to the child by the kernel when this process dies, however it dies.
+    int signalOnOurDeath = SIGKILL;
+    /// The child is ended when it has taken longer; zero is no limit.
+    std::chrono::seconds deadline{0};
+    std::vector<ResourceLimit> limits;
+    Capture capture = Capture::Everything;
+    /// All that the child can read when everything is captured.
+    std::vector<Prompt> prompts;
+};
+
+struct ChildResult
+{
+    /// What waitpid tells.
+    int waitStatus = 0;
+    bool timedOut = false;
+    /// The beginnings (up to a quarter MiB) of what the child wrote.
+    std::string output;
+    std::string errors;
+
+    bool succeeded() const { return waitStatus == 0; }
+    /// The child's own exit status; 1 for one that was ended by a signal.
+    int exitStatus() const;
+};
+
+/// To be called first of all: from now on SIGTERM, SIGINT, SIGHUP and SIGCHLD wait for runChild().
+void holdSignals();
+
+/// Runs the child to its end, passing SIGTERM, SIGINT and SIGHUP on to it; one that has not ended
+/// some seconds after such a signal is killed. Throws ToolError when it cannot be started.
+ChildResult runChild(const ChildSpec &spec);

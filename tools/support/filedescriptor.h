@@ -1,0 +1,23 @@
+#pragma once
+
+/// Owns a file descriptor; -1 is none.
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int descriptor = -1)
+        : m_descriptor(descriptor)
+    {
+    }
+    FileDescriptor(FileDescriptor &&other) noexcept;
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
+    ~FileDescriptor();
+
+    int get() const { return m_descriptor; }
+    bool valid() const { return m_descriptor >= 0; }
+    void close();
+
+private:
+    int m_descriptor;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/child.h"
+#include "support/outcome.h"
+#include "support/privatefolder.h"
+
+/// A run of a real tool that makes one PDF. The tool works in a private folder beside the target,
+/// where every file has a short and plain name; only a whole PDF is moved over the target, and in
+/// every other case the target stays as it was.
+class Job
+{
+public:
+    /// Throws ToolError when nothing can be written beside `target`.
+    explicit Job(const std::string &target);
+
+    /// Makes the file at `path` known to the tool as `name`, and returns the word for its command
+    /// line: `name`, or the absolute path where the file system knows no symbolic links.
+    std::string addInput(const std::string &path, const std::string &name);
+
+    /// Puts a file of `content` into the private folder as `name`, which is returned.
+    std::string addFile(const std::string &name, const std::string &content);
+
+    /// The target's own file name, made safe: the one the tool has to write.
+    const std::string &resultName() const { return m_resultName; }
+
+    /// Runs `spec` in the private folder. Throws ToolError when the tool cannot be started.
+    Outcome run(ChildSpec spec);
+
+private:
+    std::string withOriginalNames(std::string messages) const;
+    Outcome deliver() const;
+    bool hasWholePdf() const;
+
+    std::string m_target;
+    std::string m_resultName;
+    PrivateFolder m_folder;
+    std::vector<std::pair<std::string, std::string>> m_inputs;
+};
+
+/// Throws ToolError, naming `path`, unless a regular file that may be read is there. Opening
+/// anything else could wait for ever (FIFO) or read without end (device).
+void requireRegularFile(const std::string &path);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "support/child.h"
+#include "support/outcome.h"
+
+using Arguments = std::vector<std::string>;
+
+/// One of the two programs beside the executable.
+struct Program
+{
+    /// Its own name, and that of the real tool's command in the bundle.
+    std::string name;
+    /// What a call does. May throw ToolError.
+    Outcome (*run)(const Arguments &);
+    /// The arguments as they may be logged.
+    Arguments (*masked)(const Arguments &);
+};
+
+/// Runs one call and returns the exit status for main(): quiet on success, the messages shown on
+/// failure, and the whole of it logged when that is wished.
+int runProgram(const Program &program, const Arguments &arguments);
+
+/// Hands a call that is not of the application's shape to the real tool: `spec`, with the standard
+/// streams passed through; only the errors take the way round by us, and only for the log.
+Outcome handOver(ChildSpec spec);
