@@ -88,8 +88,10 @@ void Process::styleFileTable()
 void Process::setWindowBackground()
 {
     setAutoFillBackground(true);
-    QPalette colours = palette();
     const QPixmap picture(QStringLiteral(":/iconoption/icons/stock-ved.jpg"));
+    if (picture.isNull())
+        return;
+    QPalette colours = palette();
     colours.setBrush(
         QPalette::Window,
         pixmapBrush(scaledPixmap(picture, size(), Qt::IgnoreAspectRatio, devicePixelRatioF())));

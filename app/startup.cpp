@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QImageReader>
+#include <QLoggingCategory>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -40,4 +41,8 @@ void prepare(QApplication &application)
     // Texts need no codec: every literal is ASCII, and the toolkit reads literals as UTF-8.
     QImageReader::setAllocationLimit(imageAllocationLimit());
     applyLook(application);
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
+    // Two page slots have no button of their name in the layout, which is as it should be.
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("qt.core.qmetaobject.connectslotsbyname.warning=false"));
 }

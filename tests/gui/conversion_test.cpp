@@ -1,0 +1,434 @@
+// The chain of steps of a conversion: which tool follows which, what is left where.
+
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QProgressBar>
+#include <QTableWidget>
+
+namespace {
+
+/// "convert a.jpg a.pdf": the call without the folders, to be read at a glance.
+QStringList shortCalls(const WindowFixture &fixture)
+{
+    QStringList result;
+    const auto calls = fixture.calls();
+    for (const ToolCall &call : calls) {
+        QString line = call.tool + QLatin1Char(' ') + call.arguments.join(QLatin1Char(' '));
+        line.replace(fixture.inputPath({}), QString());
+        line.replace(fixture.outputPath() + QLatin1Char('/'), QString());
+        line.replace(QDir::currentPath() + QLatin1Char('/'), QString());
+        result << line;
+    }
+    return result;
+}
+
+} // namespace
+
+class ConversionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachRunStartsTheStepsOfItsMode_data();
+    void eachRunStartsTheStepsOfItsMode();
+    void progressCountsStartedImages();
+    void emptyListIsWarnedAboutAndNothingElseChanges();
+    void missingOutputFolderIsAskedForAndTheFieldEmptied_data();
+    void missingOutputFolderIsAskedForAndTheFieldEmptied();
+    void emptyingTheListMidRunEndsItWithTheWarning();
+    void losingTheOutputFolderMidRunEndsIt();
+    void mergedRunLeavesTheFileIndexAtItsRowCount();
+    void laterRunsDeleteTheLastFinishedPdfAgain();
+    void mergedRunWithOptionsClearsTheFinishedNames();
+    void intermediateNamesAreSetOnlyWhenPdftkFollows();
+    void mergeBoxIsReadAgainWhenConvertEnds_data();
+    void mergeBoxIsReadAgainWhenConvertEnds();
+    void rowsAddedMidRunAreConvertedToo();
+    void rowsRemovedMidRunEndTheRun();
+    void namesThatAgreeOverwriteEachOther();
+    void secondPressStartsASecondChain();
+    void failedToolsDoNotStopTheRun();
+    void toolThatCannotBeStartedStopsTheRunThere();
+    void childProcessesBelongToNobody();
+};
+
+void ConversionTest::eachRunStartsTheStepsOfItsMode_data()
+{
+    QTest::addColumn<bool>("merged");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("printing");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<QStringList>("files");
+
+    QTest::newRow("one by one without options: convert after convert")
+        << false << "" << false << QStringList{"convert a.jpg a.pdf", "convert b.png b.pdf"}
+        << QStringList{"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"};
+    QTest::newRow("one by one with a title: pdftk after each convert")
+        << false << "T" << false
+        << QStringList{"convert a.jpg a.pdf", "pdftk a.pdf update_info pdfa.txt output a-1.pdf",
+                       "convert b.png b.pdf", "pdftk b.pdf update_info pdfa.txt output b-1.pdf"}
+        << QStringList{"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"};
+    QTest::newRow("one by one with a permission alone: pdftk after each convert")
+        << false << "" << true
+        << QStringList{"convert a.jpg a.pdf", "pdftk a.pdf output a-1.pdf allow printing",
+                       "convert b.png b.pdf", "pdftk b.pdf output b-1.pdf allow printing"}
+        << QStringList{"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"};
+    QTest::newRow("merged without options: one convert, nothing follows")
+        << true << "" << false << QStringList{"convert a.jpg b.png a.pdf"}
+        << QStringList{"a.pdf: convert(a.jpg|b.png)"};
+    QTest::newRow("merged with options: one convert, one pdftk, the files swapped")
+        << true << "T" << true
+        << QStringList{"convert a.jpg b.png a.pdf",
+                       "pdftk a.pdf update_info pdfa.txt output a-1.pdf allow printing"}
+        << QStringList{"a.pdf: pdftk(convert(a.jpg|b.png))"};
+}
+
+void ConversionTest::eachRunStartsTheStepsOfItsMode()
+{
+    QFETCH(bool, merged);
+    QFETCH(QString, title);
+    QFETCH(bool, printing);
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.png"});
+    fixture.setOutputFolder();
+    fixture.check("checkBox_joinpdf", merged);
+    fixture.check("checkBox_allowprint", printing);
+    fixture.type("lineEdit_title", title);
+
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+
+    QTEST(shortCalls(fixture), "calls");
+    QTEST(fixture.outputFiles(), "files");
+}
+
+void ConversionTest::progressCountsStartedImages()
+{
+    WindowFixture fixture;
+    auto *bar = fixture.find<QProgressBar>("progressBar");
+    QCOMPARE(bar->value(), 0);
+    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    QCOMPARE(bar->value(), 1);
+    QCOMPARE(bar->maximum(), 3);
+
+    QList<int> seen;
+    connect(bar, &QProgressBar::valueChanged, this, [&seen](int value) { seen << value; });
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(seen, QList<int>({2, 3, 0}));
+    QCOMPARE(bar->maximum(), 3);
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+}
+
+void ConversionTest::emptyListIsWarnedAboutAndNothingElseChanges()
+{
+    WindowFixture fixture;
+    fixture.setOutputFolder();
+    ProcessProbe::fileIndex(fixture.window) = 7;
+    QStringList shown;
+    ModalAnswer answer([&shown](QWidget *widget) {
+        auto *box = qobject_cast<QMessageBox *>(widget);
+        QVERIFY(box);
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+        QCOMPARE(box->standardButtons(), QMessageBox::Ok);
+        shown << box->windowTitle() << box->text();
+    });
+    fixture.click("runButton");
+    QVERIFY(answer.happened());
+    QCOMPARE(shown, QStringList({"Empty input", "Please choose files to convert."}));
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), fixture.outputPath());
+    QVERIFY(fixture.calls().isEmpty());
+}
+
+void ConversionTest::missingOutputFolderIsAskedForAndTheFieldEmptied_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("no text") << "";
+    QTest::newRow("a folder that does not exist") << "/nowhere/at/all";
+    QTest::newRow("a file instead of a folder") << "/etc/passwd";
+}
+
+void ConversionTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
+{
+    QFETCH(QString, folder);
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.type("outputfolderEdit", folder);
+    QStringList shown;
+    ModalAnswer answer([&shown](QWidget *widget) {
+        auto *box = qobject_cast<QMessageBox *>(widget);
+        QVERIFY(box);
+        QCOMPARE(box->icon(), QMessageBox::Information);
+        QCOMPARE(box->standardButtons(), QMessageBox::Ok);
+        shown << box->windowTitle() << box->text();
+    });
+    fixture.click("runButton");
+    QVERIFY(answer.happened());
+    QCOMPARE(shown, QStringList({"Invalid order", "Please specify an output folder."}));
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+    QVERIFY(fixture.calls().isEmpty());
+}
+
+void ConversionTest::emptyingTheListMidRunEndsItWithTheWarning()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.click("removeallButton");
+    QString title;
+    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
+    fixture.openGate();
+    QTRY_VERIFY(answer.happened());
+    QCOMPARE(title, QStringLiteral("Empty input"));
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
+    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+}
+
+void ConversionTest::losingTheOutputFolderMidRunEndsIt()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.type("outputfolderEdit", "/nowhere");
+    QString title;
+    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
+    fixture.openGate();
+    QTRY_VERIFY(answer.happened());
+    QCOMPARE(title, QStringLiteral("Invalid order"));
+    QTRY_COMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
+    QCOMPARE(fixture.calls().size(), 1);
+}
+
+void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.check("checkBox_joinpdf");
+    fixture.click("runButton");
+    QCOMPARE(ProcessProbe::tempFiles(fixture.window),
+             QStringList({fixture.inputPath("a.jpg"), fixture.inputPath("b.jpg")}));
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 2);
+    QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
+
+    fixture.check("checkBox_joinpdf", false);
+    fixture.click("runButton"); // only ends the run
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 1);
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 3);
+}
+
+void ConversionTest::laterRunsDeleteTheLastFinishedPdfAgain()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", "T");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: pdftk(convert(a.jpg))"}));
+    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), fixture.outputPath("a.pdf"));
+    QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), fixture.outputPath("a-1.pdf"));
+
+    fixture.type("lineEdit_title", "");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 3); // a.pdf was written anew, and deleted at the run's end
+    QCOMPARE(fixture.outputFiles(), QStringList());
+}
+
+void ConversionTest::mergedRunWithOptionsClearsTheFinishedNames()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", "T");
+    fixture.check("checkBox_joinpdf");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), QString());
+    QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), QString());
+    QCOMPARE(ProcessProbe::tempFiles(fixture.window), QStringList());
+}
+
+void ConversionTest::intermediateNamesAreSetOnlyWhenPdftkFollows()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.1.jpg"});
+    fixture.setOutputFolder();
+    fixture.click("runButton");
+    QCOMPARE(ProcessProbe::pdftkIn(fixture.window), QString());
+    QCOMPARE(ProcessProbe::pdftkOut(fixture.window), QString());
+    QVERIFY(fixture.waitUntilQuiet());
+    fixture.check("checkBox_allowcopy");
+    fixture.click("runButton");
+    QCOMPARE(ProcessProbe::pdftkIn(fixture.window),
+             QLatin1Char('"') + fixture.outputPath("a.pdf") + QLatin1Char('"'));
+    QCOMPARE(ProcessProbe::pdftkOut(fixture.window), fixture.outputPath("a-1.pdf"));
+    QVERIFY(fixture.waitUntilQuiet());
+}
+
+void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds_data()
+{
+    QTest::addColumn<bool>("mergedFirst");
+    QTest::addColumn<int>("calls");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("ticked during a one-by-one run: it ends as a merged one")
+        << false << 2 << QStringList{"a.pdf: pdftk(convert(a.jpg))"};
+    // The step after pdftk finds the file index at the row count, so it only ends the run.
+    QTest::newRow("cleared during a merged run: it ends as a one-by-one run")
+        << true << 2 << QStringList{"a.pdf: pdftk(convert(a.jpg|b.jpg))"};
+}
+
+void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds()
+{
+    QFETCH(bool, mergedFirst);
+    QFETCH(int, calls);
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", "T");
+    fixture.check("checkBox_joinpdf", mergedFirst);
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.check("checkBox_joinpdf", !mergedFirst);
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), calls);
+    QTEST(fixture.outputFiles(), "files");
+    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window).isEmpty(), !mergedFirst);
+}
+
+void ConversionTest::rowsAddedMidRunAreConvertedToo()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.addImages({"b.jpg"});
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(),
+             QStringList({"a.pdf: convert(a.jpg)", "b.pdf: convert(b.jpg)"}));
+}
+
+void ConversionTest::rowsRemovedMidRunEndTheRun()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.find<QTableWidget>("inputfiletableWidget")->selectRow(1);
+    fixture.click("removeButton");
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+    QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
+}
+
+void ConversionTest::namesThatAgreeOverwriteEachOther()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.1.jpg", "a.2.jpg", "scan.jpg", "scan.png"});
+    fixture.setOutputFolder();
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(),
+             QStringList({"a.pdf: convert(a.2.jpg)", "scan.pdf: convert(scan.png)"}));
+}
+
+void ConversionTest::secondPressStartsASecondChain()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.click("runButton");
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 2);
+    QTRY_COMPARE(fixture.calls().size(), 2); // a and b run side by side
+
+    // One chain takes c; the other passes the end and starts the count over, so the first goes
+    // through all rows once more.
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 6);
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+    QCOMPARE(fixture.outputFiles().size(), 3);
+}
+
+void ConversionTest::failedToolsDoNotStopTheRun()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert("output=none exit=1");
+    fixture.type("lineEdit_title", "T");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 4);
+    QCOMPARE(fixture.outputFiles(), QStringList());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+}
+
+void ConversionTest::toolThatCannotBeStartedStopsTheRunThere()
+{
+    const QString tool = QCoreApplication::applicationDirPath() + QStringLiteral("/convert");
+    const QString aside = tool + QStringLiteral(".aside");
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    QVERIFY(QFile::rename(tool, aside));
+    fixture.click("runButton");
+    const bool quiet = fixture.waitUntilQuiet();
+    QVERIFY(QFile::rename(aside, tool));
+    QVERIFY(quiet);
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
+    QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 1);
+
+    fixture.click("runButton"); // goes on with the row after
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(), QStringList({"b.pdf: convert(b.jpg)"}));
+}
+
+void ConversionTest::childProcessesBelongToNobody()
+{
+    WindowFixture fixture;
+    QVERIFY(!ProcessProbe::process(fixture.window)->parent());
+    QCOMPARE(ProcessProbe::process(fixture.window)->processChannelMode(),
+             QProcess::SeparateChannels);
+    fixture.addImages({"a.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", "T");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(fixture.window.findChildren<QProcess *>().isEmpty());
+    QCOMPARE(ProcessProbe::process(fixture.window)->state(), QProcess::NotRunning);
+}
+
+QTEST_MAIN(ConversionTest)
+#include "conversion_test.moc"

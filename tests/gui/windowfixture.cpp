@@ -1,0 +1,176 @@
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProcess>
+
+#include "bundlepaths.h"
+
+#include <algorithm>
+#include <csignal>
+
+namespace {
+
+/// True while a child process of this program runs or waits to be reaped.
+bool hasChildren()
+{
+    QDir threads(QStringLiteral("/proc/self/task"));
+    const QStringList ids = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::ranges::any_of(ids, [&threads](const QString &id) {
+        QFile children(threads.filePath(id + QStringLiteral("/children")));
+        return children.open(QIODevice::ReadOnly) && !children.readAll().isEmpty();
+    });
+}
+
+} // namespace
+
+WindowFixture::WindowFixture()
+{
+    QDir::setCurrent(bundleFolder(QCoreApplication::applicationDirPath()));
+    QDir(folder.path()).mkpath(QStringLiteral("in"));
+    QDir(folder.path()).mkpath(QStringLiteral("out"));
+    qputenv("TESSARO_FAKE_LOG", QFile::encodeName(folder.filePath(QStringLiteral("calls"))));
+    tellConvert({});
+    tellPdftk({});
+    window.show();
+}
+
+WindowFixture::~WindowFixture()
+{
+    const auto started = calls();
+    for (const ToolCall &call : started)
+        kill(static_cast<pid_t>(call.pid), SIGKILL); // a held or hanging tool
+}
+
+QString WindowFixture::outputPath(const QString &name) const
+{
+    const QString output = folder.filePath(QStringLiteral("out"));
+    return name.isEmpty() ? output : output + QLatin1Char('/') + name;
+}
+
+QString WindowFixture::makeFile(const QString &name, const QByteArray &content) const
+{
+    QFile file(inputPath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+void WindowFixture::drop(const QList<QUrl> &urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    // The toolkit hands a drop only to a widget that has accepted the drag before.
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+    QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+QStringList WindowFixture::addImages(const QStringList &names)
+{
+    QStringList paths;
+    QList<QUrl> urls;
+    for (const QString &name : names) {
+        paths << makeFile(name);
+        urls << QUrl::fromLocalFile(paths.last());
+    }
+    drop(urls);
+    return paths;
+}
+
+void WindowFixture::setOutputFolder()
+{
+    type("outputfolderEdit", outputPath());
+}
+
+void WindowFixture::click(const char *button)
+{
+    find<QPushButton>(button)->click();
+}
+
+void WindowFixture::check(const char *box, bool checked)
+{
+    find<QCheckBox>(box)->setChecked(checked);
+}
+
+void WindowFixture::type(const char *field, const QString &text)
+{
+    find<QLineEdit>(field)->setText(text);
+}
+
+QString WindowFixture::closeGate()
+{
+    const QString gate = folder.filePath(QStringLiteral("gate"));
+    if (!QFile(gate).open(QIODevice::WriteOnly))
+        qFatal("cannot make the gate");
+    return QStringLiteral("gate=") + gate;
+}
+
+void WindowFixture::openGate()
+{
+    QFile::remove(folder.filePath(QStringLiteral("gate")));
+}
+
+QList<ToolCall> WindowFixture::calls() const
+{
+    QFile log(folder.filePath(QStringLiteral("calls")));
+    QList<ToolCall> calls;
+    if (!log.open(QIODevice::ReadOnly))
+        return calls;
+    while (!log.atEnd()) {
+        QStringList words = QString::fromUtf8(log.readLine().chopped(1)).split(QLatin1Char('\t'));
+        const QString tool = words.takeFirst();
+        const qint64 pid = words.takeFirst().toLongLong();
+        calls.append({tool, pid, words});
+    }
+    return calls;
+}
+
+QStringList WindowFixture::outputFiles() const
+{
+    QStringList files;
+    const QDir output(outputPath());
+    const QStringList names = output.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString &name : names) {
+        QFile file(output.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("cannot read %s", qPrintable(file.fileName()));
+        QString content = QString::fromUtf8(file.readAll());
+        content.replace(folder.filePath(QStringLiteral("in/")), QString());
+        files << name + QStringLiteral(": ") + content;
+    }
+    return files;
+}
+
+bool WindowFixture::waitUntilQuiet()
+{
+    // A child is reaped in the turn of the event loop that enters the next step, so a turn that
+    // ends without a child is the end of the chain.
+    return QTest::qWaitFor([] { return !hasChildren(); }, 60000);
+}
+
+ModalAnswer::ModalAnswer(std::function<void(QWidget *)> answerFunction)
+    : answer(std::move(answerFunction))
+{
+    QObject::connect(&timer, &QTimer::timeout, [this] { look(); });
+    timer.start(0);
+}
+
+void ModalAnswer::look()
+{
+    QWidget *box = QApplication::activeModalWidget();
+    if (!box)
+        return;
+    timer.stop();
+    came = true;
+    answer(box);
+    if (box->isVisible())
+        box->close();
+}

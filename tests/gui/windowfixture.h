@@ -1,0 +1,106 @@
+#pragma once
+
+#include "process.h"
+
+#include <QPushButton>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+/// The fields of the window that its behaviour is told by.
+struct ProcessProbe
+{
+    static int &fileIndex(Process &window) { return window.fileindex; }
+    static int &pageIndex(Process &window) { return window.pageindex; }
+    static QString &lastPdftkIn(Process &window) { return window.lastpdftkin; }
+    static QString &lastPdftkOut(Process &window) { return window.lastpdftkout; }
+    static QString &pdftkIn(Process &window) { return window.pdftkin; }
+    static QString &pdftkOut(Process &window) { return window.pdftkout; }
+    static QStringList &tempFiles(Process &window) { return window.tempfiles; }
+    static QProcess *process(Process &window) { return window.process; }
+    static QTimer *previewTimer(Process &window) { return window.previewtimer; }
+    static setDialog &optionDialog(Process &window) { return window.setdialog; }
+    static AboutDialog &aboutBox(Process &window) { return window.aboutdialog; }
+};
+
+/// One call of a fake tool.
+struct ToolCall
+{
+    QString tool;
+    qint64 pid;
+    QStringList arguments;
+};
+
+/// A window with folders and fake tools of its own. The current directory is the bundle's folder,
+/// as start-up makes it.
+class WindowFixture
+{
+public:
+    WindowFixture();
+    ~WindowFixture();
+
+    Process window;
+
+    template <class Widget>
+    Widget *find(const char *name)
+    {
+        auto *widget = window.findChild<Widget *>(QLatin1String(name));
+        if (!widget)
+            qFatal("no such object: %s", name);
+        return widget;
+    }
+
+    QString inputPath(const QString &name) const
+    {
+        return folder.filePath(QStringLiteral("in/") + name);
+    }
+    QString outputPath(const QString &name = {}) const;
+
+    /// Writes a small file into the input folder; returns its path.
+    QString makeFile(const QString &name, const QByteArray &content = "image") const;
+    /// Drops the files on the window, as the desktop would.
+    void drop(const QList<QUrl> &urls);
+    /// Makes the files and drops them; returns their paths.
+    QStringList addImages(const QStringList &names);
+    void setOutputFolder();
+    void click(const char *button);
+    void check(const char *box, bool checked = true);
+    void type(const char *field, const QString &text);
+
+    /// What the fake tools are told, see faketool.cpp; "" for good behaviour.
+    void tellConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
+    void tellPdftk(const QString &words) { qputenv("TESSARO_FAKE_PDFTK", words.toUtf8()); }
+
+    /// A file that holds fake tools back while it exists.
+    QString closeGate();
+    void openGate();
+
+    QList<ToolCall> calls() const;
+    /// Names and contents of the output folder, as "name: content", sorted.
+    QStringList outputFiles() const;
+    /// The last run is over: nothing was started or ended for a while and no tool runs.
+    bool waitUntilQuiet();
+
+private:
+    QTemporaryDir folder;
+};
+
+/// Answers the next modal box: checks that it comes, hands it to `answer`, and closes it if that
+/// did not. `happened()` says whether the box came.
+class ModalAnswer
+{
+public:
+    explicit ModalAnswer(std::function<void(QWidget *)> answerFunction);
+    bool happened() const { return came; }
+
+private:
+    void look();
+
+    std::function<void(QWidget *)> answer;
+    QTimer timer;
+    bool came = false;
+};
