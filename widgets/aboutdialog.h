@@ -2,6 +2,7 @@
 #define TESSARO_ABOUTDIALOG_H
 
 #include <QDialog>
+#include <QImage>
 
 #include <memory>
 
@@ -18,6 +19,10 @@ public:
     ~AboutDialog() override;
 
 private:
+    void lightenText();
+    void measureTextInPixels();
+
+    QImage ruler;
     const std::unique_ptr<Ui_AboutDialog> ui;
 };
 
