@@ -13,7 +13,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     ui->setupUi(this);
     setFixedSize(size());
     lightenText();
-    measureTextInPixels();
+    fitText();
 }
 
 // The browser lives until the base is destroyed, so its layout must let go of the ruler here.
@@ -33,10 +33,12 @@ void AboutDialog::lightenText()
 
 /// The box fits five lines where a point is a pixel. At the 96 dots per inch of most desktops the
 /// same lines wrap and push the support link out of sight, so they are laid out at 72.
-void AboutDialog::measureTextInPixels()
+void AboutDialog::fitText()
 {
     constexpr int dotsPerMeter = 2835; // 72 dots per inch
     ruler.setDotsPerMeterX(dotsPerMeter);
     ruler.setDotsPerMeterY(dotsPerMeter);
     ui->textBrowser->document()->documentLayout()->setPaintDevice(&ruler);
+    constexpr int margin = 2; // leaves 17 pixels for a line, which the tall Noto Sans needs
+    ui->textBrowser->document()->setDocumentMargin(margin);
 }

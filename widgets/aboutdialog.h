@@ -20,7 +20,7 @@ public:
 
 private:
     void lightenText();
-    void measureTextInPixels();
+    void fitText();
 
     QImage ruler;
     const std::unique_ptr<Ui_AboutDialog> ui;

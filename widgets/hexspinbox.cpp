@@ -6,6 +6,8 @@ HexSpinBox::HexSpinBox(QWidget *parent)
 {
     setRange(0, 2);
     setWrapping(true);
+    // The base was constructed before there was a name to show, and shows none until it is told.
+    setValue(0);
 }
 
 QString HexSpinBox::textFromValue(int value) const
