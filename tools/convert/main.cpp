@@ -4,6 +4,7 @@
 
 #include "convert/convertcall.h"
 #include "convert/limits.h"
+#include "convert/pdftitle.h"
 #include "support/bundle.h"
 #include "support/environment.h"
 #include "support/job.h"
@@ -63,7 +64,9 @@ Outcome convert(const ConvertCall &call)
         spec.command.push_back(job.addInput(input, inputName(number, input)));
     }
     spec.command.push_back(outputWord(job.resultName()));
-    return job.run(std::move(spec));
+    const std::string file = fileNameOf(call.output);
+    return job.run(std::move(spec),
+                   [title = file.substr(0, file.rfind('.'))](int pdf) { repairTitle(pdf, title); });
 }
 
 Outcome run(const Arguments &arguments)

@@ -24,6 +24,16 @@ std::string readAt(int file, off_t offset)
     return {buffer.data(), static_cast<size_t>(std::max<ssize_t>(count, 0))};
 }
 
+// ImageMagick 6.9.11 takes no notice of a disk that has become full.
+bool isWholePdf(int file)
+{
+    struct stat status = {};
+    if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    const std::string end = readAt(file, std::max<off_t>(status.st_size - longestTrailer, 0));
+    return readAt(file, 0).starts_with("%PDF-") && end.find("%%EOF") != std::string::npos;
+}
+
 } // namespace
 
 Job::Job(const std::string &target)
@@ -55,12 +65,12 @@ std::string Job::addFile(const std::string &name, const std::string &content)
     return name;
 }
 
-Outcome Job::run(ChildSpec spec)
+Outcome Job::run(ChildSpec spec, const std::function<void(int file)> &polish)
 {
     spec.folder = m_folder.descriptor();
     const ChildResult result = runChild(spec);
     if (result.succeeded())
-        return deliver();
+        return deliver(polish);
     Outcome outcome = {result.exitStatus(), withOriginalNames(result.output),
                        withOriginalNames(result.errors)};
     if (result.timedOut)
@@ -79,25 +89,17 @@ std::string Job::withOriginalNames(std::string messages) const
     return messages;
 }
 
-Outcome Job::deliver() const
+Outcome Job::deliver(const std::function<void(int file)> &polish) const
 {
-    if (!hasWholePdf())
+    const FileDescriptor file(openat(m_folder.descriptor(), m_resultName.c_str(),
+                                     O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!isWholePdf(file.get()))
         return {1, "", "the tool reported success but left no whole PDF\n"};
+    if (polish)
+        polish(file.get());
     if (renameat(m_folder.descriptor(), m_resultName.c_str(), AT_FDCWD, m_target.c_str()) != 0)
         throw systemError("cannot replace", m_target);
     return {};
-}
-
-// ImageMagick 6.9.11 takes no notice of a disk that has become full.
-bool Job::hasWholePdf() const
-{
-    const FileDescriptor file(openat(m_folder.descriptor(), m_resultName.c_str(),
-                                     O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status = {};
-    if (!file.valid() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return false;
-    const std::string end = readAt(file.get(), std::max<off_t>(status.st_size - longestTrailer, 0));
-    return readAt(file.get(), 0).starts_with("%PDF-") && end.find("%%EOF") != std::string::npos;
 }
 
 void requireRegularFile(const std::string &path)

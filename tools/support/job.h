@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,13 +28,13 @@ public:
     /// The target's own file name, made safe: the one the tool has to write.
     const std::string &resultName() const { return m_resultName; }
 
-    /// Runs `spec` in the private folder. Throws ToolError when the tool cannot be started.
-    Outcome run(ChildSpec spec);
+    /// Runs `spec` in the private folder. `polish`, if given, may change the whole PDF that the
+    /// tool has made, before it is moved. Throws ToolError when the tool cannot be started.
+    Outcome run(ChildSpec spec, const std::function<void(int file)> &polish = {});
 
 private:
     std::string withOriginalNames(std::string messages) const;
-    Outcome deliver() const;
-    bool hasWholePdf() const;
+    Outcome deliver(const std::function<void(int file)> &polish) const;
 
     std::string m_target;
     std::string m_resultName;

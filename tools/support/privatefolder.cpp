@@ -58,7 +58,8 @@ bool PrivateFolder::take(const std::string &name)
     if (!taken || !isCurrent(name))
         return false;
     m_name = name;
-    empty();
+    if (!made)
+        empty();
     return true;
 }
 
@@ -82,6 +83,8 @@ void PrivateFolder::empty() const
 {
     const int copy = openat(m_folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const std::unique_ptr<DIR, CloseDirectory> directory(copy < 0 ? nullptr : fdopendir(copy));
-    while (const dirent *entry = directory ? readdir(directory.get()) : nullptr)
-        unlinkat(m_folder.get(), entry->d_name, 0);
+    while (const dirent *entry = directory ? readdir(directory.get()) : nullptr) {
+        if (entry->d_type != DT_DIR)
+            unlinkat(m_folder.get(), entry->d_name, 0);
+    }
 }

@@ -175,18 +175,35 @@ std::string localeCharset()
     return charset == "ANSI_X3.4-1968" ? "UTF-8" : charset;
 }
 
+std::u16string toUtf16(const std::string &name)
+{
+    std::u16string units;
+    for (size_t i = 0, length = 0; i < name.size(); i += std::max<size_t>(length, 1)) {
+        length = utf8Length(name, i);
+        const char32_t code = length == 0 ? U'\0' : codePointAt(name, i, length);
+        const bool control = code < 0x20 || (code >= 0x7F && code < 0xA0);
+        if (code > 0xFFFF) {
+            units += static_cast<char16_t>(0xD7C0 + (code >> 10));
+            units += static_cast<char16_t>(0xDC00 + (code & 0x3FF));
+        } else {
+            units += control ? u'_' : static_cast<char16_t>(code);
+        }
+    }
+    return units;
+}
+
 std::string safeFileName(const std::string &name)
 {
-    constexpr size_t longestInBasicPlane = 3;
     std::string safe;
-    for (size_t i = 0; i < name.size();) {
-        const size_t length = utf8Length(name, i);
-        const bool control = byteAt(name, i) < 0x20 || byteAt(name, i) == 0x7F;
-        if (length == 0 || length > longestInBasicPlane || control)
+    for (const char16_t unit : toUtf16(name)) {
+        if (unit > 0xFF) {
             safe += '_';
-        else
-            safe += name.substr(i, length);
-        i += std::max<size_t>(length, 1);
+        } else if (unit > 0x7F) {
+            safe += static_cast<char>(0xC0 | (unit >> 6));
+            safe += static_cast<char>(0x80 | (unit & 0x3F));
+        } else {
+            safe += static_cast<char>(unit);
+        }
     }
     return safe;
 }

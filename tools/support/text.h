@@ -34,7 +34,9 @@ std::string toUtf8(const std::string &bytes, const std::string &charset);
 /// that the environment names is not installed.
 std::string localeCharset();
 
-/// `name` as a file name that both tools take literally and that makes a faithful PDF title:
-/// control characters, malformed bytes and characters beyond the basic plane become '_'
-/// (ImageMagick 6.9.11 writes a title with any of them as if its bytes were Latin-1).
+/// `name` in UTF-16; control characters and malformed bytes become '_'.
+std::u16string toUtf16(const std::string &name);
+
+/// `name` as a file name that both tools take literally: as many characters as toUtf16() has
+/// units, those outside Latin-1 as '_' (ImageMagick 6.9.11 cannot write any other as a title).
 std::string safeFileName(const std::string &name);
