@@ -228,7 +228,7 @@ void TestPcx::readsNothingFromAFileThatEndsAnywhereInside()
 void TestPcx::obeysTheReadersLimitOfMemory()
 {
     const int previous = QImageReader::allocationLimit();
-    const QByteArray lines = QByteArray(2 * 2048 * 2048 / 32 * 3, '\xE0');
+    const QByteArray lines = QByteArray(qsizetype{2048} * 2048 * 3 / 16, '\xE0');
     const QByteArray file =
         PcxFile{.right = 2047, .bottom = 2047, .bytesPerLine = 2048, .data = lines}.bytes();
 
