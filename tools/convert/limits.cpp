@@ -1,6 +1,7 @@
 #include "convert/limits.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 #include <linux/magic.h>
@@ -14,13 +15,11 @@ constexpr unsigned long long mebibyte = 1024ULL * 1024;
 constexpr unsigned long long gibibyte = 1024 * mebibyte;
 
 // Two fifths of a 4 GiB machine leave room for the window, the desktop and the PDF being written;
-// beyond 5/2 GiB more memory for pixels brings no speed that disk caching does not.
-constexpr unsigned long long mostPixelMemory = 5 * gibibyte / 2;
-// What decoders, the C library and the threads need beside the pixels: with the above, a run
-// stays below 4 GiB.
-constexpr unsigned long long memoryBesidePixels = 5 * gibibyte / 4;
+// on larger ones pixels go to disk as late as the bound of 4 GiB for the whole run lets them.
+constexpr unsigned long long mostPixelMemory = 13 * gibibyte / 4;
+constexpr unsigned long long memoryBesidePixels = 5 * gibibyte / 8;
 
-constexpr std::chrono::seconds timeForFirst{50};
+constexpr std::chrono::seconds timeForFirst{45};
 constexpr std::chrono::seconds timeForEachFurther{30};
 
 // Below this size of input files a second thread costs more to start than it saves.
@@ -46,9 +45,17 @@ ConvertLimits limitsFor(size_t inputs, unsigned long long bytes, unsigned long l
 std::string pixelFolder()
 {
     const char *wished = getenv("TMPDIR");
-    if (wished && *wished == '/' && access(wished, W_OK | X_OK) == 0 && !isInMemory(wished))
-        return wished;
-    return "/var/tmp";
+    const std::array<std::string, 3> folders = {wished ? wished : "", "/var/tmp", "/tmp"};
+    const auto isUsable = [](const std::string &folder) {
+        return folder.starts_with('/') && access(folder.c_str(), W_OK | X_OK) == 0;
+    };
+    const auto isOnDisk = [&isUsable](const std::string &folder) {
+        return isUsable(folder) && !isInMemory(folder);
+    };
+    const auto *folder = std::find_if(folders.begin(), folders.end(), isOnDisk);
+    if (folder == folders.end())
+        folder = std::find_if(folders.begin(), folders.end(), isUsable);
+    return folder == folders.end() ? "/tmp" : *folder;
 }
 
 unsigned long long freeBytesIn(const std::string &folder)

@@ -20,8 +20,8 @@ struct ConvertLimits
 ConvertLimits limitsFor(size_t inputs, unsigned long long bytes, unsigned long long ram,
                         unsigned long long freeDisk);
 
-/// The folder for pixels that do not fit into memory: TMPDIR, or /var/tmp when that is not set,
-/// cannot be used, or is kept in memory itself.
+/// The folder for pixels that do not fit into memory: the first of TMPDIR, /var/tmp and /tmp that
+/// can be written in and is not kept in memory itself; when all are, the first of them.
 std::string pixelFolder();
 
 unsigned long long freeBytesIn(const std::string &folder);
