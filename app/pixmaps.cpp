@@ -1,6 +1,6 @@
 #include "pixmaps.h"
 
-#include <QTransform>
+#include <QIcon>
 
 QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mode, qreal ratio)
 {
@@ -8,6 +8,11 @@ QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mod
         picture.scaled((QSizeF(size) * ratio).toSize(), mode, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
     return scaled;
+}
+
+QPixmap crispPixmap(const QString &path, QSize size, qreal ratio)
+{
+    return QIcon(path).pixmap(size, ratio);
 }
 
 QBrush pixmapBrush(const QPixmap &picture)

@@ -3,6 +3,7 @@
 #include "process.h"
 
 #include "accessibility.h"
+#include "fittext.h"
 #include "pixmaps.h"
 #include "ui_process.h"
 
@@ -28,6 +29,8 @@ Process::Process(QWidget *parent)
     // Five controls lie below the frame's edge in the layout; at its page's height they show.
     ui->frame_6->resize(ui->frame_6->width(), ui->stackedWidget_dialog->height());
     describeControls(*ui);
+    fitText(*this);
+    fitText(setdialog);
 
     process = new QProcess;
     fileindex = 0;
@@ -36,6 +39,7 @@ Process::Process(QWidget *parent)
 
     ui->outputfolderEdit->setPalette(QPalette(Qt::white));
     ui->progressBar->setValue(0);
+    ui->progressBar->setAlignment(Qt::AlignCenter);
     lastpdftkin = lastpdftkout = pdftkin = pdftkout = QString::fromLatin1("");
     setdefaultpreview();
     setabout();

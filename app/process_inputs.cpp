@@ -217,7 +217,8 @@ void Process::dopreview()
 void Process::setdefaultpreview()
 {
     const QSize size(previewBox.width(), previewBox.width());
-    const QPixmap picture(QStringLiteral(":/iconoption/icons/whle.png"));
+    const QPixmap picture =
+        crispPixmap(QStringLiteral(":/iconoption/icons/whle.png"), size, devicePixelRatioF());
     ui->previewframe->resize(size);
     showPreview(scaledPixmap(picture, size, Qt::IgnoreAspectRatio, devicePixelRatioF()));
 }

@@ -2,6 +2,7 @@
 
 #include "compressions.h"
 #include "pagesizes.h"
+#include "pixmaps.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -70,7 +71,7 @@ QLabel *placeRightLabel(QWidget *parent, const char *name, const QRect &geometry
 QLabel *placePicture(QWidget *parent, const char *name, const QRect &geometry, const char *picture)
 {
     auto *label = place<QLabel>(parent, name, geometry);
-    label->setPixmap(QPixmap(iconPath(picture)));
+    label->setPixmap(crispPixmap(iconPath(picture), {32, 32}, parent->devicePixelRatioF()));
     return label;
 }
 
@@ -248,28 +249,29 @@ void Ui_process::setupSideButtons(QWidget *process)
     frame_8 = placeFrame(process, "frame_8", {-10, 380, 571, 81}, QFrame::Raised);
     frame_8->setStyleSheet(QStringLiteral("background-color:#F8F8F8"));
 
+    // The page shown has its button disabled: that state is a picture of its own, "you are here".
     const struct
     {
         QPushButton *Ui_process::*button;
         const char *name;
         QPoint place;
         const char *icon;
+        const char *disabledIcon;
     } sideButtons[] = {
-        {&Ui_process::pushButton_PDFSetting,
-         "pushButton_PDFSetting",
-         {250, -2},
-         "description1.png"},
-        {&Ui_process::pushButton_ImageSetting,
-         "pushButton_ImageSetting",
-         {145, -1},
-         "appearance1.png"},
-        {&Ui_process::pushButton_Security, "pushButton_Security", {355, -2}, "security1.png"},
-        {&Ui_process::pushButton_Inout, "pushButton_Inout", {40, -1}, "inout3.png"},
-        {&Ui_process::aboutpushButton, "aboutpushButton", {460, -2}, "about4.png"},
+        // clang-format off
+        {&Ui_process::pushButton_PDFSetting, "pushButton_PDFSetting", {250, -2}, "description1.png", "description1-current.png"},
+        {&Ui_process::pushButton_ImageSetting, "pushButton_ImageSetting", {145, -1}, "appearance1.png", "appearance1-current.png"},
+        {&Ui_process::pushButton_Security, "pushButton_Security", {355, -2}, "security1.png", "security1-current.png"},
+        {&Ui_process::pushButton_Inout, "pushButton_Inout", {40, -1}, "inout3.png", "inout3-current.png"},
+        {&Ui_process::aboutpushButton, "aboutpushButton", {460, -2}, "about4.png", "about4.png"},
+        // clang-format on
     };
     for (const auto &row : sideButtons) {
         auto *button = place<QPushButton>(frame_8, row.name, {row.place, QSize(81, 81)});
         setFlatIcon(button, row.icon, {70, 75});
+        QIcon icon = button->icon();
+        icon.addFile(iconPath(row.disabledIcon), {}, QIcon::Disabled);
+        button->setIcon(icon);
         this->*row.button = button;
     }
     pushButton_ImageSetting->setStyleSheet(QString());
