@@ -1,0 +1,312 @@
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include "pdffacts.h"
+#include "toolbench.h"
+
+/// What the program convert leaves behind, on success and on failure.
+class ConvertResults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void optionsReachTheTool_data();
+    void optionsReachTheTool();
+    void anyNameIsAnOutput_data();
+    void anyNameIsAnOutput();
+    void anyNameIsAnInput_data();
+    void anyNameIsAnInput();
+    void sixtyScannedPagesGiveSixty();
+    void thousandsOfLongNamesFit();
+    void failureLeavesTheOlderPdf_data();
+    void failureLeavesTheOlderPdf();
+    void whatIsNoRegularFileFailsAtOnce_data();
+    void whatIsNoRegularFileFailsAtOnce();
+    void outputFolderMayBeRelativeOrOdd_data();
+    void outputFolderMayBeRelativeOrOdd();
+    void missingOutputFolderIsNamed();
+    void decompressionBombIsRefused();
+    void tenCallsAtOnceInOneFolder();
+    void messagesNameTheUsersFiles();
+    void callIsLoggedOnRequest();
+};
+
+namespace {
+
+QByteArray bytesOf(const char *utf8)
+{
+    return utf8;
+}
+
+// Rows for every name that one of the tools or a shell would read as something else.
+void addOddNames()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"100%",
+                             "a%d",
+                             "%03d",
+                             "a[0]",
+                             "a[x]",
+                             "png:x",
+                             "-dash",
+                             "--help",
+                             " two  blanks ",
+                             "@list",
+                             "a*b?",
+                             "a{1,2}",
+                             "a\\b",
+                             "~",
+                             "quote's",
+                             "semi;$(colon)`",
+                             "\xC3\xBC\xE2\x82\xAC \xF0\x9F\x98\x80",
+                             "\xE6\x97\xA5\xE6\x9C\xAC",
+                             "a<b>&c",
+                             "x.y.z"})
+        QTest::newRow(name) << QString::fromUtf8(name);
+    QTest::newRow("200 bytes of UTF-8") << QString::fromUtf8(bytesOf("\xC3\xBC").repeated(100));
+}
+
+} // namespace
+
+void ConvertResults::optionsReachTheTool_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("none") << QStringList{} << QSizeF(40, 20);
+    QTest::newRow("a page size") << QStringList{"-resize", "80x80"} << QSizeF(80, 40);
+    QTest::newRow("a turn") << QStringList{"-rotate", "90"} << QSizeF(20, 40);
+    QTest::newRow("all of them") << QStringList{"-resize",   "80x80", "-rotate",    "270",
+                                                "-compress", "zip",   "-monochrome"}
+                                 << QSizeF(40, 80);
+}
+
+void ConvertResults::optionsReachTheTool()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QSizeF, size);
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.ppm"), {40, 20});
+    const RunResult result =
+        runBundled("convert", options + QStringList{"x.ppm", "o.pdf"}, folder.path());
+    QCOMPARE(result.errors + result.output, QByteArray());
+    QCOMPARE(readPdf(folder.filePath("o.pdf")).pageSizes, QList<QSizeF>{size});
+}
+
+void ConvertResults::anyNameIsAnOutput_data()
+{
+    addOddNames();
+}
+
+void ConvertResults::anyNameIsAnOutput()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.png"));
+    const QString file = name + ".pdf";
+    const RunResult result = runBundled("convert", {"x.png", "x.png", file}, folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(namesIn(folder.path()).size(), 2);
+    const PdfFacts facts = readPdf(folder.filePath(file));
+    QCOMPARE(facts.pages, 2);
+    QCOMPARE(facts.title, name);
+}
+
+void ConvertResults::anyNameIsAnInput_data()
+{
+    addOddNames();
+}
+
+void ConvertResults::anyNameIsAnInput()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString file = name + ".png";
+    makeImage(folder.filePath(file));
+    for (const QString &input : {file, folder.filePath(file)}) {
+        const RunResult result = runBundled("convert", {input, input, "o.pdf"}, folder.path());
+        QCOMPARE(result.errors, QByteArray());
+        QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 2);
+    }
+}
+
+void ConvertResults::sixtyScannedPagesGiveSixty()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("0.jpg"), {2480, 3508});
+    QStringList arguments;
+    for (int page = 0; page < 60; ++page) {
+        arguments << QString::number(page) + ".jpg";
+        QFile::link("0.jpg", folder.filePath(arguments.last()));
+    }
+    const RunResult result = runBundled("convert", arguments << "o.pdf", folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    const PdfFacts facts = readPdf(folder.filePath("o.pdf"));
+    QCOMPARE(facts.pageSizes, QList<QSizeF>(60, facts.pageSizes.value(0)));
+}
+
+void ConvertResults::thousandsOfLongNamesFit()
+{
+    const QTemporaryDir folder;
+    const QString deep = folder.filePath(QString(190, 'd'));
+    QDir().mkpath(deep);
+    makeImage(deep + "/x.ppm", {1, 1});
+    const RunResult result =
+        runBundled("convert", QStringList(3000, deep + "/x.ppm") << "o.pdf", folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 3000);
+}
+
+void ConvertResults::failureLeavesTheOlderPdf_data()
+{
+    QTest::addColumn<QStringList>("inputs");
+    QTest::newRow("the only image is missing") << QStringList{"missing.png"};
+    QTest::newRow("one of three is missing") << QStringList{"x.png", "missing.png", "x.png"};
+    QTest::newRow("the last is no image") << QStringList{"x.png", "text.png"};
+    QTest::newRow("the first is empty") << QStringList{"empty.png", "x.png"};
+    QTest::newRow("one is a PostScript file") << QStringList{"x.png", "ps.png"};
+    QTest::newRow("one is cut off within its header") << QStringList{"x.png", "short.png"};
+    QTest::newRow("one is a folder") << QStringList{"x.png", "folder"};
+}
+
+void ConvertResults::failureLeavesTheOlderPdf()
+{
+    QFETCH(QStringList, inputs);
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.png"));
+    writeContent(folder.filePath("text.png"), "no image\n");
+    writeContent(folder.filePath("empty.png"), "");
+    writeContent(folder.filePath("ps.png"), "%!PS\nshowpage\n");
+    writeContent(folder.filePath("short.png"), contentOf(folder.filePath("x.png")).left(20));
+    QDir(folder.path()).mkdir("folder");
+    writeContent(folder.filePath("o.pdf"), "older");
+    const QStringList names = namesIn(folder.path());
+    const RunResult result = runBundled("convert", inputs + QStringList{"o.pdf"}, folder.path());
+    QCOMPARE(result.status, 1);
+    QVERIFY(!result.errors.isEmpty());
+    QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("older"));
+    QCOMPARE(namesIn(folder.path()), names);
+}
+
+void ConvertResults::whatIsNoRegularFileFailsAtOnce_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::newRow("a FIFO") << "fifo";
+    QTest::newRow("a device") << "/dev/zero";
+    QTest::newRow("a folder") << ".";
+    QTest::newRow("a symbolic link to a FIFO") << "link";
+    QTest::newRow("a loop of symbolic links") << "loop";
+}
+
+void ConvertResults::whatIsNoRegularFileFailsAtOnce()
+{
+    QFETCH(QString, input);
+    const QTemporaryDir folder;
+    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath("fifo")).constData(), 0600), 0);
+    QFile::link("fifo", folder.filePath("link"));
+    QFile::link("loop", folder.filePath("loop"));
+    makeImage(folder.filePath("x.png"));
+    const RunResult result = runBundled("convert", {"x.png", input, "o.pdf"}, folder.path());
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.errors.startsWith("convert: cannot read '" + input.toUtf8() + "'"));
+    QVERIFY(!QFile::exists(folder.filePath("o.pdf")));
+}
+
+void ConvertResults::outputFolderMayBeRelativeOrOdd_data()
+{
+    QTest::addColumn<QString>("output");
+    QTest::newRow("below the current folder") << "out";
+    QTest::newRow("beginning with a dash") << "-out";
+    QTest::newRow("with blanks and dots") << "./my out. put/../my out. put";
+    QTest::newRow("with percent signs and brackets") << "50%d [x]";
+    QTest::newRow("with a colon") << "png:";
+}
+
+void ConvertResults::outputFolderMayBeRelativeOrOdd()
+{
+    QFETCH(QString, output);
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkpath(QDir::cleanPath(output));
+    makeImage(folder.filePath("x.png"));
+    const RunResult result = runBundled("convert", {"x.png", output + "/o.pdf"}, folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(namesIn(folder.filePath(output)), QStringList{"o.pdf"});
+}
+
+void ConvertResults::missingOutputFolderIsNamed()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.png"));
+    const RunResult result = runBundled("convert", {"x.png", "no/o.pdf"}, folder.path());
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors,
+             QByteArray("convert: cannot use the folder 'no': No such file or directory\n"));
+}
+
+void ConvertResults::decompressionBombIsRefused()
+{
+    const QTemporaryDir folder;
+    // A bitmap's header alone claims 60,000 by 60,000 pixels of one bit.
+    writeContent(folder.filePath("x.pbm"), "P4\n60000 60000\n" + QByteArray(4096, '\0'));
+    const RunResult result = runBundled("convert", {"x.pbm", "o.pdf"}, folder.path());
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains("exceeds limit"), result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{"x.pbm"});
+}
+
+void ConvertResults::tenCallsAtOnceInOneFolder()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.jpg"), {900, 700});
+    std::vector<std::unique_ptr<QProcess>> calls;
+    for (int i = 0; i < 10; ++i)
+        calls.push_back(startProgram(bundledTool("convert"),
+                                     {"x.jpg", "o" + QString::number(i % 5) + ".pdf"},
+                                     folder.path()));
+    for (const auto &call : calls) {
+        QVERIFY(call->waitForFinished(120'000));
+        QCOMPARE(call->readAllStandardError(), QByteArray());
+        QCOMPARE(call->exitCode(), 0);
+    }
+    QCOMPARE(namesIn(folder.path()),
+             QStringList({"o0.pdf", "o1.pdf", "o2.pdf", "o3.pdf", "o4.pdf", "x.jpg"}));
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(readPdf(folder.filePath("o" + QString::number(i) + ".pdf")).pages, 1);
+}
+
+void ConvertResults::messagesNameTheUsersFiles()
+{
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("my bad%d.png"), "no image\n");
+    const RunResult result = runBundled("convert", {"my bad%d.png", "o.pdf"}, folder.path());
+    QVERIFY2(result.errors.contains("`my bad%d.png'"), result.errors.constData());
+}
+
+void ConvertResults::callIsLoggedOnRequest()
+{
+    const QTemporaryDir folder, logs;
+    makeImage(folder.filePath("x.png"));
+    writeContent(folder.filePath("bad.png"), "no image\n");
+    const QString log = logs.filePath("log");
+    const Variables variables = {{"TESSARO_TOOL_LOG", log}};
+    runBundled("convert", {"-rotate", "90", "x.png", "o.pdf"}, folder.path(), variables);
+    runBundled("convert", {"bad.png", "o.pdf"}, folder.path(), variables);
+    runBundled("convert", {"-size", "1x1", "xc:red", "o.pdf"}, folder.path(), variables);
+    const QString text = contentOf(log);
+    QVERIFY2(text.contains(QRegularExpression(
+                 "^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ convert exit status 0 after \\d+ ms\n"
+                 "  argument: -rotate\n  argument: 90\n  argument: x.png\n  argument: o.pdf\n"
+                 "\\S+ convert exit status 1 after \\d+ ms\n"
+                 "  argument: bad.png\n  argument: o.pdf\n  message: .*bad.png.*\n")),
+             qPrintable(text));
+    QVERIFY2(text.contains("  argument: xc:red\n  argument: o.pdf\n  message: "), qPrintable(text));
+    QCOMPARE(QFile::permissions(log) & (QFile::ReadOther | QFile::ReadGroup), QFile::Permissions());
+    QCOMPARE(namesIn(logs.path()), QStringList{"log"});
+}
+
+QTEST_GUILESS_MAIN(ConvertResults)
+#include "convertresults_test.moc"

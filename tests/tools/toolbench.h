@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+
+#include <QProcess>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// How a program that was run to its end has ended.
+struct RunResult
+{
+    /// -1 when it could not be started or was ended by a signal.
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+using Variables = QList<std::pair<QString, QString>>;
+
+/// The program "convert" or "pdftk" of the bundle in the build tree.
+QString bundledTool(const QString &name);
+/// Contents of that bundle.
+QString bundleContents();
+
+/// Runs a program to its end in `folder`, with nothing to read and `variables` put into the
+/// environment.
+RunResult runProgram(const QString &program, const QStringList &arguments, const QString &folder,
+                     const Variables &variables = {});
+RunResult runBundled(const QString &name, const QStringList &arguments, const QString &folder,
+                     const Variables &variables = {});
+/// packaging/assemble-tools for the bundle with this Contents.
+RunResult assembleTools(const QString &contents, const Variables &variables = {});
+
+/// Starts a program and leaves it to the caller.
+std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList &arguments,
+                                       const QString &folder, const Variables &variables = {});
+
+/// The names in a folder, hidden ones included, sorted.
+QStringList namesIn(const QString &folder);
+
+QByteArray contentOf(const QString &path);
+/// Fails the test when it cannot be written.
+void writeContent(const QString &path, const QByteArray &content);
+/// A picture with a gradient and fine structure, in the format of the path's extension.
+void makeImage(const QString &path, QSize size = {8, 6});
+
+/// A bundle of its own in a temporary folder: the two programs, and as their real tools what
+/// `convertTool` and `pdftkTool` say (words, one per line).
+class ToolBundle
+{
+public:
+    ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool);
+    QString contents() const { return m_folder.filePath("Tessaro.app/Contents"); }
+    QString tool(const QString &name) const { return contents() + "/MacOS/" + name; }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// The words of a real tool that is a shell script; "$1" is the first argument it is given.
+QStringList shellTool(const QString &script);

@@ -1,0 +1,315 @@
+#include <QTest>
+
+#include "convert/convertcall.h"
+#include "convert/limits.h"
+#include "pdftk/infofile.h"
+#include "pdftk/pdftkcall.h"
+#include "support/text.h"
+
+using Words = std::vector<std::string>;
+using Size = unsigned long long;
+
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(Words)
+
+/// The rules of the two tools that need neither the tools nor a file.
+class ToolRules : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void convertCallIsSplit_data();
+    void convertCallIsSplit();
+    void otherConvertCallsAreNotOurs_data();
+    void otherConvertCallsAreNotOurs();
+    void inputsGetPlainNames_data();
+    void inputsGetPlainNames();
+    void percentSignsAreDoubledForTheOutput();
+    void limitsFollowTheMachine_data();
+    void limitsFollowTheMachine();
+    void pdftkTailHidesPasswords_data();
+    void pdftkTailHidesPasswords();
+    void otherPdftkCallsAreNotOurs_data();
+    void otherPdftkCallsAreNotOurs();
+    void loggedArgumentsAreMasked_data();
+    void loggedArgumentsAreMasked();
+    void infoFileBecomesLossless_data();
+    void infoFileBecomesLossless();
+    void textBecomesUtf8_data();
+    void textBecomesUtf8();
+    void fileNamesAreMadeSafe_data();
+    void fileNamesAreMadeSafe();
+};
+
+void ToolRules::convertCallIsSplit_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::addColumn<Words>("options");
+    QTest::addColumn<Words>("inputs");
+    QTest::newRow("no option, one image") << Words{"/a.png", "o.pdf"} << Words{} << Words{"/a.png"};
+    QTest::newRow("every option, two images")
+        << Words{"-resize", "595x842",     "-rotate", "90", "-compress",
+                 "JPEG",    "-monochrome", "/a",      "/b", "o.pdf"}
+        << Words{"-resize", "595x842", "-rotate", "90", "-compress", "JPEG", "-monochrome"}
+        << Words{"/a", "/b"};
+    QTest::newRow("the output begins with a dash")
+        << Words{"/a.png", "-out/o.pdf"} << Words{} << Words{"/a.png"};
+}
+
+void ToolRules::convertCallIsSplit()
+{
+    QFETCH(Words, arguments);
+    QFETCH(Words, options);
+    QFETCH(Words, inputs);
+    const std::optional<ConvertCall> call = parseConvertCall(arguments);
+    QVERIFY(call);
+    QCOMPARE(call->options, options);
+    QCOMPARE(call->inputs, inputs);
+    QCOMPARE(call->output, arguments.back());
+}
+
+void ToolRules::otherConvertCallsAreNotOurs_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::newRow("no arguments") << Words{};
+    QTest::newRow("a question for the version") << Words{"-version"};
+    QTest::newRow("an output but no input") << Words{"o.pdf"};
+    QTest::newRow("an option without its value") << Words{"-resize"};
+    QTest::newRow("another output format") << Words{"/a.png", "o.png"};
+    QTest::newRow("an option that the application has not")
+        << Words{"-density", "72", "/a", "o.pdf"};
+    QTest::newRow("an option behind the input") << Words{"/a", "-rotate", "90", "o.pdf"};
+    QTest::newRow("the standard input") << Words{"-", "o.pdf"};
+}
+
+void ToolRules::otherConvertCallsAreNotOurs()
+{
+    QFETCH(Words, arguments);
+    QVERIFY(!parseConvertCall(arguments));
+}
+
+void ToolRules::inputsGetPlainNames_data()
+{
+    QTest::addColumn<std::string>("path");
+    QTest::addColumn<std::string>("name");
+    QTest::newRow("the extension is kept")
+        << std::string("/x/a b.JPG") << std::string("input-7.JPG");
+    QTest::newRow("no extension") << std::string("/x.y/a") << std::string("input-7");
+    QTest::newRow("never the result's extension")
+        << std::string("/a.pdf") << std::string("input-7");
+    QTest::newRow("a selector is no extension")
+        << std::string("/a.png[0]") << std::string("input-7");
+    QTest::newRow("a long end is no extension")
+        << std::string("/a.abcdefghi") << std::string("input-7");
+    QTest::newRow("a dot at the end") << std::string("/a.") << std::string("input-7");
+}
+
+void ToolRules::inputsGetPlainNames()
+{
+    QFETCH(std::string, path);
+    QFETCH(std::string, name);
+    QCOMPARE(inputName(7, path), name);
+}
+
+void ToolRules::percentSignsAreDoubledForTheOutput()
+{
+    QCOMPARE(outputWord("50%d%.pdf"), std::string("./50%%d%%.pdf"));
+}
+
+void ToolRules::limitsFollowTheMachine_data()
+{
+    constexpr Size gib = Size(1) << 30;
+    QTest::addColumn<int>("inputs");
+    QTest::addColumn<Size>("ram");
+    QTest::addColumn<Size>("memory");
+    QTest::addColumn<int>("seconds");
+    QTest::newRow("a small machine gives two fifths") << 1 << 5 * gib << 2 * gib << 45;
+    QTest::newRow("a large machine stays below 4 GiB") << 1 << 64 * gib << 13 * gib / 4 << 45;
+    QTest::newRow("every further image has its own time")
+        << 200 << 5 * gib << 2 * gib << 45 + 199 * 30;
+}
+
+void ToolRules::limitsFollowTheMachine()
+{
+    QFETCH(int, inputs);
+    QFETCH(Size, ram);
+    QFETCH(Size, memory);
+    QFETCH(int, seconds);
+    const ConvertLimits limits = limitsFor(static_cast<size_t>(inputs), 1 << 20, ram, 400);
+    QCOMPARE(limits.memory, memory);
+    QCOMPARE(limits.disk, Size(300));
+    QCOMPARE(limits.time, std::chrono::seconds(seconds));
+    const std::vector<ResourceLimit> kernel = kernelLimits(limits);
+    QCOMPARE(kernel.front().resource, RLIMIT_DATA);
+    QVERIFY(kernel.front().value < Size(4) << 30);
+}
+
+void ToolRules::pdftkTailHidesPasswords_data()
+{
+    QTest::addColumn<Words>("tail");
+    QTest::addColumn<Words>("shown");
+    QTest::addColumn<Words>("answers");
+    QTest::newRow("nothing") << Words{} << Words{} << Words{};
+    QTest::newRow("both passwords and permissions")
+        << Words{"owner_pw", "a", "user_pw", "b", "allow", "printing", "allow", "copycontents"}
+        << Words{"owner_pw", "PROMPT",   "user_pw", "PROMPT",
+                 "allow",    "printing", "allow",   "copycontents"}
+        << Words{"a", "b"};
+    QTest::newRow("a keyword as a password")
+        << Words{"user_pw", "allow"} << Words{"user_pw", "PROMPT"} << Words{"allow"};
+    QTest::newRow("a blank in a password")
+        << Words{"owner_pw", "se", "cret", "allow", "printing"}
+        << Words{"owner_pw", "PROMPT", "********", "allow", "printing"} << Words{"se"};
+    QTest::newRow("33 characters: the tool would drop and print the last")
+        << Words{"user_pw", std::string(32, 'x') + "y"} << Words{"user_pw", "PROMPT"}
+        << Words{std::string(32, 'x')};
+    QTest::newRow("a keyword without a password")
+        << Words{"user_pw"} << Words{"user_pw"} << Words{};
+}
+
+void ToolRules::pdftkTailHidesPasswords()
+{
+    QFETCH(Words, tail);
+    QFETCH(Words, shown);
+    QFETCH(Words, answers);
+    Words arguments = {"in.pdf", "update_info", "info", "output", "out.pdf"};
+    arguments.insert(arguments.end(), tail.begin(), tail.end());
+    const std::optional<PdftkCall> call = parsePdftkCall(arguments, "UTF-8");
+    QVERIFY(call);
+    QCOMPARE(call->input, std::string("in.pdf"));
+    QCOMPARE(call->infoFile, std::string("info"));
+    QCOMPARE(call->output, std::string("out.pdf"));
+    QCOMPARE(call->tail, shown);
+    Words given;
+    for (const Prompt &prompt : call->passwords)
+        given.push_back(prompt.answer);
+    QCOMPARE(given, answers);
+}
+
+void ToolRules::otherPdftkCallsAreNotOurs_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::newRow("no arguments") << Words{};
+    QTest::newRow("a question for the version") << Words{"--version"};
+    QTest::newRow("another operation") << Words{"a.pdf", "cat", "1", "output", "o.pdf"};
+    QTest::newRow("no output") << Words{"a.pdf", "update_info", "i"};
+    QTest::newRow("standard output") << Words{"a.pdf", "output", "-"};
+}
+
+void ToolRules::otherPdftkCallsAreNotOurs()
+{
+    QFETCH(Words, arguments);
+    QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
+}
+
+void ToolRules::loggedArgumentsAreMasked_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::addColumn<Words>("masked");
+    QTest::newRow("nothing to hide")
+        << Words{"a.pdf", "cat", "output", "b.pdf"} << Words{"a.pdf", "cat", "output", "b.pdf"};
+    QTest::newRow("passwords and their rests")
+        << Words{"owner_pw", "a", "b", "allow", "printing", "user_pw", "c"}
+        << Words{"owner_pw", "********", "********", "allow", "printing", "user_pw", "********"};
+    QTest::newRow("a keyword as a password")
+        << Words{"user_pw", "owner_pw", "x"} << Words{"user_pw", "********", "********"};
+    QTest::newRow("an input's password")
+        << Words{"a.pdf", "input_pw", "A=x", "output", "b.pdf"}
+        << Words{"a.pdf", "input_pw", "********", "output", "********"};
+}
+
+void ToolRules::loggedArgumentsAreMasked()
+{
+    QFETCH(Words, arguments);
+    QFETCH(Words, masked);
+    QCOMPARE(maskedPdftkArguments(arguments), masked);
+}
+
+void ToolRules::infoFileBecomesLossless_data()
+{
+    QTest::addColumn<std::string>("content");
+    QTest::addColumn<std::string>("charset");
+    QTest::addColumn<std::string>("lossless");
+    QTest::newRow("every pair gets its beginning")
+        << std::string("InfoKey:Title\nInfoValue:a\nInfoKey:Author\nInfoValue:\n")
+        << std::string("UTF-8")
+        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: a\n"
+                       "InfoBegin\nInfoKey: Author\nInfoValue: \n");
+    QTest::newRow("blanks stay, special characters become entities")
+        << std::string("InfoKey:Title\nInfoValue:  &amp;<\t\"'> \n") << std::string("UTF-8")
+        << std::string("InfoBegin\nInfoKey: Title\n"
+                       "InfoValue:   &#38;amp;&#60;&#9;&#34;&#39;&#62; \n");
+    QTest::newRow("text beyond ASCII in UTF-8")
+        << std::string("InfoKey:Title\nInfoValue:\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80\n")
+        << std::string("UTF-8")
+        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;&#8364;&#128512;\n");
+    QTest::newRow("text beyond ASCII in the locale's charset")
+        << std::string("InfoKey:Title\nInfoValue:\xFC\xA4\n") << std::string("ISO-8859-15")
+        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;&#8364;\n");
+    QTest::newRow("a file in the newer form is left to the tool")
+        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;\n") << std::string("UTF-8")
+        << std::string();
+    QTest::newRow("another file is left to the tool")
+        << std::string("PageMediaBegin\n") << std::string("UTF-8") << std::string();
+}
+
+void ToolRules::infoFileBecomesLossless()
+{
+    QFETCH(std::string, content);
+    QFETCH(std::string, charset);
+    QFETCH(std::string, lossless);
+    QCOMPARE(losslessInfo(content, charset), lossless);
+}
+
+void ToolRules::textBecomesUtf8_data()
+{
+    QTest::addColumn<std::string>("bytes");
+    QTest::addColumn<std::string>("charset");
+    QTest::addColumn<std::string>("text");
+    QTest::newRow("UTF-8 stays") << std::string("\xC3\xBC") << std::string("UTF-8")
+                                 << std::string("\xC3\xBC");
+    QTest::newRow("Latin-1 is decoded")
+        << std::string("a\xFC") << std::string("ISO-8859-1") << std::string("a\xC3\xBC");
+    QTest::newRow("malformed bytes are replaced")
+        << std::string("a\xFF\xC0\x80z") << std::string("UTF-8")
+        << std::string("a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBDz");
+    QTest::newRow("more than one buffer")
+        << std::string(3000, '\xFC') << std::string("ISO-8859-1") << [] {
+               std::string text;
+               for (int i = 0; i < 3000; ++i)
+                   text += "\xC3\xBC";
+               return text;
+           }();
+}
+
+void ToolRules::textBecomesUtf8()
+{
+    QFETCH(std::string, bytes);
+    QFETCH(std::string, charset);
+    QFETCH(std::string, text);
+    QCOMPARE(toUtf8(bytes, charset), text);
+}
+
+void ToolRules::fileNamesAreMadeSafe_data()
+{
+    QTest::addColumn<std::string>("name");
+    QTest::addColumn<std::string>("safe");
+    QTest::newRow("plain") << std::string("a b%[1].pdf") << std::string("a b%[1].pdf");
+    QTest::newRow("Latin-1 stays") << std::string("\xC3\xBC.pdf") << std::string("\xC3\xBC.pdf");
+    QTest::newRow("one unit, one character")
+        << std::string("\xE2\x82\xAC.pdf") << std::string("_.pdf");
+    QTest::newRow("two units, two characters")
+        << std::string("\xF0\x9F\x98\x80") << std::string("__");
+    QTest::newRow("control characters") << std::string("a\n\x7F\xC2\x85z") << std::string("a___z");
+    QTest::newRow("malformed bytes") << std::string("a\xFF\xE2\x82") << std::string("a___");
+}
+
+void ToolRules::fileNamesAreMadeSafe()
+{
+    QFETCH(std::string, name);
+    QFETCH(std::string, safe);
+    QCOMPARE(safeFileName(name), safe);
+}
+
+QTEST_APPLESS_MAIN(ToolRules)
+#include "toolrules_test.moc"
