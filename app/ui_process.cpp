@@ -165,6 +165,8 @@ void Ui_process::setupFileTable()
     table->horizontalHeader()->setDefaultSectionSize(165);
     table->horizontalHeader()->setMinimumSectionSize(40);
     table->horizontalHeader()->setStretchLastSection(true);
+    // The style's minimum may be above the rows' height, which it would raise.
+    table->verticalHeader()->setMinimumSectionSize(18);
     table->verticalHeader()->setDefaultSectionSize(18);
     table->verticalHeader()->setStretchLastSection(false);
     inputfiletableWidget = table;
