@@ -1,0 +1,145 @@
+// Which page shows, which page button is disabled, and where the way back leads.
+
+#include "windowfixture.h"
+
+#include <QStackedWidget>
+
+namespace {
+
+/// "page 1, disabled ImageSetting, index 1"
+QString stateOf(WindowFixture &fixture)
+{
+    QStringList disabled;
+    for (const char *name : {"Inout", "ImageSetting", "PDFSetting", "Security"}) {
+        if (!fixture.find<QPushButton>(QByteArray("pushButton_") + name)->isEnabled())
+            disabled << QLatin1String(name);
+    }
+    return QStringLiteral("page %1, disabled %2, index %3")
+        .arg(fixture.find<QStackedWidget>("stackedWidget_dialog")->currentIndex())
+        .arg(disabled.isEmpty() ? QStringLiteral("none") : disabled.join(QStringLiteral(" and ")))
+        .arg(ProcessProbe::pageIndex(fixture.window));
+}
+
+} // namespace
+
+class NavigationTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void slotsLeadToTheirPages_data();
+    void slotsLeadToTheirPages();
+    void clicksLeadToTheirPages_data();
+    void clicksLeadToTheirPages();
+    void disabledButtonCannotBeClicked();
+    void imageButtonStaysUncheckable();
+};
+
+void NavigationTest::slotsLeadToTheirPages_data()
+{
+    QTest::addColumn<QStringList>("path"); // slots in turn
+    QTest::addColumn<QString>("state");
+
+    const QString files = "on_pushButton_Inout_clicked";
+    const QString image = "on_pushButton_ImageSetting_clicked";
+    const QString description = "on_pushButton_PDFSetting_clicked";
+    const QString security = "on_pushButton_Security_clicked";
+    const QString left = "on_pushButton_left_clicked";
+    const QString right = "on_pushButton_right_clicked";
+    const QString enable = "setpushenable";
+
+    QTest::newRow("start") << QStringList{} << "page 0, disabled Inout, index 0";
+    QTest::newRow("image") << QStringList{image} << "page 1, disabled ImageSetting, index 1";
+    QTest::newRow("description") << QStringList{description}
+                                 << "page 2, disabled PDFSetting, index 2";
+    QTest::newRow("security") << QStringList{security} << "page 3, disabled Security, index 3";
+    QTest::newRow("files right at the start")
+        << QStringList{files} << "page 0, disabled Inout, index 0";
+    QTest::newRow("files leaves the index")
+        << QStringList{security, files} << "page 0, disabled Inout, index 3";
+    QTest::newRow("left does as files does")
+        << QStringList{description, left} << "page 0, disabled Inout, index 2";
+    QTest::newRow("the page already shown changes nothing")
+        << QStringList{image, image} << "page 1, disabled ImageSetting, index 1";
+    QTest::newRow("one option page after another")
+        << QStringList{image, description, security} << "page 3, disabled Security, index 3";
+
+    QTest::newRow("right at the start stays on the files")
+        << QStringList{right} << "page 0, disabled Inout, index 0";
+    QTest::newRow("right comes back to the image page")
+        << QStringList{image, files, right} << "page 1, disabled ImageSetting, index 1";
+    QTest::newRow("right comes back to the description page")
+        << QStringList{description, left, right} << "page 2, disabled PDFSetting, index 2";
+    QTest::newRow("right comes back to the security page")
+        << QStringList{security, files, right} << "page 3, disabled Security, index 3";
+    QTest::newRow("right comes back to the last of several pages")
+        << QStringList{image, security, files, right} << "page 3, disabled Security, index 3";
+    QTest::newRow("right on an option page stays there")
+        << QStringList{image, right} << "page 1, disabled ImageSetting, index 1";
+
+    QTest::newRow("all enabled by hand") << QStringList{enable} << "page 0, disabled none, index 0";
+    QTest::newRow("all enabled on an option page")
+        << QStringList{security, enable} << "page 3, disabled none, index 3";
+    QTest::newRow("right at the start with all enabled disables none")
+        << QStringList{enable, right} << "page 0, disabled none, index 0";
+}
+
+void NavigationTest::slotsLeadToTheirPages()
+{
+    QFETCH(QStringList, path);
+    WindowFixture fixture;
+    for (const QString &slot : path)
+        QVERIFY(QMetaObject::invokeMethod(&fixture.window, slot.toLatin1().constData()));
+    QTEST(stateOf(fixture), "state");
+}
+
+void NavigationTest::clicksLeadToTheirPages_data()
+{
+    QTest::addColumn<QList<QByteArray>>("path");
+    QTest::addColumn<QString>("state");
+
+    QTest::newRow("image") << QList<QByteArray>{"ImageSetting"}
+                           << "page 1, disabled ImageSetting, index 1";
+    QTest::newRow("description") << QList<QByteArray>{"PDFSetting"}
+                                 << "page 2, disabled PDFSetting, index 2";
+    QTest::newRow("security") << QList<QByteArray>{"Security"}
+                              << "page 3, disabled Security, index 3";
+    QTest::newRow("there and back to the files")
+        << QList<QByteArray>{"Security", "Inout"} << "page 0, disabled Inout, index 3";
+    QTest::newRow("through all pages")
+        << QList<QByteArray>{"ImageSetting", "PDFSetting", "Security", "Inout", "PDFSetting"}
+        << "page 2, disabled PDFSetting, index 2";
+}
+
+void NavigationTest::clicksLeadToTheirPages()
+{
+    QFETCH(QList<QByteArray>, path);
+    WindowFixture fixture;
+    for (const QByteArray &button : path) {
+        QTest::mouseClick(fixture.find<QPushButton>("pushButton_" + button), Qt::LeftButton);
+    }
+    QTEST(stateOf(fixture), "state");
+}
+
+void NavigationTest::disabledButtonCannotBeClicked()
+{
+    WindowFixture fixture;
+    fixture.click("pushButton_ImageSetting");
+    auto *button = fixture.find<QPushButton>("pushButton_ImageSetting");
+    int clicks = 0;
+    connect(button, &QPushButton::clicked, this, [&clicks] { ++clicks; });
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(clicks, 0);
+    QCOMPARE(stateOf(fixture), QStringLiteral("page 1, disabled ImageSetting, index 1"));
+}
+
+void NavigationTest::imageButtonStaysUncheckable()
+{
+    WindowFixture fixture;
+    fixture.click("pushButton_ImageSetting");
+    QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isCheckable());
+    QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isChecked());
+}
+
+QTEST_MAIN(NavigationTest)
+#include "navigation_test.moc"
