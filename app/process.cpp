@@ -87,6 +87,16 @@ void Process::styleFileTable()
                        "padding-left: 1px;border: 0px solid #6c6c6c;}");
     table->horizontalHeader()->setStyleSheet(headerStyle);
     table->verticalHeader()->setStyleSheet(headerStyle);
+
+    // The corner would be black under the table's transparent background.
+    if (auto *corner = table->findChild<QAbstractButton *>())
+        corner->setStyleSheet(QStringLiteral(
+            "QTableCornerButton::section {background-color:GhostWhite;border: 0px;}"));
+    // A stretched section gets no narrower than its own size: at the least possible one, no
+    // scroll bar appears for the few pixels that the row numbers take.
+    table->horizontalHeader()->resizeSection(1, table->horizontalHeader()->minimumSectionSize());
+    table->setTextElideMode(Qt::ElideLeft); // of a long path the file name is what matters
+    table->setWordWrap(false);
 }
 
 void Process::setWindowBackground()

@@ -11,24 +11,9 @@
 #include <QProcess>
 
 #include "bundlepaths.h"
+#include "childprocesses.h"
 
-#include <algorithm>
 #include <csignal>
-
-namespace {
-
-/// True while a child process of this program runs or waits to be reaped.
-bool hasChildren()
-{
-    QDir threads(QStringLiteral("/proc/self/task"));
-    const QStringList ids = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    return std::ranges::any_of(ids, [&threads](const QString &id) {
-        QFile children(threads.filePath(id + QStringLiteral("/children")));
-        return children.open(QIODevice::ReadOnly) && !children.readAll().isEmpty();
-    });
-}
-
-} // namespace
 
 WindowFixture::WindowFixture()
 {
@@ -151,9 +136,7 @@ QStringList WindowFixture::outputFiles() const
 
 bool WindowFixture::waitUntilQuiet()
 {
-    // A child is reaped in the turn of the event loop that enters the next step, so a turn that
-    // ends without a child is the end of the chain.
-    return QTest::qWaitFor([] { return !hasChildren(); }, 60000);
+    return QTest::qWaitFor([] { return !hasChildProcesses(); }, 60000);
 }
 
 ModalAnswer::ModalAnswer(std::function<void(QWidget *)> answerFunction)

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "process.h"
+
+#include <QPoint>
+#include <QStringList>
+
+/// Works the real window as a person does: clicks go to a place on the window and hit what is
+/// there, keys go to what has the focus, dialogs are answered by typing. Each step says whether it
+/// came about, so that a caller can stop with a sentence.
+class WindowDriver
+{
+public:
+    WindowDriver();
+
+    Process window;
+
+    /// Shows the window and waits until the user could see it.
+    bool show();
+
+    /// Clicks the middle of the control named `control`, or its left end when it is a check box.
+    /// False when the control is not what lies there.
+    bool click(const char *control);
+    /// Replaces the text of the field named `field`.
+    bool type(const char *field, const QString &text);
+    /// Chooses item `index` of the combo box named `box` with the arrow keys.
+    bool choose(const char *box, int index);
+    /// Ticks or clears the check box named `box`.
+    bool tick(const char *box, bool on = true);
+
+    /// Presses the Open button and answers the file dialog with `paths`.
+    bool openFiles(const QStringList &paths);
+    /// Presses the folder button and answers the folder dialog with `folder`.
+    bool chooseFolder(const QString &folder);
+
+    /// Presses the convert button and waits, at most `timeout` ms, until no tool runs any more.
+    bool convert(int timeout);
+    /// Waits, at most `timeout` ms, until no child process is left.
+    static bool waitUntilQuiet(int timeout);
+
+    /// Saves what the screen shows of the window as a PNG file.
+    bool saveScreenshot(const QString &path);
+
+private:
+    QWidget *control(const char *name) const;
+    bool clickAt(QWidget *target, QPoint place);
+    bool answerDialog(const char *button, const QString &text);
+};
