@@ -110,7 +110,7 @@ void ConvertPolicy::forbiddenFormatsAreRefused_data()
                               "dcm:x.png",
                               "https:x",
                               "clipboard:",
-                              "show:x.png",
+
                               "scan:x"})
         QTest::newRow(input) << QString(input);
 }
@@ -221,8 +221,8 @@ void ConvertPolicy::onlyPdfIsWritten()
 {
     QFETCH(QString, output);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.jpg"));
-    QVERIFY(runBundled("convert", {"x.jpg", output}, folder.path()).status != 0);
+    makeImage(folder.filePath("x.png"));
+    QVERIFY(runBundled("convert", {"x.png", output}, folder.path()).status != 0);
     const QString name = output.section(':', -1);
     QCOMPARE(contentOf(folder.filePath(name)), QByteArray());
 }

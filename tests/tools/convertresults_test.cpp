@@ -250,12 +250,15 @@ void ConvertResults::missingOutputFolderIsNamed()
 void ConvertResults::decompressionBombIsRefused()
 {
     const QTemporaryDir folder;
-    // A bitmap's header alone claims 60,000 by 60,000 pixels of one bit.
-    writeContent(folder.filePath("x.pbm"), "P4\n60000 60000\n" + QByteArray(4096, '\0'));
-    const RunResult result = runBundled("convert", {"x.pbm", "o.pdf"}, folder.path());
+    // 60,000 by 60,000 pixels of two colours; what says so is the header alone.
+    const QByteArray size = QByteArray::fromHex("60ea60ea");
+    writeContent(folder.filePath("x.gif"), "GIF89a" + size +
+                                               QByteArray::fromHex("800000000000ffffff2c00000000") +
+                                               size + QByteArray::fromHex("000202440100 3b"));
+    const RunResult result = runBundled("convert", {"x.gif", "o.pdf"}, folder.path());
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("exceeds limit"), result.errors.constData());
-    QCOMPARE(namesIn(folder.path()), QStringList{"x.pbm"});
+    QCOMPARE(namesIn(folder.path()), QStringList{"x.gif"});
 }
 
 void ConvertResults::tenCallsAtOnceInOneFolder()

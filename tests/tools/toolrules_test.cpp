@@ -163,6 +163,9 @@ void ToolRules::pdftkTailHidesPasswords_data()
     QTest::newRow("33 characters: the tool would drop and print the last")
         << Words{"user_pw", std::string(32, 'x') + "y"} << Words{"user_pw", "PROMPT"}
         << Words{std::string(32, 'x')};
+    QTest::newRow("equal passwords, which the tool refuses")
+        << Words{"owner_pw", "a", "user_pw", "a"}
+        << Words{"owner_pw", "********", "user_pw", "********"} << Words{};
     QTest::newRow("a keyword without a password")
         << Words{"user_pw"} << Words{"user_pw"} << Words{};
 }

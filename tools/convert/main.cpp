@@ -59,10 +59,9 @@ Outcome convert(const ConvertCall &call)
     ChildSpec spec = specFor(limits, pixels.path());
     spec.deadline = limits.time + graceBeyondLimit;
     spec.command.insert(spec.command.end(), call.options.begin(), call.options.end());
-    for (const std::string &input : call.inputs) {
-        const size_t number = spec.command.size();
-        spec.command.push_back(job.addInput(input, inputName(number, input)));
-    }
+    size_t number = 0;
+    for (const std::string &input : call.inputs)
+        spec.command.push_back(job.addInput(input, inputName(++number, input)));
     spec.command.push_back(outputWord(job.resultName()));
     const std::string file = fileNameOf(call.output);
     return job.run(std::move(spec),

@@ -55,6 +55,16 @@ std::string firstCharacters(const std::string &text, size_t count)
     return text.substr(0, end);
 }
 
+// pdftk-java 3.3.2 refuses equal passwords on its command line only; so that is where two equal
+// words stand for them.
+void refuseEqualPasswords(PdftkCall &call)
+{
+    if (call.passwords.size() != 2 || call.passwords[0].answer != call.passwords[1].answer)
+        return;
+    std::replace(call.tail.begin(), call.tail.end(), std::string("PROMPT"), std::string(mask));
+    call.passwords.clear();
+}
+
 void readTail(const std::vector<std::string> &words, const std::string &charset, PdftkCall &call)
 {
     for (size_t i = 0; i < words.size(); ++i) {
@@ -67,6 +77,7 @@ void readTail(const std::vector<std::string> &words, const std::string &charset,
         call.passwords.push_back({std::string(kind->question),
                                   firstCharacters(toUtf8(words[i], charset), longestPassword)});
     }
+    refuseEqualPasswords(call);
 }
 
 } // namespace

@@ -1,11 +1,30 @@
 #include "support/bundle.h"
 
 #include <climits>
+#include <optional>
+#include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "support/diagnosis.h"
 #include "support/text.h"
+
+namespace {
+
+// A start-up archive that was cut off, by a full disk perhaps, ends OpenJDK 17 by SIGBUS.
+std::optional<std::string> wordOf(const std::string &line)
+{
+    const size_t word = line.find('\t'), file = line.rfind('\t');
+    if (word == std::string::npos)
+        return line;
+    struct stat status = {};
+    const bool counts = stat(line.substr(word + 1, file - word - 1).c_str(), &status) == 0 &&
+                        std::to_string(status.st_size) == line.substr(file + 1);
+    return counts ? std::optional(line.substr(0, word)) : std::nullopt;
+}
+
+} // namespace
 
 std::string resourcesFolder()
 {
@@ -25,11 +44,13 @@ std::vector<std::string> realCommand(const std::string &name)
     const std::string file = resources + "/" + name + ".tool";
     std::vector<std::string> words;
     std::string content;
-    if (readFile(file, content))
-        words = linesOf(content);
+    readFile(file, content);
+    replaceAll(content, placeholder, resources);
+    for (const std::string &line : linesOf(content)) {
+        if (std::optional<std::string> word = wordOf(line))
+            words.push_back(std::move(*word));
+    }
     if (words.empty())
         throw ToolError("cannot read '" + file + "'; run packaging/assemble-tools again");
-    for (std::string &word : words)
-        replaceAll(word, placeholder, resources);
     return words;
 }

@@ -162,7 +162,8 @@ void Run::becomeChild(pid_t parent, char **arguments, char **environment)
     sigprocmask(SIG_SETMASK, &none, nullptr);
     if (m_spec.folder < 0 || fchdir(m_spec.folder) == 0)
         execve(arguments[0], arguments, environment);
-    const std::string message = systemError("cannot start", arguments[0]).what();
+    const std::string message =
+        systemError("cannot start", arguments[0]).what() + std::string("\n");
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, message.data(), message.size());
     _exit(cannotExecute);
 }

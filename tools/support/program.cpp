@@ -7,6 +7,7 @@
 
 #include "support/calllog.h"
 #include "support/diagnosis.h"
+#include "support/text.h"
 
 namespace {
 
@@ -17,6 +18,18 @@ void show(int stream, const std::string &text)
         if (count <= 0)
             return;
         done += static_cast<size_t>(count);
+    }
+}
+
+// The real tool may repeat a word that it refuses, and that may be a part of a password.
+void maskMessages(Outcome &outcome, const Arguments &arguments, const Arguments &masked)
+{
+    constexpr size_t shortestSecret = 3;
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        if (masked[i] == arguments[i] || arguments[i].size() < shortestSecret)
+            continue;
+        replaceAll(outcome.output, arguments[i], masked[i]);
+        replaceAll(outcome.errors, arguments[i], masked[i]);
     }
 }
 
@@ -37,7 +50,9 @@ int runProgram(const Program &program, const Arguments &arguments)
     }
     if (isLogging()) {
         const auto taken = std::chrono::steady_clock::now() - start;
-        appendToLog({program.name, program.masked(arguments), outcome,
+        const Arguments masked = program.masked(arguments);
+        maskMessages(outcome, arguments, masked);
+        appendToLog({program.name, masked, outcome,
                      std::chrono::duration_cast<std::chrono::milliseconds>(taken)});
     }
     return outcome.status;
