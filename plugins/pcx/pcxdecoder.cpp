@@ -11,6 +11,7 @@ namespace {
 constexpr std::uint8_t fileMark = 0x0A;
 constexpr std::uint8_t paletteMark = 0x0C;
 constexpr int longestRun = 63;
+constexpr std::uint8_t lowestCount = 0xC0;
 constexpr std::size_t bufferSize = 65536;
 constexpr std::size_t headerPaletteSize = 16;
 constexpr std::size_t headerPaletteAt = 16;
@@ -27,6 +28,11 @@ template <typename Values>
 bool contains(const Values &values, int value)
 {
     return std::find(values.begin(), values.end(), value) != values.end();
+}
+
+bool isCount(std::uint8_t byte)
+{
+    return byte >= lowestCount;
 }
 
 int number(Bytes bytes, std::size_t at)
@@ -146,14 +152,33 @@ LineDecoder::LineDecoder(const Header &header, Refill source)
 bool LineDecoder::next(std::span<std::uint8_t> line)
 {
     while (!line.empty()) {
-        if (runLeft == 0 && !startRun())
-            return false;
-        const std::size_t count = std::min(runLeft, line.size());
-        std::fill_n(line.begin(), count, runValue);
+        const std::size_t count = runLeft > 0 ? takeRun(line) : takeValues(line);
         line = line.subspan(count);
-        runLeft -= count;
+        if (count == 0 && !startRun())
+            return false;
     }
     return true;
+}
+
+/// Fills `line` from the run that has begun; returns how far it goes.
+std::size_t LineDecoder::takeRun(std::span<std::uint8_t> line)
+{
+    const std::size_t count = std::min(runLeft, line.size());
+    std::fill_n(line.begin(), count, runValue);
+    runLeft -= count;
+    return count;
+}
+
+/// Copies the values at hand that stand without a count, which is most of a photo at one go;
+/// returns how many there were.
+std::size_t LineDecoder::takeValues(std::span<std::uint8_t> line)
+{
+    const Bytes ready = Bytes(buffer).subspan(position, std::min(end - position, line.size()));
+    const auto stop = runLength ? std::find_if(ready.begin(), ready.end(), isCount) : ready.end();
+    std::copy(ready.begin(), stop, line.begin());
+    const auto count = static_cast<std::size_t>(stop - ready.begin());
+    position += count;
+    return count;
 }
 
 bool LineDecoder::hasRunLeft() const
@@ -180,7 +205,7 @@ bool LineDecoder::startRun()
 {
     std::optional<std::uint8_t> byte = takeByte();
     runLeft = 1;
-    if (byte && runLength && *byte >= 0xC0) {
+    if (byte && runLength && isCount(*byte)) {
         runLeft = *byte & longestRun;
         byte = takeByte();
     }

@@ -70,6 +70,8 @@ public:
 
 private:
     bool startRun();
+    std::size_t takeRun(std::span<std::uint8_t> line);
+    std::size_t takeValues(std::span<std::uint8_t> line);
     std::optional<std::uint8_t> takeByte();
 
     Refill refill;

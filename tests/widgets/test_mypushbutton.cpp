@@ -146,8 +146,10 @@ void TestMyPushButton::centresTheIcon_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QRect>("place");
 
-    QTest::newRow("each half is truncated on its own")
+    QTest::newRow("an even icon in an odd rectangle")
         << QRect(0, 0, 75, 23) << QSize(16, 16) << QRect(29, 3, 16, 16);
+    QTest::newRow("each half is truncated on its own")
+        << QRect(0, 0, 74, 22) << QSize(15, 15) << QRect(30, 4, 15, 15);
     QTest::newRow("an odd icon in an odd rectangle")
         << QRect(0, 0, 75, 23) << QSize(15, 15) << QRect(30, 4, 15, 15);
     QTest::newRow("the rectangle's place does not count")
