@@ -1,0 +1,277 @@
+// How files come into the list: the open dialog and drops.
+
+#include "filedialoguser.h"
+#include "windowfixture.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QSettings>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 gibibyte = 1024 * 1024 * 1024;
+
+/// "name|size text" of each row, "name" where the size has no item.
+QStringList rowsOf(WindowFixture &fixture)
+{
+    QStringList rows;
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QString text = table->item(row, 0)->text();
+        text.replace(fixture.inputPath({}), QString());
+        if (const QTableWidgetItem *size = table->item(row, 1))
+            text += QLatin1Char('|') + size->text();
+        rows << text;
+    }
+    return rows;
+}
+
+QList<int> selectedRows(WindowFixture &fixture)
+{
+    QList<int> rows;
+    const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    const QModelIndexList selected = table->selectionModel()->selectedRows();
+    for (const QModelIndex &index : selected)
+        rows << index.row();
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+/// Presses the open button and chooses `paths`; none stand for a cancelled dialog.
+FileDialogFacts openFiles(WindowFixture &fixture, const QStringList &paths)
+{
+    FileDialogFacts facts(nullptr);
+    ModalAnswer answer([&](QWidget *box) {
+        facts = FileDialogFacts(box);
+        if (!paths.isEmpty())
+            chooseFiles(box, paths);
+    });
+    fixture.click("openfileButton");
+    if (!answer.happened())
+        qFatal("no dialog came");
+    return facts;
+}
+
+QByteArray settingsFile()
+{
+    QFile file(QStringLiteral("setting.ini"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+}
+
+QList<QUrl> localUrls(const QStringList &paths)
+{
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls << QUrl::fromLocalFile(path);
+    return urls;
+}
+
+} // namespace
+
+class FileListTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void openDialogAsksForImages();
+    void chosenFilesAreListedInTheirOrder();
+    void cancelledDialogChangesNothing();
+    void folderOfTheFirstFileIsRemembered();
+    void firstRowBecomesCurrentAndSelectedToo();
+    void sizeColumnShowsTheLowBitsOfTheSize_data();
+    void sizeColumnShowsTheLowBitsOfTheSize();
+    void itemsArePlainTexts();
+    void droppedUrlsAreListedUpToTheFirstThatIsNotLocal_data();
+    void droppedUrlsAreListedUpToTheFirstThatIsNotLocal();
+    void dropLeavesSelectionAndSettingsAlone();
+    void dragIsAcceptedForUrlsAlone_data();
+    void dragIsAcceptedForUrlsAlone();
+};
+
+void FileListTest::init()
+{
+    WindowFixture fixture; // goes to the bundle's folder
+    QFile::remove(QStringLiteral("setting.ini"));
+}
+
+void FileListTest::openDialogAsksForImages()
+{
+    WindowFixture fixture;
+    const FileDialogFacts dialog = openFiles(fixture, {});
+    QCOMPARE(dialog.caption, QStringLiteral("Choose files to convert"));
+    QCOMPARE(dialog.filters,
+             QStringList({"All Supported Formats(*.bmp *.gif *.jpg *.pbm *.pcx *.png *.ppm *.tif)",
+                          "BMP File(*.bmp)", "GIF File(*.gif)", "JPEG File(*.jpg;*.jpeg)",
+                          "PBM File(*.pbm)", "PCX File(*.pcx)", "PNG File(*.png)",
+                          "PPM File(*.ppm)", "TIF File(*.tif;*.tiff)", "ALL files(*.*)"}));
+    QCOMPARE(dialog.folder, QDir::currentPath());
+    QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
+    QCOMPARE(dialog.options, QFileDialog::Options());
+    QCOMPARE(dialog.parent, &fixture.window);
+}
+
+void FileListTest::chosenFilesAreListedInTheirOrder()
+{
+    WindowFixture fixture;
+    fixture.addImages({"z.jpg"});
+    openFiles(fixture, {fixture.makeFile("c.jpg"), fixture.makeFile("my a.png"),
+                        fixture.makeFile("b.gif", "")});
+    QCOMPARE(rowsOf(fixture), QStringList({"z.jpg|         0.005KB", "c.jpg|         0.005KB",
+                                           "my a.png|         0.005KB", "b.gif"}));
+}
+
+void FileListTest::cancelledDialogChangesNothing()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    openFiles(fixture, {});
+    QCOMPARE(rowsOf(fixture), QStringList({"a.jpg|         0.005KB"}));
+    QCOMPARE(selectedRows(fixture), QList<int>());
+    QCOMPARE(settingsFile(), QByteArray("none"));
+}
+
+void FileListTest::folderOfTheFirstFileIsRemembered()
+{
+    const QString kept = QStringLiteral("/");
+    QTemporaryDir other;
+    QFile file(other.filePath("b.jpg"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QString folder;
+    {
+        QSettings(QStringLiteral("setting.ini"), QSettings::IniFormat)
+            .setValue(QStringLiteral("dir/output"), kept);
+        WindowFixture fixture;
+        folder = QFileInfo(fixture.inputPath("a.jpg")).absolutePath();
+        openFiles(fixture, {fixture.makeFile("a.jpg"), file.fileName()});
+        QCOMPARE(settingsFile(),
+                 QByteArray("[dir]\ninput=") + folder.toUtf8() + QByteArray("\noutput=/\n"));
+        WindowFixture next; // another run of the program, while the folder still stands
+        QCOMPARE(openFiles(next, {}).folder, folder);
+    }
+}
+
+void FileListTest::firstRowBecomesCurrentAndSelectedToo()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    table->selectRow(1);
+    openFiles(fixture, {fixture.makeFile("d.jpg")});
+    QCOMPARE(table->currentRow(), 0);
+    QCOMPARE(selectedRows(fixture), QList<int>({0, 1}));
+    QVERIFY(ProcessProbe::previewTimer(fixture.window)->isActive());
+}
+
+void FileListTest::sizeColumnShowsTheLowBitsOfTheSize_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("row");
+
+    QTest::newRow("an empty file has no size item") << qint64(0) << "f.png";
+    QTest::newRow("one byte") << qint64(1) << "f.png|         0.001KB";
+    QTest::newRow("the last in KB") << qint64(1048576) << "f.png|      1048.576KB";
+    QTest::newRow("the first in MB") << qint64(1048577) << "f.png|         1.049MB";
+    QTest::newRow("3 GiB have none") << 3 * gibibyte << "f.png";
+    QTest::newRow("4 GiB have none") << 4 * gibibyte << "f.png";
+}
+
+void FileListTest::sizeColumnShowsTheLowBitsOfTheSize()
+{
+    QFETCH(qint64, bytes);
+    QFETCH(QString, row);
+    WindowFixture fixture;
+    const QString path = fixture.makeFile("f.png");
+    QVERIFY(QFile::resize(path, bytes)); // sparse
+    fixture.drop(localUrls({path}));
+    openFiles(fixture, {path});
+    QCOMPARE(rowsOf(fixture), QStringList({row, row}));
+}
+
+void FileListTest::itemsArePlainTexts()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    for (int column = 0; column < 2; ++column) {
+        const QTableWidgetItem *item = table->item(0, column);
+        QCOMPARE(item->type(), int(QTableWidgetItem::Type));
+        QVERIFY(item->icon().isNull());
+        QVERIFY(!item->data(Qt::UserRole).isValid());
+        QVERIFY(!item->data(Qt::CheckStateRole).isValid());
+    }
+    QCOMPARE(table->item(0, 0)->text(), fixture.inputPath("a.jpg"));
+}
+
+void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal_data()
+{
+    QTest::addColumn<QList<QUrl>>("urls");
+    QTest::addColumn<QStringList>("rows");
+
+    const QUrl remote(QStringLiteral("http://example.org/b.jpg"));
+    QTest::newRow("none") << QList<QUrl>{} << QStringList{};
+    QTest::newRow("three files") << localUrls({"/n/c.jpg", "/n/a.jpg", "/n/b.jpg"})
+                                 << QStringList{"/n/c.jpg", "/n/a.jpg", "/n/b.jpg"};
+    QTest::newRow("the second of three is not local")
+        << localUrls({"/n/a.jpg"}) + QList<QUrl>{remote} + localUrls({"/n/c.jpg"})
+        << QStringList{"/n/a.jpg"};
+    QTest::newRow("the first is not local")
+        << QList<QUrl>{remote} + localUrls({"/n/c.jpg"}) << QStringList{};
+    QTest::newRow("the same file twice")
+        << localUrls({"/n/a.jpg", "/n/a.jpg"}) << QStringList{"/n/a.jpg", "/n/a.jpg"};
+    QTest::newRow("what is no image")
+        << localUrls({"/n/letter.txt"}) << QStringList{"/n/letter.txt"};
+    QTest::newRow("blanks, per cent signs and letters outside ASCII")
+        << localUrls({QString::fromUtf8("/n/100% \u00fcber.jpg")})
+        << QStringList{QString::fromUtf8("/n/100% \u00fcber.jpg")};
+}
+
+void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal()
+{
+    QFETCH(QList<QUrl>, urls);
+    WindowFixture fixture;
+    fixture.drop(urls);
+    QTEST(rowsOf(fixture), "rows");
+}
+
+void FileListTest::dropLeavesSelectionAndSettingsAlone()
+{
+    WindowFixture fixture;
+    const QStringList paths = fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.drop(localUrls({QFileInfo(paths.first()).absolutePath()}));
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QCOMPARE(table->rowCount(), 3); // a folder is listed like a file
+    QCOMPARE(selectedRows(fixture), QList<int>());
+    QCOMPARE(table->currentRow(), -1);
+    QCOMPARE(settingsFile(), QByteArray("none"));
+    QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
+}
+
+void FileListTest::dragIsAcceptedForUrlsAlone_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("urls") << "text/uri-list" << true;
+    QTest::newRow("plain text") << "text/plain" << false;
+    QTest::newRow("a picture") << "image/png" << false;
+}
+
+void FileListTest::dragIsAcceptedForUrlsAlone()
+{
+    QFETCH(QString, format);
+    WindowFixture fixture;
+    QMimeData data;
+    data.setData(format, "http://example.org/a.jpg");
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&fixture.window, &enter);
+    QTEST(enter.isAccepted(), "accepted");
+}
+
+QTEST_MAIN(FileListTest)
+#include "filelist_test.moc"

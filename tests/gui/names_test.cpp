@@ -1,0 +1,91 @@
+// Any file name that can be put between double quotes reaches the tool as it is.
+
+#include "startup.h"
+#include "windowfixture.h"
+
+#include <QTableWidget>
+
+class NamesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void oddNamesReachTheToolWhole_data();
+    void oddNamesReachTheToolWhole();
+    void nameWithADoubleQuoteDoesNotReachTheTool();
+    void thousandsOfRowsReachTheToolInOneCall();
+};
+
+void NamesTest::oddNamesReachTheToolWhole_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("output");
+
+    const QString longName(195, QLatin1Char('n'));
+    QTest::newRow("blanks") << " my  scan .jpg"
+                            << " my  scan .pdf";
+    QTest::newRow("letters outside ASCII") << QString::fromUtf8("\u00fcber \u65e5\u672c.jpg")
+                                           << QString::fromUtf8("\u00fcber \u65e5\u672c.pdf");
+    QTest::newRow("a leading dash") << "-monochrome.jpg"
+                                    << "-monochrome.pdf";
+    QTest::newRow("per cent signs") << "100%d %1.jpg"
+                                    << "100%d %1.pdf";
+    QTest::newRow("brackets") << "a[0](1){2}.jpg"
+                              << "a[0](1){2}.pdf";
+    QTest::newRow("a colon") << "png:x.jpg"
+                             << "png:x.pdf";
+    QTest::newRow("characters of the shell") << "$(a)&;*?'`\\.jpg"
+                                             << "$(a)&;*?'`\\.pdf";
+    QTest::newRow("two hundred characters") << longName + ".jpg" << longName + ".pdf";
+    QTest::newRow("a hidden file") << ".hidden.jpg"
+                                   << ".pdf";
+}
+
+void NamesTest::oddNamesReachTheToolWhole()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, output);
+    WindowFixture fixture;
+    fixture.addImages({name});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", "T");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().size(), 2);
+    QCOMPARE(fixture.calls().first().arguments,
+             QStringList({fixture.inputPath(name), fixture.outputPath(output)}));
+    QCOMPARE(fixture.outputFiles(), QStringList({output + ": pdftk(convert(" + name + "))"}));
+}
+
+void NamesTest::nameWithADoubleQuoteDoesNotReachTheTool()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a\"b.jpg"});
+    fixture.setOutputFolder();
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(!fixture.calls().first().arguments.contains(fixture.inputPath("a\"b.jpg")));
+    QCOMPARE(fixture.outputFiles(), QStringList());
+}
+
+void NamesTest::thousandsOfRowsReachTheToolInOneCall()
+{
+    raiseArgumentLimit();
+    WindowFixture fixture;
+    QStringList names;
+    for (int i = 0; i < 3000; ++i)
+        names << QStringLiteral("%1.jpg").arg(i, 196, 10, QLatin1Char('0'));
+    const QStringList paths = fixture.addImages(names);
+    QCOMPARE(fixture.find<QTableWidget>("inputfiletableWidget")->rowCount(), 3000);
+    fixture.setOutputFolder();
+    fixture.check("checkBox_joinpdf");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+
+    const QString output = fixture.outputPath(names.first().replace(".jpg", ".pdf"));
+    QCOMPARE(fixture.calls().size(), 1);
+    QCOMPARE(fixture.calls().first().arguments, paths + QStringList{output});
+}
+
+QTEST_MAIN(NamesTest)
+#include "names_test.moc"
