@@ -1,0 +1,321 @@
+// Real images through the real window and the real tools; the PDFs are read back.
+
+#include "pdffacts.h"
+#include "startup.h"
+#include "windowdriver.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProgressBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr int runTimeout = 120000; // ms
+
+} // namespace
+
+class ConversionE2eTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void everyFormatBecomesAPdf_data();
+    void everyFormatBecomesAPdf();
+    void mergedPagesStandInRowOrder();
+    void everyCompressionMakesAReadablePdf_data();
+    void everyCompressionMakesAReadablePdf();
+    void pageSizeAndRotationShapeThePage_data();
+    void pageSizeAndRotationShapeThePage();
+    void securityReachesThePdf_data();
+    void securityReachesThePdf();
+    void descriptionArrivesAsTyped();
+    void oddNamesWork_data();
+    void oddNamesWork();
+    void unreadableImageIsSkippedOneByOne();
+    void mergeWithAnUnreadableImageMakesNoPdf();
+    void passwordWithABlankLosesThePdf();
+    void olderPdfSurvivesAFailedConversion();
+
+private:
+    QString sample(const QString &name) const { return QStringLiteral(SAMPLES "/") + name; }
+    QString output(const QString &name) const
+    {
+        return folder->filePath(QStringLiteral("out/") + name);
+    }
+    QString makeImage(const QString &name, QSize size = {40, 30}) const;
+    QString makeFile(const QString &path, const QByteArray &content) const;
+    QStringList outputFiles() const;
+    void convert(const QStringList &images);
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<WindowDriver> driver;
+};
+
+void ConversionE2eTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("out")));
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("in")));
+    driver = std::make_unique<WindowDriver>();
+    QVERIFY(driver->show());
+    QVERIFY(driver->type("outputfolderEdit", output({})));
+}
+
+void ConversionE2eTest::cleanup()
+{
+    driver.reset();
+}
+
+QString ConversionE2eTest::makeImage(const QString &name, QSize size) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    image.setDotsPerMeterX(2835); // 72 per inch: a pixel is a point
+    image.setDotsPerMeterY(2835);
+    const QString path = folder->filePath(QStringLiteral("in/") + name);
+    if (!image.save(path, "PNG"))
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QString ConversionE2eTest::makeFile(const QString &path, const QByteArray &content) const
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QStringList ConversionE2eTest::outputFiles() const
+{
+    return QDir(output({}))
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+void ConversionE2eTest::convert(const QStringList &images)
+{
+    QVERIFY(driver->openFiles(images));
+    QVERIFY(driver->convert(runTimeout));
+}
+
+void ConversionE2eTest::everyFormatBecomesAPdf_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"harbour.bmp", "garden.gif", "beach.jpg", "letter.pbm", "market.pcx",
+                             "window.png", "meadow.ppm", "receipt.tif"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void ConversionE2eTest::everyFormatBecomesAPdf()
+{
+    QFETCH(QString, name);
+    convert({sample(name)});
+    const QString pdf = QFileInfo(name).baseName() + QStringLiteral(".pdf");
+    QCOMPARE(outputFiles(), QStringList(pdf));
+    const PdfFacts facts = readPdf(output(pdf));
+    QCOMPARE(facts.pages, 1);
+    QVERIFY(!facts.encrypted);
+}
+
+void ConversionE2eTest::mergedPagesStandInRowOrder()
+{
+    QVERIFY(driver->tick("checkBox_joinpdf"));
+    convert(
+        {makeImage("b.png", {20, 10}), makeImage("c.png", {30, 10}), makeImage("a.png", {40, 10})});
+    QCOMPARE(outputFiles(), QStringList("b.pdf"));
+    QCOMPARE(readPdf(output("b.pdf")).pageSizes, QList<QSizeF>({{20, 10}, {30, 10}, {40, 10}}));
+}
+
+void ConversionE2eTest::everyCompressionMakesAReadablePdf_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 0; index <= 10; ++index)
+        QTest::addRow("compression %d", index) << index;
+}
+
+void ConversionE2eTest::everyCompressionMakesAReadablePdf()
+{
+    QFETCH(int, index);
+    QVERIFY(driver->click("pushButton_ImageSetting"));
+    QVERIFY(driver->choose("comboBox_compresstype", index));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({sample("beach.jpg")});
+    QCOMPARE(readPdf(output("beach.pdf")).pageSizes, QList<QSizeF>({{640, 480}}));
+}
+
+void ConversionE2eTest::pageSizeAndRotationShapeThePage_data()
+{
+    QTest::addColumn<int>("pageSize");
+    QTest::addColumn<int>("rotation");
+    QTest::addColumn<bool>("monochrome");
+    QTest::addColumn<QSizeF>("page");
+    QTest::newRow("A4 scales the image up to its box") << 5 << 0 << false << QSizeF(595, 446);
+    QTest::newRow("A9 scales it down") << 10 << 0 << true << QSizeF(105, 79);
+    QTest::newRow("Ledger is the landscape box") << 16 << 0 << false << QSizeF(1056, 792);
+    QTest::newRow("a quarter turn swaps the sides") << 0 << 1 << false << QSizeF(30, 40);
+    QTest::newRow("half a turn keeps them") << 0 << 2 << false << QSizeF(40, 30);
+    QTest::newRow("the page size counts before the turn") << 5 << 3 << false << QSizeF(446, 595);
+}
+
+void ConversionE2eTest::pageSizeAndRotationShapeThePage()
+{
+    QFETCH(int, pageSize);
+    QFETCH(int, rotation);
+    QFETCH(bool, monochrome);
+    QFETCH(QSizeF, page);
+    QVERIFY(driver->click("pushButton_ImageSetting"));
+    QVERIFY(driver->choose("comboBox_pagesize", pageSize));
+    QVERIFY(driver->choose("comboBox_rotate", rotation));
+    QVERIFY(driver->tick("checkBox_monochrome", monochrome));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage("a.png")});
+    const QSizeF result = readPdf(output("a.pdf")).pageSizes.value(0);
+    QVERIFY2(qAbs(result.width() - page.width()) <= 1.0 &&
+                 qAbs(result.height() - page.height()) <= 1.0,
+             qPrintable(QStringLiteral("%1 x %2").arg(result.width()).arg(result.height())));
+}
+
+void ConversionE2eTest::securityReachesThePdf_data()
+{
+    QTest::addColumn<QString>("owner");
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("granted");
+    QTest::newRow("printing") << "o"
+                              << "u"
+                              << "checkBox_allowprint"
+                              << "print";
+    QTest::newRow("document assembly grants modifying") << "o"
+                                                        << "u"
+                                                        << "checkBox_allowmodify"
+                                                        << "modify";
+    QTest::newRow("content copying") << "o"
+                                     << "u"
+                                     << "checkBox_allowcopy"
+                                     << "copy";
+    QTest::newRow("commenting grants annotations") << "o"
+                                                   << "u"
+                                                   << "checkBox_allowannotation"
+                                                   << "annotate";
+    QTest::newRow("a user password alone") << ""
+                                           << "u"
+                                           << "checkBox_allowprint"
+                                           << "print";
+}
+
+void ConversionE2eTest::securityReachesThePdf()
+{
+    QFETCH(QString, owner);
+    QFETCH(QString, user);
+    QFETCH(QString, box);
+    QFETCH(QString, granted);
+    QVERIFY(driver->click("pushButton_Security"));
+    QVERIFY(driver->type("lineEdit_ownerpwd", owner));
+    QVERIFY(driver->type("lineEdit_userpwd", user));
+    QVERIFY(driver->tick(qPrintable(box)));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage("a.png")});
+    QVERIFY(readPdf(output("a.pdf")).needsPassword);
+    const PdfFacts facts = readPdf(output("a.pdf"), user.toUtf8());
+    QVERIFY(facts.encrypted);
+    QCOMPARE(facts.pages, 1);
+    QCOMPARE(facts.mayPrint, granted == QLatin1String("print"));
+    QCOMPARE(facts.mayModify, granted == QLatin1String("modify"));
+    QCOMPARE(facts.mayCopy, granted == QLatin1String("copy"));
+    QCOMPARE(facts.mayAnnotate, granted == QLatin1String("annotate"));
+}
+
+void ConversionE2eTest::descriptionArrivesAsTyped()
+{
+    QVERIFY(driver->click("pushButton_PDFSetting"));
+    const QString title = QStringLiteral("  M\u00fcller & S\u00f6hne \u20ac \U0001F600  ");
+    QVERIFY(driver->type("lineEdit_title", title));
+    QVERIFY(driver->type("lineEdit_keywords", QStringLiteral("&amp; <b>")));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage("a.png")});
+    const PdfFacts facts = readPdf(output("a.pdf"));
+    QCOMPARE(facts.title, title);
+    QCOMPARE(facts.subject, QString());
+    QCOMPARE(facts.keywords, QStringLiteral("&amp; <b>"));
+    QCOMPARE(facts.author, QString());
+    QCOMPARE(outputFiles(), QStringList("a.pdf"));
+}
+
+void ConversionE2eTest::oddNamesWork_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks") << "my holiday  photo.png";
+    QTest::newRow("letters beyond ASCII") << QStringLiteral("\u00dcbersicht \u65e5\u672c.png");
+    QTest::newRow("leading dash") << "-resize.png";
+    QTest::newRow("percent") << "100%d %s.png";
+    QTest::newRow("brackets") << "scan[0].png";
+    QTest::newRow("colon") << "png:a.png";
+    QTest::newRow("at sign") << "@list.png";
+    QTest::newRow("200 characters") << QString(196, QLatin1Char('x')) + ".png";
+    QTest::newRow("no extension") << "scan";
+}
+
+void ConversionE2eTest::oddNamesWork()
+{
+    QFETCH(QString, name);
+    QVERIFY(driver->click("pushButton_PDFSetting"));
+    QVERIFY(driver->type("lineEdit_title", "T"));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage(name)});
+    const QString pdf = QFileInfo(name).baseName() + QStringLiteral(".pdf");
+    QCOMPARE(outputFiles(), QStringList(pdf));
+    QCOMPARE(readPdf(output(pdf)).title, QStringLiteral("T"));
+}
+
+void ConversionE2eTest::unreadableImageIsSkippedOneByOne()
+{
+    convert({makeImage("a.png"), makeFile(folder->filePath("in/b.png"), "no image"),
+             makeImage("c.png")});
+    QCOMPARE(outputFiles(), QStringList({"a.pdf", "c.pdf"}));
+    QCOMPARE(driver->window.findChild<QProgressBar *>()->value(), 0);
+}
+
+void ConversionE2eTest::mergeWithAnUnreadableImageMakesNoPdf()
+{
+    QVERIFY(driver->tick("checkBox_joinpdf"));
+    convert({makeImage("a.png"), makeFile(folder->filePath("in/b.png"), "no image")});
+    QCOMPARE(outputFiles(), QStringList());
+}
+
+void ConversionE2eTest::passwordWithABlankLosesThePdf()
+{
+    QVERIFY(driver->click("pushButton_Security"));
+    QVERIFY(driver->type("lineEdit_ownerpwd", "two words"));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage("a.png")});
+    QCOMPARE(outputFiles(), QStringList());
+}
+
+void ConversionE2eTest::olderPdfSurvivesAFailedConversion()
+{
+    const QString older = makeFile(output("b.pdf"), "an older result");
+    convert({makeFile(folder->filePath("in/b.png"), "no image")});
+    QFile file(older);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("an older result"));
+}
+
+int main(int argc, char *argv[])
+{
+    raiseArgumentLimit();
+    QApplication application(argc, argv);
+    prepare(application);
+    ConversionE2eTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "conversion_e2e_test.moc"
