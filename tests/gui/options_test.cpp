@@ -1,0 +1,253 @@
+// What the window makes of its option pages for the tools.
+
+#include "privatelocales.h"
+#include "windowfixture.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+
+namespace {
+
+QByteArray infoFileContent()
+{
+    QFile file(QStringLiteral("pdfa.txt"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+}
+
+QByteArray withTitle(const QByteArray &title)
+{
+    return "InfoKey:Title\nInfoValue:" + title +
+           "\nInfoKey:Subject\nInfoValue:\nInfoKey:Keywords\nInfoValue:\n"
+           "InfoKey:Author\nInfoValue:\n";
+}
+
+QString updateInfo()
+{
+    return QStringLiteral(" update_info \"") + QDir::currentPath() + QStringLiteral("/pdfa.txt\"");
+}
+
+} // namespace
+
+class OptionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void imageOptionsStandInTheirOrder_data();
+    void imageOptionsStandInTheirOrder();
+    void pageSizeOptionIsThatOfTheIndex();
+    void descriptionIsWrittenWithAllItsLines_data();
+    void descriptionIsWrittenWithAllItsLines();
+    void blankDescriptionTouchesNoFile();
+    void infoFileIsInTheLocalesCharset_data();
+    void infoFileIsInTheLocalesCharset();
+    void infoFileStaysAfterTheRun();
+    void infoFileThatCannotBeWrittenIsPassedOn();
+    void eachSecurityControlAddsItsPiece_data();
+    void eachSecurityControlAddsItsPiece();
+
+private:
+    PrivateLocales locales;
+};
+
+void OptionsTest::initTestCase()
+{
+    QVERIFY(locales.add("en_US", "ISO-8859-1"));
+}
+
+void OptionsTest::init()
+{
+    locales.use("C.UTF-8");
+    WindowFixture fixture; // goes to the bundle's folder
+    QFile::remove(QStringLiteral("pdfa.txt"));
+    QDir().rmdir(QStringLiteral("pdfa.txt"));
+}
+
+void OptionsTest::imageOptionsStandInTheirOrder_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("rotation");
+    QTest::addColumn<int>("compression");
+    QTest::addColumn<bool>("monochrome");
+    QTest::addColumn<QString>("option");
+
+    QTest::newRow("nothing chosen") << 0 << 0 << 0 << false << "";
+    QTest::newRow("everything") << 5 << 1 << 5 << true
+                                << " -resize 595x842 -rotate 90 -compress JPEG -monochrome";
+    QTest::newRow("a page size") << 16 << 0 << 0 << false << " -resize 1224x792";
+    QTest::newRow("half a turn") << 0 << 2 << 0 << false << " -rotate 180";
+    QTest::newRow("three quarters of a turn") << 0 << 3 << 0 << false << " -rotate 270";
+    QTest::newRow("a compression") << 0 << 0 << 10 << false << " -compress zip";
+    QTest::newRow("black and white") << 0 << 0 << 0 << true << " -monochrome";
+}
+
+void OptionsTest::imageOptionsStandInTheirOrder()
+{
+    QFETCH(int, size);
+    QFETCH(int, rotation);
+    QFETCH(int, compression);
+    QFETCH(bool, monochrome);
+    WindowFixture fixture;
+    fixture.find<QComboBox>("comboBox_pagesize")->setCurrentIndex(size);
+    fixture.find<QComboBox>("comboBox_rotate")->setCurrentIndex(rotation);
+    fixture.find<QComboBox>("comboBox_compresstype")->setCurrentIndex(compression);
+    fixture.check("checkBox_monochrome", monochrome);
+    QTEST(fixture.window.gettheoption(), "option");
+}
+
+void OptionsTest::pageSizeOptionIsThatOfTheIndex()
+{
+    WindowFixture fixture;
+    QCOMPARE(fixture.window.getresize(0), QString());
+    QCOMPARE(fixture.window.getresize(1), QStringLiteral(" -resize 2380x3368"));
+    QCOMPARE(fixture.window.getresize(19), QStringLiteral(" -resize 792x1224"));
+    QCOMPARE(fixture.window.getresize(20), QString());
+    QCOMPARE(fixture.window.getresize(-1), QString());
+}
+
+void OptionsTest::descriptionIsWrittenWithAllItsLines_data()
+{
+    QTest::addColumn<QStringList>("texts"); // title, subject, keywords, author
+    QTest::addColumn<QByteArray>("file");
+
+    QTest::newRow("all fields")
+        << QStringList{"T", "S", "K1, K2", "A"}
+        << QByteArray("InfoKey:Title\nInfoValue:T\nInfoKey:Subject\nInfoValue:S\n"
+                      "InfoKey:Keywords\nInfoValue:K1, K2\nInfoKey:Author\nInfoValue:A\n");
+    QTest::newRow("an author alone")
+        << QStringList{"", "", "", "A"}
+        << QByteArray("InfoKey:Title\nInfoValue:\nInfoKey:Subject\nInfoValue:\n"
+                      "InfoKey:Keywords\nInfoValue:\nInfoKey:Author\nInfoValue:A\n");
+    QTest::newRow("blanks around and within")
+        << QStringList{"  a  b ", "", "", ""} << withTitle("  a  b ");
+    QTest::newRow("a tab alone") << QStringList{"\t", "", "", ""} << withTitle("\t");
+}
+
+void OptionsTest::descriptionIsWrittenWithAllItsLines()
+{
+    QFETCH(QStringList, texts);
+    WindowFixture fixture;
+    fixture.type("lineEdit_title", texts[0]);
+    fixture.type("lineEdit_subject", texts[1]);
+    fixture.type("lineEdit_keywords", texts[2]);
+    fixture.type("lineEdit_author", texts[3]);
+    QCOMPARE(fixture.window.getPdftkoption(), updateInfo());
+    QTEST(infoFileContent(), "file");
+}
+
+void OptionsTest::blankDescriptionTouchesNoFile()
+{
+    WindowFixture fixture;
+    for (const char *field :
+         {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"})
+        fixture.type(field, QStringLiteral("  "));
+    QCOMPARE(fixture.window.getPdftkoption(), QString());
+    QCOMPARE(infoFileContent(), QByteArray("none"));
+}
+
+void OptionsTest::infoFileIsInTheLocalesCharset_data()
+{
+    QTest::addColumn<QByteArray>("locale");
+    QTest::addColumn<QByteArray>("title");
+    QTest::newRow("C") << QByteArray("C") << QByteArray("\xC3\xA9 \xE2\x82\xAC");
+    QTest::newRow("UTF-8") << QByteArray("C.UTF-8") << QByteArray("\xC3\xA9 \xE2\x82\xAC");
+    QTest::newRow("Latin 1, which lacks the euro")
+        << QByteArray("en_US.ISO-8859-1") << QByteArray("\xE9 ?");
+}
+
+void OptionsTest::infoFileIsInTheLocalesCharset()
+{
+    QFETCH(QByteArray, locale);
+    QFETCH(QByteArray, title);
+    locales.use(locale);
+    WindowFixture fixture;
+    fixture.type("lineEdit_title", QString::fromUtf8("\u00e9 \u20ac"));
+    fixture.window.getPdftkoption();
+    QCOMPARE(infoFileContent(), withTitle(title));
+}
+
+void OptionsTest::infoFileStaysAfterTheRun()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", QStringLiteral("A long first title"));
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(infoFileContent(), withTitle("A long first title"));
+    fixture.type("lineEdit_title", QStringLiteral("Short"));
+    fixture.window.getPdftkoption();
+    QCOMPARE(infoFileContent(), withTitle("Short"));
+}
+
+void OptionsTest::infoFileThatCannotBeWrittenIsPassedOn()
+{
+    QVERIFY(QDir().mkdir(QStringLiteral("pdfa.txt"))); // a folder cannot be written, even by root
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", QStringLiteral("T"));
+    QCOMPARE(fixture.window.getPdftkoption(), QStringLiteral("111"));
+
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(
+        fixture.calls().last().arguments,
+        QStringList({fixture.outputPath("a.pdf111"), "output", fixture.outputPath("a-1.pdf")}));
+    QCOMPARE(fixture.outputFiles(), QStringList()); // the PDF is lost
+}
+
+void OptionsTest::eachSecurityControlAddsItsPiece_data()
+{
+    QTest::addColumn<QString>("owner");
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QByteArrayList>("boxes");
+    QTest::addColumn<QString>("option");
+
+    QTest::newRow("nothing") << ""
+                             << "" << QByteArrayList{} << "";
+    QTest::newRow("everything")
+        << "abc"
+        << "xyz"
+        << QByteArrayList{"checkBox_allowprint", "checkBox_allowmodify", "checkBox_allowcopy",
+                          "checkBox_allowannotation"}
+        << " owner_pw abc user_pw xyz allow printing allow modifycontents allow copycontents"
+           " allow modifyannotations";
+    QTest::newRow("equal passwords") << "abc"
+                                     << "abc" << QByteArrayList{} << " owner_pw abc";
+    QTest::newRow("a user password alone") << ""
+                                           << "xyz" << QByteArrayList{} << " user_pw xyz";
+    QTest::newRow("passwords that differ in case")
+        << "Abc"
+        << "abc" << QByteArrayList{} << " owner_pw Abc user_pw abc";
+    QTest::newRow("an owner password of blanks, commenting allowed")
+        << "   "
+        << "" << QByteArrayList{"checkBox_allowannotation"} << " allow modifyannotations";
+    QTest::newRow("printing") << ""
+                              << "" << QByteArrayList{"checkBox_allowprint"} << " allow printing";
+    QTest::newRow("document assembly grants modification")
+        << ""
+        << "" << QByteArrayList{"checkBox_allowmodify"} << " allow modifycontents";
+    QTest::newRow("copying") << ""
+                             << "" << QByteArrayList{"checkBox_allowcopy"} << " allow copycontents";
+}
+
+void OptionsTest::eachSecurityControlAddsItsPiece()
+{
+    QFETCH(QString, owner);
+    QFETCH(QString, user);
+    QFETCH(QByteArrayList, boxes);
+    WindowFixture fixture;
+    fixture.type("lineEdit_ownerpwd", owner);
+    fixture.type("lineEdit_userpwd", user);
+    for (const QByteArray &box : boxes)
+        fixture.check(box);
+    QTEST(fixture.window.getPdftkoptionPer(), "option");
+}
+
+QTEST_MAIN(OptionsTest)
+#include "options_test.moc"

@@ -1,0 +1,321 @@
+// The picture of the current row: its size and shape, when it is drawn, and what is no picture.
+
+#include "windowfixture.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFrame>
+#include <QImage>
+#include <QImageReader>
+#include <QTableWidget>
+
+#include <sys/stat.h>
+
+namespace {
+
+QFrame *frameOf(WindowFixture &fixture)
+{
+    return fixture.find<QFrame>("previewframe");
+}
+
+QImage pictureOf(WindowFixture &fixture)
+{
+    const QFrame *frame = frameOf(fixture);
+    return frame->palette().brush(frame->backgroundRole()).textureImage();
+}
+
+/// Colour in the middle of the picture shown; invalid when it is blank.
+QColor colourOf(WindowFixture &fixture)
+{
+    const QImage picture = pictureOf(fixture);
+    return picture.isNull() ? QColor() : picture.pixelColor(picture.rect().center());
+}
+
+QString savePicture(WindowFixture &fixture, const QString &name, QSize size, QColor colour)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    if (!image.save(fixture.inputPath(name)))
+        qFatal("cannot save the picture");
+    return fixture.inputPath(name);
+}
+
+/// Adds the file and makes its row the current one, without a selection.
+void makeCurrent(WindowFixture &fixture, const QString &path)
+{
+    fixture.drop({QUrl::fromLocalFile(path)});
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    table->selectionModel()->setCurrentIndex(table->model()->index(table->rowCount() - 1, 0),
+                                             QItemSelectionModel::NoUpdate);
+}
+
+/// The preview of the file, drawn at once.
+void preview(WindowFixture &fixture, const QString &path)
+{
+    makeCurrent(fixture, path);
+    fixture.window.dopreview();
+}
+
+} // namespace
+
+class PreviewTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void emptyListShowsTheDefaultPicture();
+    void frameTakesThePicturesShape_data();
+    void frameTakesThePicturesShape();
+    void pictureFillsTheFrame();
+    void formatIsToldByContent_data();
+    void formatIsToldByContent();
+    void transparentPlacesAreCutOutOfTheFrame();
+    void unreadableFileBlanksThePictureAndKeepsTheSize_data();
+    void unreadableFileBlanksThePictureAndKeepsTheSize();
+    void pictureAboveTheAllocationLimitIsUnreadable();
+    void nothingToPreviewLeavesTheFrameAlone_data();
+    void nothingToPreviewLeavesTheFrameAlone();
+    void emptiedListKeepsTheDefaultPictureAtLaterFirings();
+    void timerStartsAtTheFirstClickAndRepeats();
+    void selectionShowsItsPictureWhenTheTimerFires();
+    void rewrittenFileShowsItsNewContent();
+};
+
+void PreviewTest::emptyListShowsTheDefaultPicture()
+{
+    WindowFixture fixture;
+    QCOMPARE(frameOf(fixture)->geometry(), QRect(400, 42, 151, 151));
+    QVERIFY(frameOf(fixture)->autoFillBackground());
+    const QImage expected = QImage(QStringLiteral(":/iconoption/icons/whle.png"))
+                                .scaled(151, 151, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto format = QImage::Format_ARGB32_Premultiplied;
+    QCOMPARE(pictureOf(fixture).convertToFormat(format), expected.convertToFormat(format));
+}
+
+void PreviewTest::frameTakesThePicturesShape_data()
+{
+    QTest::addColumn<QSize>("picture");
+    QTest::addColumn<QSize>("frame");
+    QTest::newRow("the box's shape doubled") << QSize(302, 374) << QSize(151, 187);
+    QTest::newRow("flat") << QSize(1000, 100) << QSize(151, 15);
+    QTest::newRow("tall") << QSize(100, 1000) << QSize(18, 187);
+    QTest::newRow("a single pixel") << QSize(1, 1) << QSize(151, 151);
+}
+
+void PreviewTest::frameTakesThePicturesShape()
+{
+    QFETCH(QSize, picture);
+    QFETCH(QSize, frame);
+    WindowFixture fixture;
+    preview(fixture, savePicture(fixture, "p.png", picture, Qt::red));
+    QCOMPARE(frameOf(fixture)->geometry(), QRect(QPoint(400, 42), frame));
+    // Keeping the picture's own shape may cost it up to two pixels against the frame's.
+    const QSize shown = pictureOf(fixture).size();
+    QVERIFY(shown.width() <= frame.width() && shown.width() >= frame.width() - 2);
+    QVERIFY(shown.height() <= frame.height() && shown.height() >= frame.height() - 2);
+    QCOMPARE(colourOf(fixture), QColor(Qt::red));
+}
+
+void PreviewTest::pictureFillsTheFrame()
+{
+    WindowFixture fixture;
+    preview(fixture, savePicture(fixture, "p.png", {302, 374}, Qt::blue));
+    const QFrame *frame = frameOf(fixture);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(frame->palette().brush(group, frame->backgroundRole()).style(),
+                 Qt::TexturePattern);
+    const QPoint middle = frame->mapTo(&fixture.window, frame->rect().center());
+    QCOMPARE(fixture.window.grab().toImage().pixelColor(middle), QColor(Qt::blue));
+}
+
+void PreviewTest::formatIsToldByContent_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QSize>("frame");
+    QTest::newRow("BMP") << "harbour.bmp" << QSize(151, 113);
+    QTest::newRow("GIF") << "garden.gif" << QSize(151, 113);
+    QTest::newRow("JPEG") << "beach.jpg" << QSize(151, 113);
+    QTest::newRow("PBM") << "letter.pbm" << QSize(140, 187);
+    QTest::newRow("PCX") << "market.pcx" << QSize(151, 113);
+    QTest::newRow("PNG") << "window.png" << QSize(151, 151);
+    QTest::newRow("PPM") << "meadow.ppm" << QSize(151, 113);
+    QTest::newRow("TIFF") << "receipt.tif" << QSize(116, 187);
+}
+
+void PreviewTest::formatIsToldByContent()
+{
+    QFETCH(QString, sample);
+    QFETCH(QSize, frame);
+    QCoreApplication::addLibraryPath(QStringLiteral(PLUGIN_FOLDER));
+    WindowFixture fixture;
+    for (const char *name : {"picture", "picture.txt", "picture.png", "picture.tif"}) {
+        const QString path = fixture.inputPath(QLatin1String(name));
+        QVERIFY(QFile::copy(QStringLiteral(SAMPLE_FOLDER "/") + sample, path));
+        frameOf(fixture)->resize(1, 1);
+        preview(fixture, path);
+        QCOMPARE(frameOf(fixture)->size(), frame);
+        QVERIFY(colourOf(fixture).isValid());
+    }
+}
+
+void PreviewTest::transparentPlacesAreCutOutOfTheFrame()
+{
+    WindowFixture fixture;
+    QImage image(302, 374, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < 100; ++x)
+            image.setPixelColor(x, y, Qt::green);
+    }
+    QVERIFY(image.save(fixture.inputPath("t.png")));
+    preview(fixture, fixture.inputPath("t.png"));
+    QFrame *frame = frameOf(fixture);
+    QVERIFY(frame->mask().contains(QPoint(20, 90)));
+    QVERIFY(!frame->mask().contains(QPoint(120, 90)));
+    QCOMPARE(fixture.window.childAt(frame->mapTo(&fixture.window, QPoint(20, 90))), frame);
+    QVERIFY(fixture.window.childAt(frame->mapTo(&fixture.window, QPoint(120, 90))) != frame);
+
+    preview(fixture, savePicture(fixture, "o.png", {302, 374}, Qt::red));
+    QVERIFY(frame->mask().isEmpty()); // an opaque picture takes the mask away
+}
+
+void PreviewTest::unreadableFileBlanksThePictureAndKeepsTheSize_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"text", "empty file", "truncated picture", "FIFO", "endless device",
+                             "folder", "missing file"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void PreviewTest::unreadableFileBlanksThePictureAndKeepsTheSize()
+{
+    QFETCH(QString, kind);
+    WindowFixture fixture;
+    const QString picture = savePicture(fixture, "p.png", {1000, 100}, Qt::red);
+    preview(fixture, picture);
+    QString path = fixture.inputPath("unreadable.png");
+    if (kind == QLatin1String("text"))
+        fixture.makeFile("unreadable.png", "no picture");
+    else if (kind == QLatin1String("empty file"))
+        fixture.makeFile("unreadable.png", "");
+    else if (kind == QLatin1String("truncated picture"))
+        QVERIFY(QFile::copy(picture, path) && QFile::resize(path, 30));
+    else if (kind == QLatin1String("FIFO"))
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    else if (kind == QLatin1String("endless device"))
+        path = QStringLiteral("/dev/zero");
+    else if (kind == QLatin1String("folder"))
+        QVERIFY(QDir().mkdir(path));
+    preview(fixture, path);
+    QCOMPARE(frameOf(fixture)->geometry(), QRect(400, 42, 151, 15));
+    QVERIFY(pictureOf(fixture).isNull());
+}
+
+void PreviewTest::pictureAboveTheAllocationLimitIsUnreadable()
+{
+    WindowFixture fixture;
+    const QString path = savePicture(fixture, "bomb.png", {1000, 1000}, Qt::red);
+    const int limit = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(2); // megabytes; the picture takes four
+    preview(fixture, path);
+    QImageReader::setAllocationLimit(limit);
+    QVERIFY(pictureOf(fixture).isNull());
+    QCOMPARE(frameOf(fixture)->size(), QSize(151, 151));
+    fixture.window.dopreview();
+    QCOMPARE(colourOf(fixture), QColor(Qt::red));
+}
+
+void PreviewTest::nothingToPreviewLeavesTheFrameAlone_data()
+{
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("current");
+    QTest::newRow("no row") << 0 << -1;
+    QTest::newRow("rows but no current one") << 2 << -1;
+    QTest::newRow("a current row without an item") << 2 << 1;
+}
+
+void PreviewTest::nothingToPreviewLeavesTheFrameAlone()
+{
+    QFETCH(int, rows);
+    QFETCH(int, current);
+    WindowFixture fixture;
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    table->setRowCount(rows);
+    table->setCurrentCell(current, 0);
+    const QImage before = pictureOf(fixture);
+    frameOf(fixture)->resize(33, 44);
+    fixture.window.dopreview();
+    QCOMPARE(frameOf(fixture)->size(), QSize(33, 44));
+    QCOMPARE(pictureOf(fixture), before);
+}
+
+void PreviewTest::emptiedListKeepsTheDefaultPictureAtLaterFirings()
+{
+    WindowFixture fixture;
+    const QImage before = pictureOf(fixture);
+    preview(fixture, savePicture(fixture, "p.png", {1000, 100}, Qt::red));
+    fixture.click("removeallButton");
+    fixture.window.dopreview();
+    QCOMPARE(frameOf(fixture)->size(), QSize(151, 151));
+    QCOMPARE(pictureOf(fixture), before);
+}
+
+void PreviewTest::timerStartsAtTheFirstClickAndRepeats()
+{
+    WindowFixture fixture;
+    QTimer *timer = ProcessProbe::previewTimer(fixture.window);
+    makeCurrent(fixture, fixture.makeFile("a.jpg"));
+    QVERIFY(!timer->isActive());
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      table->visualItemRect(table->item(0, 0)).center());
+    QVERIFY(timer->isActive());
+    QCOMPARE(timer->interval(), 300);
+    QVERIFY(!timer->isSingleShot());
+    int firings = 0;
+    connect(timer, &QTimer::timeout, this, [&firings] { ++firings; });
+    QTRY_VERIFY(firings >= 2);
+    fixture.click("removeallButton");
+    QVERIFY(timer->isActive()); // it goes on, with nothing to show
+}
+
+void PreviewTest::selectionShowsItsPictureWhenTheTimerFires()
+{
+    WindowFixture fixture;
+    const QString red = savePicture(fixture, "red.png", {10, 10}, Qt::red);
+    const QString blue = savePicture(fixture, "blue.png", {10, 10}, Qt::blue);
+    fixture.drop({QUrl::fromLocalFile(red), QUrl::fromLocalFile(blue)});
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    table->selectRow(1);
+    QVERIFY(colourOf(fixture) != QColor(Qt::blue)); // not before the delay
+    QTRY_COMPARE(colourOf(fixture), QColor(Qt::blue));
+    table->selectRow(0);
+    QTRY_COMPARE(colourOf(fixture), QColor(Qt::red));
+}
+
+void PreviewTest::rewrittenFileShowsItsNewContent()
+{
+    WindowFixture fixture;
+    const QString path = savePicture(fixture, "p.bmp", {20, 20}, Qt::red);
+    const auto rewind = [&path] {
+        QFile file(path);
+        return file.open(QIODevice::ReadWrite) &&
+               file.setFileTime(QDateTime::fromSecsSinceEpoch(1000000000),
+                                QFileDevice::FileModificationTime);
+    };
+    QVERIFY(rewind());
+    makeCurrent(fixture, path);
+    fixture.window.setpreview();
+    QTRY_COMPARE(colourOf(fixture), QColor(Qt::red));
+
+    // Same name, same size, same time of change: only the content tells.
+    const qint64 size = QFileInfo(path).size();
+    savePicture(fixture, "p.bmp", {20, 20}, Qt::blue);
+    QVERIFY(rewind());
+    QCOMPARE(QFileInfo(path).size(), size);
+    QTRY_COMPARE(colourOf(fixture), QColor(Qt::blue));
+}
+
+QTEST_MAIN(PreviewTest)
+#include "preview_test.moc"

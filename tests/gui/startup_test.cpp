@@ -1,0 +1,96 @@
+// What start-up prepares before there is a window.
+
+#include "process.h"
+#include "startup.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImageReader>
+#include <QLabel>
+#include <QTest>
+
+#include <algorithm>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+class StartupTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void pluginsAreTakenFromTheBundleAlone();
+    void bundlesFolderIsTheCurrentOne();
+    void imagesMayTakeAQuarterOfTheMemory();
+    void coloursAreLightOnADarkDesktop_data();
+    void coloursAreLightOnADarkDesktop();
+    void argumentLimitIsRaised();
+
+private:
+    QDir bundle;
+};
+
+void StartupTest::initTestCase()
+{
+    QPalette dark(QColor(0x20, 0x20, 0x20));
+    QVERIFY(dark.color(QPalette::WindowText).lightness() > 128);
+    QApplication::setPalette(dark);
+    QDir::setCurrent(QStringLiteral("/"));
+    prepare(*qApp);
+    bundle = QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
+}
+
+void StartupTest::pluginsAreTakenFromTheBundleAlone()
+{
+    QCOMPARE(QCoreApplication::libraryPaths(),
+             QStringList({QDir::cleanPath(bundle.absoluteFilePath("Contents/Plugins"))}));
+}
+
+void StartupTest::bundlesFolderIsTheCurrentOne()
+{
+    QCOMPARE(QDir::currentPath(), QDir::cleanPath(bundle.absoluteFilePath("..")));
+}
+
+void StartupTest::imagesMayTakeAQuarterOfTheMemory()
+{
+    const qint64 memory = qint64(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
+    QCOMPARE(QImageReader::allocationLimit(), int(memory / 4 / (1024 * 1024)));
+}
+
+void StartupTest::coloursAreLightOnADarkDesktop_data()
+{
+    QTest::addColumn<QPalette::ColorRole>("ground");
+    QTest::addColumn<QPalette::ColorRole>("text");
+    QTest::newRow("windows") << QPalette::Window << QPalette::WindowText;
+    QTest::newRow("fields") << QPalette::Base << QPalette::Text;
+    QTest::newRow("buttons") << QPalette::Button << QPalette::ButtonText;
+    QTest::newRow("tool tips") << QPalette::ToolTipBase << QPalette::ToolTipText;
+}
+
+void StartupTest::coloursAreLightOnADarkDesktop()
+{
+    QFETCH(QPalette::ColorRole, ground);
+    QFETCH(QPalette::ColorRole, text);
+    const Process window;
+    for (const QPalette &colours :
+         {QApplication::palette(), window.findChild<QLabel *>("label_12")->palette()}) {
+        QVERIFY(colours.color(ground).lightness() > 200);
+        QVERIFY(colours.color(text).lightness() < 60);
+    }
+}
+
+void StartupTest::argumentLimitIsRaised()
+{
+    rlimit stack = {};
+    QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
+    const rlim_t most = std::min<rlim_t>(stack.rlim_max, 64 * 1024 * 1024);
+    stack.rlim_cur = std::min<rlim_t>(most, 8 * 1024 * 1024);
+    QCOMPARE(setrlimit(RLIMIT_STACK, &stack), 0);
+    raiseArgumentLimit();
+    QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
+    QCOMPARE(stack.rlim_cur, most);
+}
+
+QTEST_MAIN(StartupTest)
+#include "startup_test.moc"
