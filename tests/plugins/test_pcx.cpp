@@ -72,6 +72,7 @@ private slots:
     void readsNothingFromADamagedFile_data();
     void readsNothingFromADamagedFile();
     void readsNothingFromAFileThatEndsAnywhereInside();
+    void looksNoFurtherIntoAFileTooShortForItsSize();
     void obeysTheReadersLimitOfMemory();
     void tellsTheSizeWithoutMovingTheDevice();
 };
@@ -126,6 +127,9 @@ void TestPcx::givesThePixelsOfTheFile_data()
         {.data = hex("C1FF 00 C1C0 00 C1FE 00")}, {0xFFFFC0FE});
     row("a run may cover several planes and lines", {.right = 1, .bottom = 1, .data = hex("CC09")},
         {0xFF090909, 0xFF090909, 0xFF090909, 0xFF090909});
+    row("the longest runs and nothing else",
+        {.version = 3, .planes = 1, .right = 125, .bytesPerLine = 126, .data = hex("FF07 FF07")},
+        Pixels(126, 0xFF070707));
     row("a count of zero is a run of nothing", {.data = hex("C0FF 0100 C0FF 0200 0300")},
         {0xFF010203});
     row("without run lengths a high byte is itself", {.encoding = 0, .data = hex("FF00 C100 C500")},
@@ -225,6 +229,16 @@ void TestPcx::readsNothingFromAFileThatEndsAnywhereInside()
         QVERIFY2(readBytes(file.first(size)).isNull(), qPrintable(QString::number(size)));
 }
 
+void TestPcx::looksNoFurtherIntoAFileTooShortForItsSize()
+{
+    QByteArray file = PcxFile{.right = 2047, .bottom = 2047, .bytesPerLine = 2048}.bytes();
+    QBuffer buffer(&file);
+
+    QVERIFY(readFrom(buffer).isNull());
+
+    QCOMPARE(buffer.pos(), 128);
+}
+
 void TestPcx::obeysTheReadersLimitOfMemory()
 {
     const int previous = QImageReader::allocationLimit();
@@ -249,6 +263,8 @@ void TestPcx::tellsTheSizeWithoutMovingTheDevice()
 
     QVERIFY(handler.supportsOption(QImageIOHandler::Size));
     QCOMPARE(handler.option(QImageIOHandler::Size).toSize(), QSize(2, 5));
+    QVERIFY(!handler.supportsOption(QImageIOHandler::Gamma));
+    QCOMPARE(handler.option(QImageIOHandler::Gamma), QVariant());
     QVERIFY(handler.canRead());
     QCOMPARE(handler.format(), QByteArray("pcx"));
     QCOMPARE(buffer.pos(), 0);
