@@ -132,7 +132,11 @@ void ConversionE2eTest::mergedPagesStandInRowOrder()
     convert(
         {makeImage("b.png", {20, 10}), makeImage("c.png", {30, 10}), makeImage("a.png", {40, 10})});
     QCOMPARE(outputFiles(), QStringList("b.pdf"));
-    QCOMPARE(readPdf(output("b.pdf")).pageSizes, QList<QSizeF>({{20, 10}, {30, 10}, {40, 10}}));
+    QList<QSize> pages;
+    const QList<QSizeF> pageSizes = readPdf(output("b.pdf")).pageSizes;
+    for (const QSizeF &size : pageSizes)
+        pages << size.toSize();
+    QCOMPARE(pages, QList<QSize>({{20, 10}, {30, 10}, {40, 10}}));
 }
 
 void ConversionE2eTest::everyCompressionMakesAReadablePdf_data()
