@@ -45,7 +45,7 @@ Job::Job(const std::string &target)
 
 std::string Job::addInput(const std::string &path, const std::string &name)
 {
-    const std::string origin = absolutePath(path);
+    std::string origin = absolutePath(path);
     if (symlinkat(origin.c_str(), m_folder.descriptor(), name.c_str()) == 0) {
         m_inputs.emplace_back(name, path);
         return name;
