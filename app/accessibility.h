@@ -3,5 +3,6 @@
 class Ui_process;
 
 /// Gives the layout's controls what a screen reader and a hovering user need: each label becomes
-/// the buddy of its field, each control without a visible text gets a name and a tool tip.
+/// the buddy of its field, each control without a visible text gets a name and a tool tip, and Tab
+/// reaches every control.
 void describeControls(const Ui_process &ui);

@@ -1,12 +1,101 @@
 #include "look.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QStyleOption>
+
+namespace {
+
+constexpr QRgb focusColour = 0xff0b7a6a;
+
+/// The toolkit's own Fusion style, with a focus ring on push buttons: flat ones have none there,
+/// and others show it only after a key press.
+class Style : public QProxyStyle
+{
+public:
+    Style()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {
+    }
+
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (element == CE_PushButton && (option->state & State_HasFocus))
+            drawFocusRing(*painter, option->rect);
+    }
+
+    // Buttons below a style sheet ask for their focus here alone.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        if (element == PE_FrameFocusRect && qobject_cast<const QPushButton *>(widget))
+            drawFocusRing(*painter, widget->rect());
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+private:
+    static void drawFocusRing(QPainter &painter, const QRectF &rect)
+    {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor(focusColour), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(rect.adjusted(2, 2, -2, -2), 5, 5);
+        painter.restore();
+    }
+};
+
+struct RoleColour
+{
+    QPalette::ColorRole role;
+    QRgb colour;
+    QRgb disabled;
+};
+
+// Every role is named, so nothing of the desktop's theme, now or changed later, shows through.
+constexpr RoleColour lightColours[] = {
+    {QPalette::WindowText, 0xff000000, 0xff8c8c8c},
+    {QPalette::Button, 0xfff0f2f1, 0xfff0f2f1},
+    {QPalette::Light, 0xffffffff, 0xffffffff},
+    {QPalette::Midlight, 0xffe3e8e6, 0xffe3e8e6},
+    {QPalette::Dark, 0xff9aa5a1, 0xffb9c0bd},
+    {QPalette::Mid, 0xffb8c0bd, 0xffc9cecc},
+    {QPalette::Text, 0xff000000, 0xff8c8c8c},
+    {QPalette::BrightText, 0xffffffff, 0xffffffff},
+    {QPalette::ButtonText, 0xff000000, 0xff8c8c8c},
+    {QPalette::Base, 0xffffffff, 0xfff5f7f6},
+    {QPalette::Window, 0xfff3f6f5, 0xfff3f6f5},
+    {QPalette::Shadow, 0xff717a77, 0xff9aa5a1},
+    {QPalette::Highlight, 0xff0b7a6a, 0xff9fb5b0},
+    {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
+    {QPalette::Link, 0xff0000ff, 0xff0000ff},
+    {QPalette::LinkVisited, 0xff551a8b, 0xff551a8b},
+    {QPalette::AlternateBase, 0xfff3f6f5, 0xfff3f6f5},
+    {QPalette::ToolTipBase, 0xfffffbe6, 0xfffffbe6},
+    {QPalette::ToolTipText, 0xff000000, 0xff000000},
+    {QPalette::PlaceholderText, 0xff6c6c6c, 0xff9a9a9a},
+};
+
+QPalette lightPalette()
+{
+    QPalette colours;
+    for (const auto &[role, colour, disabled] : lightColours) {
+        colours.setColor(role, colour);
+        colours.setColor(QPalette::Disabled, role, disabled);
+    }
+    return colours;
+}
+
+} // namespace
 
 void applyLook(QApplication &application)
 {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    application.setPalette(application.style()->standardPalette());
+    application.setStyle(new Style); // the application owns it
+    application.setPalette(lightPalette());
 }

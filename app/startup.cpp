@@ -42,7 +42,9 @@ void prepare(QApplication &application)
     QImageReader::setAllocationLimit(imageAllocationLimit());
     applyLook(application);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
-    // Two page slots have no button of their name in the layout, which is as it should be.
+    // Two page slots have no button of their name in the layout, and a broken image is no news:
+    // neither is worth a line on the terminal, the latter at every refresh of the preview.
     QLoggingCategory::setFilterRules(
-        QStringLiteral("qt.core.qmetaobject.connectslotsbyname.warning=false"));
+        QStringLiteral("qt.core.qmetaobject.connectslotsbyname.warning=false\n"
+                       "qt.gui.imageio*.warning=false"));
 }

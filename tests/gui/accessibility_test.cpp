@@ -1,0 +1,213 @@
+// What a screen reader is told, and the whole job by keyboard alone.
+
+#include "windowfixture.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableWidget>
+
+namespace {
+
+QString accessibleName(QWidget *widget)
+{
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+/// Presses Tab until the control has the focus; false when it never gets it.
+bool tabTo(WindowFixture &fixture, const char *name)
+{
+    for (int presses = 0; presses < 60; ++presses) {
+        QWidget *focused = QApplication::focusWidget();
+        if (focused && focused->objectName() == QLatin1String(name))
+            return true;
+        QTest::keyClick(focused ? focused : &fixture.window, Qt::Key_Tab);
+    }
+    return false;
+}
+
+void press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+void typeHere(const QString &text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+} // namespace
+
+class AccessibilityTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyControlHasANameAndAToolTip();
+    void labelsAreBuddiesOfTheirFields_data();
+    void labelsAreBuddiesOfTheirFields();
+    void pictureButtonsSayWhatTheyDo_data();
+    void pictureButtonsSayWhatTheyDo();
+    void tabLeavesTheFileList();
+    void emptyListTakesNoFocus();
+    void wholeJobByKeyboard();
+};
+
+void AccessibilityTest::everyControlHasANameAndAToolTip()
+{
+    WindowFixture fixture;
+    int controls = 0;
+    const auto widgets = fixture.window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isPart =
+            widget->objectName().isEmpty() || widget->objectName().startsWith(QLatin1String("qt_"));
+        const bool isControl =
+            qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget) ||
+            qobject_cast<QComboBox *>(widget) || qobject_cast<QTableWidget *>(widget);
+        if (isPart || !isControl)
+            continue;
+        ++controls;
+        QVERIFY2(!accessibleName(widget).isEmpty(), qPrintable(widget->objectName()));
+        const bool hasText = !widget->property("text").toString().isEmpty();
+        QVERIFY2(hasText || !widget->toolTip().isEmpty(), qPrintable(widget->objectName()));
+    }
+    QCOMPARE(controls, 27);
+}
+
+void AccessibilityTest::labelsAreBuddiesOfTheirFields_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("field");
+    const std::pair<const char *, const char *> rows[] = {
+        {"label", "inputfiletableWidget"},     {"outputfolderlabel", "outputfolderEdit"},
+        {"label_15", "comboBox_rotate"},       {"label_14", "comboBox_pagesize"},
+        {"label_16", "comboBox_compresstype"}, {"label_19", "lineEdit_title"},
+        {"label_20", "lineEdit_subject"},      {"label_21", "lineEdit_keywords"},
+        {"label_22", "lineEdit_author"},       {"label_27", "lineEdit_ownerpwd"},
+        {"label_28", "lineEdit_userpwd"},
+    };
+    for (const auto &[label, field] : rows)
+        QTest::addRow("%s", field) << QString(label) << QString(field);
+}
+
+void AccessibilityTest::labelsAreBuddiesOfTheirFields()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, field);
+    WindowFixture fixture;
+    QCOMPARE(fixture.find<QLabel>(qPrintable(label))->buddy(),
+             fixture.find<QWidget>(qPrintable(field)));
+}
+
+void AccessibilityTest::pictureButtonsSayWhatTheyDo_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("convert") << "runButton"
+                             << "Convert";
+    QTest::newRow("folder") << "outputButton"
+                            << "Browse for the output folder";
+    QTest::newRow("files page") << "pushButton_Inout"
+                                << "Files and output folder";
+    QTest::newRow("appearance page") << "pushButton_ImageSetting"
+                                     << "Appearance";
+    QTest::newRow("description page") << "pushButton_PDFSetting"
+                                      << "Description";
+    QTest::newRow("security page") << "pushButton_Security"
+                                   << "Security";
+    QTest::newRow("about") << "aboutpushButton"
+                           << "About";
+    QTest::newRow("remove, spelled right for the ear") << "removeButton"
+                                                       << "Remove";
+}
+
+void AccessibilityTest::pictureButtonsSayWhatTheyDo()
+{
+    QFETCH(QString, button);
+    WindowFixture fixture;
+    QTEST(accessibleName(fixture.find<QPushButton>(qPrintable(button))), "name");
+}
+
+void AccessibilityTest::tabLeavesTheFileList()
+{
+    WindowFixture fixture;
+    fixture.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.find<QTableWidget>("inputfiletableWidget")->setFocus();
+    press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("openfileButton"));
+}
+
+void AccessibilityTest::emptyListTakesNoFocus()
+{
+    WindowFixture fixture;
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QCOMPARE(table->focusPolicy(), Qt::NoFocus);
+    fixture.addImages({"a.jpg"});
+    QCOMPARE(table->focusPolicy(), Qt::StrongFocus);
+    fixture.click("removeallButton");
+    QCOMPARE(table->focusPolicy(), Qt::NoFocus);
+}
+
+void AccessibilityTest::wholeJobByKeyboard()
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    WindowFixture fixture;
+    fixture.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+    const QString image = fixture.makeFile("a.jpg");
+
+    QVERIFY(tabTo(fixture, "openfileButton"));
+    ModalAnswer choose([&image](QWidget *dialog) {
+        auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
+        QTest::sendKeyEvent(QTest::Click, name, Qt::Key_unknown, image, Qt::NoModifier);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    press(Qt::Key_Space);
+    QVERIFY(choose.happened());
+    fixture.window.activateWindow(); // a window manager would, after the dialog
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+    QCOMPARE(fixture.find<QTableWidget>("inputfiletableWidget")->rowCount(), 1);
+
+    QVERIFY(tabTo(fixture, "outputfolderEdit"));
+    typeHere(fixture.outputPath());
+    QVERIFY(tabTo(fixture, "pushButton_ImageSetting"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "comboBox_rotate"));
+    press(Qt::Key_Down);
+    QVERIFY(tabTo(fixture, "comboBox_pagesize"));
+    press(Qt::Key_Down);
+    QVERIFY(tabTo(fixture, "checkBox_monochrome"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "pushButton_PDFSetting"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "lineEdit_title"));
+    typeHere("Holiday");
+    QVERIFY(tabTo(fixture, "pushButton_Security"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "lineEdit_ownerpwd"));
+    typeHere("abc");
+    QVERIFY(tabTo(fixture, "checkBox_allowprint"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "pushButton_Inout"));
+    press(Qt::Key_Space);
+    QVERIFY(tabTo(fixture, "runButton"));
+    press(Qt::Key_Space);
+
+    QVERIFY(fixture.waitUntilQuiet());
+    const auto calls = fixture.calls();
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls[0].arguments, QStringList({"-resize", "2380x3368", "-rotate", "90",
+                                              "-monochrome", image, fixture.outputPath("a.pdf")}));
+    QCOMPARE(calls[1].arguments.mid(3), QStringList({"output", fixture.outputPath("a-1.pdf"),
+                                                     "owner_pw", "abc", "allow", "printing"}));
+}
+
+QTEST_MAIN(AccessibilityTest)
+#include "accessibility_test.moc"

@@ -1,0 +1,193 @@
+// No text is cut off or runs into another, in the fonts of a stock Debian desktop, at the usual
+// size and at 125 percent.
+
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QTableWidget>
+
+class LegibilityTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void textsFitTheirPlaces_data();
+    void textsFitTheirPlaces();
+    void textsDoNotRunIntoEachOther_data();
+    void textsDoNotRunIntoEachOther();
+    void textsStayLegible_data();
+    void textsStayLegible();
+
+private:
+    static void addFonts();
+    static void useFont();
+    QFont usual;
+};
+
+namespace {
+
+/// The rectangle, in the window, that the text of `label` really covers.
+QRect inkOf(const QLabel &label)
+{
+    QRect text(QPoint(), label.sizeHint());
+    const int slack = label.width() - text.width();
+    text.moveLeft(label.alignment() & Qt::AlignRight ? slack : 0);
+    text.moveTop((label.height() - text.height()) / 2);
+    return text.translated(label.mapTo(label.window(), QPoint()));
+}
+
+int widestItem(const QComboBox &box)
+{
+    int width = 0;
+    for (int item = 0; item < box.count(); ++item)
+        width = std::max(width, box.fontMetrics().boundingRect(box.itemText(item)).width());
+    return width;
+}
+
+bool isPartOfAnother(const QWidget &widget)
+{
+    return widget.objectName().startsWith(QLatin1String("qt_")) ||
+           qobject_cast<const QComboBox *>(widget.parentWidget());
+}
+
+} // namespace
+
+void LegibilityTest::initTestCase()
+{
+    usual = QApplication::font();
+}
+
+void LegibilityTest::cleanup()
+{
+    QApplication::setFont(usual);
+}
+
+void LegibilityTest::addFonts()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<qreal>("points");
+    for (const char *family : {"DejaVu Sans", "Cantarell", "Liberation Sans", "Noto Sans"}) {
+        for (const qreal points : {9.0, 10.0, 11.0, 1.25 * 9, 1.25 * 11})
+            QTest::addRow("%s at %.2f points", family, points) << QString(family) << points;
+    }
+}
+
+void LegibilityTest::useFont()
+{
+    QFETCH(QString, family);
+    QFETCH(qreal, points);
+    QFont font(family);
+    font.setPointSizeF(points);
+    QCOMPARE(QFontInfo(font).family(), family);
+    QApplication::setFont(font);
+}
+
+void LegibilityTest::textsFitTheirPlaces_data()
+{
+    addFonts();
+}
+
+void LegibilityTest::textsFitTheirPlaces()
+{
+    useFont();
+    WindowFixture fixture;
+    int seen = 0;
+    const auto widgets = fixture.window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const QFontMetrics metrics = widget->fontMetrics();
+        QSize needed(0, metrics.height());
+        QSize room = widget->size();
+        if (isPartOfAnother(*widget)) {
+            continue;
+        } else if (auto *label = qobject_cast<QLabel *>(widget)) {
+            needed = label->sizeHint();
+        } else if (auto *button = qobject_cast<QPushButton *>(widget)) {
+            if (button->text().isEmpty())
+                continue;
+            needed.setWidth(metrics.boundingRect(button->text()).width() +
+                            button->iconSize().width());
+        } else if (auto *check = qobject_cast<QCheckBox *>(widget)) {
+            needed.setWidth(metrics.boundingRect(check->text()).width() +
+                            check->style()->pixelMetric(QStyle::PM_IndicatorWidth));
+        } else if (auto *box = qobject_cast<QComboBox *>(widget)) {
+            needed.setWidth(widestItem(*box));
+            room.rwidth() -= 22; // the arrow and the frame
+        } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
+            room.setHeight(table->verticalHeader()->defaultSectionSize());
+        } else if (!qobject_cast<QLineEdit *>(widget) && !qobject_cast<QProgressBar *>(widget)) {
+            continue;
+        }
+        ++seen;
+        QVERIFY2(needed.width() <= room.width() && needed.height() <= room.height(),
+                 qPrintable(QStringLiteral("%1 needs %2x%3 of %4x%5")
+                                .arg(widget->objectName())
+                                .arg(needed.width())
+                                .arg(needed.height())
+                                .arg(room.width())
+                                .arg(room.height())));
+    }
+    QVERIFY(seen >= 37);
+}
+
+void LegibilityTest::textsDoNotRunIntoEachOther_data()
+{
+    addFonts();
+}
+
+void LegibilityTest::textsDoNotRunIntoEachOther()
+{
+    useFont();
+    WindowFixture fixture;
+    auto *pages = fixture.find<QStackedWidget>("stackedWidget_dialog");
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        const auto labels = pages->currentWidget()->findChildren<QLabel *>();
+        const auto fields = pages->currentWidget()->findChildren<QWidget *>();
+        for (const QLabel *label : labels) {
+            if (label->text().isEmpty())
+                continue;
+            for (const QWidget *field : fields) {
+                const bool isField = qobject_cast<const QLineEdit *>(field) ||
+                                     qobject_cast<const QComboBox *>(field) ||
+                                     qobject_cast<const QCheckBox *>(field);
+                if (!isField || isPartOfAnother(*field))
+                    continue;
+                const QRect place(field->mapTo(&fixture.window, QPoint()), field->size());
+                QVERIFY2(!inkOf(*label).intersects(place),
+                         qPrintable(label->text() + QStringLiteral(" on ") + field->objectName()));
+            }
+        }
+    }
+}
+
+void LegibilityTest::textsStayLegible_data()
+{
+    addFonts();
+}
+
+void LegibilityTest::textsStayLegible()
+{
+    useFont();
+    WindowFixture fixture;
+    const auto labels = fixture.window.findChildren<QWidget *>();
+    for (const QWidget *widget : labels) {
+        if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QComboBox *>(widget)) {
+            QVERIFY(widget->font().pointSizeF() >= 7.5);
+            QVERIFY(QFontInfo(widget->font()).pixelSize() >= 10);
+        }
+    }
+}
+
+QTEST_MAIN(LegibilityTest)
+#include "legibility_test.moc"
