@@ -8,15 +8,18 @@
 //   delay=MS            wait that many milliseconds
 //   hang                never end
 //   noise=BYTES         print that many bytes to each of the two output streams
-//   output=none|partial write nothing, or half of the result (default: all of it)
-//   full                report a full disk and leave half of the result, exit 1
+//   output=none|partial write nothing, or "partial" for the result (default: all of it)
+//   full                report a full disk and leave a partial result, exit 1
 //   exit=N              exit status
 //   signal=N            end by that signal
+//   outlive             go on when the program that started it ends
 // Without words the result is written and the exit status is 0. A missing input fails as the real
-// tools do: no result, exit status 1.
+// tools do: no result, exit status 1; so does a place that its owner may not write to, root's too.
 
+#include <linux/capability.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 #include <chrono>
 #include <csignal>
@@ -51,6 +54,7 @@ struct Behaviour
     int exitStatus = 0;
     bool hang = false;
     bool full = false;
+    bool outlive = false;
     std::string output = "all";
 };
 
@@ -78,6 +82,8 @@ Behaviour readBehaviour(const std::string &words)
             behaviour.hang = true;
         else if (key == "full")
             behaviour.full = true;
+        else if (key == "outlive")
+            behaviour.outlive = true;
     }
     return behaviour;
 }
@@ -101,10 +107,10 @@ std::optional<std::string> contentOf(const std::string &path)
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-bool exists(const std::string &path)
+bool isFile(const std::string &path)
 {
     struct stat status = {};
-    return stat(path.c_str(), &status) == 0;
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
 struct Result
@@ -129,7 +135,7 @@ std::optional<Result> convertResult(const Arguments &arguments)
         return std::nullopt;
     std::string content;
     for (std::size_t i = first; i + 1 < arguments.size(); ++i) {
-        if (!exists(arguments[i]))
+        if (!isFile(arguments[i]))
             return std::nullopt;
         content += (content.empty() ? "" : "|") + arguments[i];
     }
@@ -162,24 +168,32 @@ void makeNoise(long bytes)
 void waitAsTold(const Behaviour &behaviour)
 {
     using namespace std::chrono_literals;
-    while (!behaviour.gate.empty() && exists(behaviour.gate))
+    while (!behaviour.gate.empty() && isFile(behaviour.gate))
         std::this_thread::sleep_for(1ms);
     std::this_thread::sleep_for(std::chrono::milliseconds(behaviour.delay));
     while (behaviour.hang)
         pause();
 }
 
-void write(const Result &result, bool half)
+bool write(const std::string &path, const std::string &content)
 {
-    const auto size = half ? result.content.size() / 2 : result.content.size();
-    std::ofstream(result.path, std::ios::binary) << result.content.substr(0, size);
+    std::ofstream file(path, std::ios::binary);
+    file << content << std::flush;
+    return file.good();
+}
+
+/// Gives up root's right to write anywhere.
+void obeyPermissions()
+{
+    __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct none[_LINUX_CAPABILITY_U32S_3] = {};
+    syscall(SYS_capset, &header, none);
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // a hanging call ends with its test at the latest
     std::string name = argv[0];
     name = name.substr(name.rfind('/') + 1);
     const Arguments arguments(argv + 1, argv + argc);
@@ -187,14 +201,18 @@ int main(int argc, char *argv[])
     const Behaviour behaviour =
         readBehaviour(environment(asConvert ? "TESSARO_FAKE_CONVERT" : "TESSARO_FAKE_PDFTK"));
 
+    if (!behaviour.outlive)
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // a hanging call ends with its test at the latest
     record(name, arguments);
+    obeyPermissions();
     waitAsTold(behaviour);
     makeNoise(behaviour.noise);
     const auto result = asConvert ? convertResult(arguments) : pdftkResult(arguments);
     if (!result)
         return 1;
-    if (behaviour.output != "none")
-        write(*result, behaviour.full || behaviour.output == "partial");
+    const bool partial = behaviour.full || behaviour.output == "partial";
+    if (behaviour.output != "none" && !write(result->path, partial ? "partial" : result->content))
+        return 1;
     if (behaviour.signal != 0)
         raise(static_cast<int>(behaviour.signal));
     if (behaviour.full) {

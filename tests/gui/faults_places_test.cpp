@@ -1,0 +1,253 @@
+// Folders, disks and images that go away, and an info file that cannot be written, in every mode.
+
+#include "faults_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+
+namespace {
+
+using Action = std::function<void(FaultFixture &)>;
+
+const Outcome noneFinished{"cpcp", {}, 0, "0/2", "b.pdf", "b-1.pdf"};
+const Outcome refused{"", {}, 0, "0/100", {}, {}, {"Invalid order"}};
+
+void removeOutput(FaultFixture &fixture)
+{
+    QDir(fixture.outputPath()).removeRecursively();
+}
+
+void closeOutput(FaultFixture &fixture)
+{
+    fixture.setFolderWritable(false);
+}
+
+void removeSecondImage(FaultFixture &fixture)
+{
+    QFile::remove(fixture.inputPath("b.png"));
+}
+
+void removeFirstImage(FaultFixture &fixture)
+{
+    QFile::remove(fixture.inputPath("a.jpg"));
+}
+
+void replaceSecondImage(FaultFixture &fixture)
+{
+    removeSecondImage(fixture);
+    fixture.makeFile("b.png", "another image");
+}
+
+void replaceSecondImageByAFolder(FaultFixture &fixture)
+{
+    removeSecondImage(fixture);
+    QDir().mkdir(fixture.inputPath("b.png"));
+}
+
+struct PlaceFault
+{
+    const char *name;
+    Action action;
+    ExpectedOutcomes outcomes;
+};
+
+const QList<PlaceFault> beforeTheRun{
+    {"output folder removed", removeOutput, {refused, refused, refused, refused}},
+    {"output folder read-only",
+     closeOutput,
+     {Outcome{"cc", {}, 0, "0/2"}, noneFinished, Outcome{"c", {}, 2, "0/100"},
+      Outcome{"cp", {}, 2, "0/100"}}},
+    {"first image removed",
+     removeFirstImage,
+     {Outcome{"cc", {"b.pdf: convert(b.png)"}, 0, "0/2"},
+      Outcome{"cpcp", {"b.pdf: pdftk(convert(b.png))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
+      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+};
+
+// While the first call of convert is held back.
+const QList<PlaceFault> duringTheRun{
+    // The next entry of a one-by-one run finds the folder gone and asks for another; a merged run
+    // has no next entry.
+    {"output folder removed",
+     removeOutput,
+     {Outcome{"c", {}, 1, "1/2", {}, {}, {"Invalid order"}},
+      Outcome{"cp", {}, 1, "1/2", "a.pdf", "a-1.pdf", {"Invalid order"}},
+      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+    {"output folder made read-only",
+     closeOutput,
+     {Outcome{"cc", {}, 0, "0/2"}, noneFinished, Outcome{"c", {}, 2, "0/100"},
+      Outcome{"cp", {}, 2, "0/100"}}},
+    {"second image removed",
+     removeSecondImage,
+     {Outcome{"cc", {"a.pdf: convert(a.jpg)"}, 0, "0/2"},
+      Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
+      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+    // The window holds names and nothing of the images: a tool reads what is there at its turn.
+    {"second image replaced",
+     replaceSecondImage,
+     {Outcome{"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"},
+      Outcome{"cpcp",
+              {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"},
+              0,
+              "0/2",
+              "b.pdf",
+              "b-1.pdf"},
+      Outcome{"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"},
+      Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"}}},
+    {"second image replaced by a folder",
+     replaceSecondImageByAFolder,
+     {Outcome{"cc", {"a.pdf: convert(a.jpg)"}, 0, "0/2"},
+      Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
+      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+};
+
+void addPlaceFaults(const QList<PlaceFault> &faults)
+{
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<Mode>("mode");
+    QTest::addColumn<Outcome>("expected");
+    for (const PlaceFault &fault : faults) {
+        for (const Mode &mode : allModes())
+            QTest::addRow("%s, %s", fault.name, mode.name)
+                << fault.action << mode << *fault.outcomes.of(mode);
+    }
+}
+
+/// A folder where the info file should be: no user can open that for writing, not even root.
+class InfoFileInTheWay
+{
+public:
+    InfoFileInTheWay()
+    {
+        QFile::remove(name);
+        QDir().mkdir(name);
+    }
+    ~InfoFileInTheWay() { QDir().rmdir(name); }
+
+private:
+    const QString name = QStringLiteral("pdfa.txt");
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Action)
+
+class FaultsPlacesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void faultBeforeTheRun_data();
+    void faultBeforeTheRun();
+    void faultDuringTheRun_data();
+    void faultDuringTheRun();
+    void pdfsWithADescriptionAreLostWithoutAnInfoFile_data();
+    void pdfsWithADescriptionAreLostWithoutAnInfoFile();
+    void folderFieldIsEmptiedByTheBoxAlone_data();
+    void folderFieldIsEmptiedByTheBoxAlone();
+};
+
+void FaultsPlacesTest::faultBeforeTheRun_data()
+{
+    addPlaceFaults(beforeTheRun);
+}
+
+void FaultsPlacesTest::faultBeforeTheRun()
+{
+    QFETCH(Action, action);
+    QFETCH(Mode, mode);
+    QFETCH(Outcome, expected);
+    FaultFixture fixture(mode);
+    action(fixture);
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(fixture.answers());
+    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+}
+
+void FaultsPlacesTest::faultDuringTheRun_data()
+{
+    addPlaceFaults(duringTheRun);
+}
+
+void FaultsPlacesTest::faultDuringTheRun()
+{
+    QFETCH(Action, action);
+    QFETCH(Mode, mode);
+    QFETCH(Outcome, expected);
+    FaultFixture fixture(mode);
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    QVERIFY(fixture.waitForCalls(1));
+    QVERIFY(fixture.answers());
+    action(fixture);
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(fixture.answers());
+    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+}
+
+void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile_data()
+{
+    QTest::addColumn<Mode>("mode");
+    QTest::addColumn<Outcome>("expected");
+    const QList<Outcome> outcomes{
+        {"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"},
+        noneFinished,
+        {"cpcp",
+         {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"},
+         0,
+         "0/2",
+         "b.pdf",
+         "b-1.pdf"},
+        noneFinished,
+        {"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"},
+        {"cp", {}, 2, "0/100"},
+        {"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"},
+        {"cp", {}, 2, "0/100"},
+    };
+    QCOMPARE(outcomes.size(), allModes().size());
+    for (qsizetype i = 0; i < outcomes.size(); ++i)
+        QTest::newRow(allModes().at(i).name) << allModes().at(i) << outcomes.at(i);
+}
+
+void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile()
+{
+    QFETCH(Mode, mode);
+    QFETCH(Outcome, expected);
+    FaultFixture fixture(mode);
+    const InfoFileInTheWay inTheWay;
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(fixture.answers());
+    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    if (mode.title)
+        QCOMPARE(fixture.calls().at(1).arguments.first(), fixture.outputPath("a.pdf111"));
+}
+
+void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone_data()
+{
+    QTest::addColumn<bool>("merged");
+    QTest::addColumn<bool>("emptied");
+    QTest::newRow("the next image asks for a folder") << false << true;
+    QTest::newRow("a merged run never looks again") << true << false;
+}
+
+void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone()
+{
+    QFETCH(bool, merged);
+    QFETCH(bool, emptied);
+    FaultFixture fixture(allModes().at(merged ? 4 : 0));
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    QVERIFY(fixture.waitForCalls(1));
+    removeOutput(fixture);
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(),
+             emptied ? QString() : fixture.outputPath());
+}
+
+QTEST_MAIN(FaultsPlacesTest)
+#include "faults_places_test.moc"
