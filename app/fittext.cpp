@@ -113,10 +113,20 @@ bool allFit(const QList<QWidget *> &widgets)
     return std::ranges::all_of(widgets, [](const QWidget *widget) { return textFits(*widget); });
 }
 
+/// A table's headers do not take its font by themselves.
+void setFont(QWidget *widget, const QFont &font)
+{
+    widget->setFont(font);
+    if (auto *table = qobject_cast<QTableWidget *>(widget)) {
+        table->horizontalHeader()->setFont(font);
+        table->verticalHeader()->setFont(font);
+    }
+}
+
 void setFonts(const QList<QWidget *> &widgets, const QFont &font)
 {
     for (QWidget *widget : widgets) {
-        widget->setFont(font);
+        setFont(widget, font);
         if (QLayout *layout = widget->parentWidget()->layout())
             layout->activate();
     }

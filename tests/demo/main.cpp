@@ -25,7 +25,7 @@ constexpr int runTimeout = 300000; // ms
 const QString title = QStringLiteral("M\u00fcller & S\u00f6hne \u2014 Fotos \u20ac");
 const QString subject =
     QStringLiteral("  \u0397\u03bc\u03b5\u03c1\u03bf\u03bb\u03cc\u03b3\u03b9\u03bf  ");
-const QString keywords = QStringLiteral("scan, &amp;, \u65e5\u672c\u8a9e");
+const QString keywords = QStringLiteral("scan, &amp;, \u0444\u043e\u0442\u043e");
 const QString author = QStringLiteral("Zo\u00eb \U0001F600");
 const QByteArray ownerPassword = "0wner";
 
@@ -136,7 +136,7 @@ bool oneByOne(WindowDriver &driver, const QStringList &images, const QDir &folde
 {
     const QDir output(folder.filePath(QStringLiteral("one-by-one")));
     require(driver.openFiles(images), QStringLiteral("open the sample images"));
-    require(driver.click("inputfiletableWidget"), QStringLiteral("click on a row"));
+    require(driver.clickRow(0), QStringLiteral("click on a row"));
     QTest::qWait(700); // the preview comes 300 ms after the click
     fillPages(driver, folder);
     require(driver.click("pushButton_Inout"), QStringLiteral("go back to the files"));

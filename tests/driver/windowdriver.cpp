@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -71,6 +72,14 @@ bool WindowDriver::click(const char *name)
         return false;
     const bool leftEnd = qobject_cast<QCheckBox *>(target) != nullptr;
     return clickAt(target, {leftEnd ? 8 : target->width() / 2, target->height() / 2});
+}
+
+bool WindowDriver::clickRow(int row)
+{
+    auto *table = window.findChild<QTableWidget *>();
+    if (!table || !table->item(row, 0))
+        return false;
+    return clickAt(table->viewport(), table->visualItemRect(table->item(row, 0)).center());
 }
 
 bool WindowDriver::type(const char *name, const QString &text)

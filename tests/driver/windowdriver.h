@@ -21,6 +21,8 @@ public:
     /// Clicks the middle of the control named `control`, or its left end when it is a check box.
     /// False when the control is not what lies there.
     bool click(const char *control);
+    /// Clicks the file list's row `row`.
+    bool clickRow(int row);
     /// Replaces the text of the field named `field`.
     bool type(const char *field, const QString &text);
     /// Chooses item `index` of the combo box named `box` with the arrow keys.
