@@ -201,6 +201,7 @@ void FileListTest::itemsArePlainTexts()
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     for (int column = 0; column < 2; ++column) {
         const QTableWidgetItem *item = table->item(0, column);
+        QVERIFY(item);
         QCOMPARE(item->type(), int(QTableWidgetItem::Type));
         QVERIFY(item->icon().isNull());
         QVERIFY(!item->data(Qt::UserRole).isValid());
