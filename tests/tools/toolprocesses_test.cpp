@@ -23,6 +23,7 @@ private slots:
     void realConvertStopsOnASignal();
     void killedProgramTakesTheJvmAlong();
     void killedProgramTakesConvertAlong();
+    void killedProgramTakesAnyToolAlong();
     void killedProgramsLeftoversAreTakenOver();
     void foreignFoldersAreLeftAlone();
     void privateFolderIsForTheUserAlone();
@@ -48,6 +49,12 @@ QList<pid_t> processesWith(const QByteArray &word)
 pid_t pidOf(const QProcess &process)
 {
     return static_cast<pid_t>(process.processId());
+}
+
+// A word that no other process on the machine has, another run of this test included.
+QString ownWord(const QString &word)
+{
+    return word + QString::number(QCoreApplication::applicationPid());
 }
 
 } // namespace
@@ -108,40 +115,66 @@ void ToolProcesses::signalsReachAToolThatIgnoresThem()
 
 void ToolProcesses::realConvertStopsOnASignal()
 {
+    const QString result = ownWord("signalled") + ".pdf";
     const QTemporaryDir folder, pixels;
     QStringList arguments(100, m_folder.filePath("page.jpg"));
-    const auto call = startProgram(bundledTool("convert"), arguments << "signalled-real.pdf",
-                                   folder.path(), {{"TMPDIR", pixels.path()}});
-    QTRY_VERIFY(processesWith("./signalled-real.pdf").size() == 1);
+    const auto call = startProgram(bundledTool("convert"), arguments << result, folder.path(),
+                                   {{"TMPDIR", pixels.path()}});
+    QTRY_VERIFY(processesWith("./" + result.toUtf8()).size() == 1);
     kill(pidOf(*call), SIGTERM);
     QVERIFY(call->waitForFinished());
     QVERIFY(call->exitCode() > 0);
-    QCOMPARE(processesWith("./signalled-real.pdf"), QList<pid_t>());
+    QCOMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
     QCOMPARE(namesIn(folder.path()), QStringList());
     QCOMPARE(namesIn(pixels.path()), QStringList());
 }
 
 void ToolProcesses::killedProgramTakesTheJvmAlong()
 {
+    const QString result = ownWord("killed-jvm") + ".pdf";
     const auto call =
-        startProgram(bundledTool("pdftk"), {"in.pdf", "output", "killed-jvm.pdf"}, m_folder.path());
-    QTRY_VERIFY_WITH_TIMEOUT(processesWith("./killed-jvm.pdf").size() == 1, 20'000);
+        startProgram(bundledTool("pdftk"), {"in.pdf", "output", result}, m_folder.path());
+    pid_t jvm = 0;
+    QTRY_VERIFY_WITH_TIMEOUT((jvm = processesWith("./" + result.toUtf8()).value(0)) > 0, 20'000);
+    // Stopped, it cannot end by having done its work.
+    kill(jvm, SIGSTOP);
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
-    QTRY_COMPARE(processesWith("./killed-jvm.pdf"), QList<pid_t>());
-    QVERIFY(!QFile::exists(m_folder.filePath("killed-jvm.pdf")));
+    QTRY_COMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
+    QVERIFY(!QFile::exists(m_folder.filePath(result)));
 }
 
 void ToolProcesses::killedProgramTakesConvertAlong()
 {
+    const QString result = ownWord("killed-convert") + ".pdf";
     const QTemporaryDir folder, pixels;
     QStringList arguments(100, m_folder.filePath("page.jpg"));
-    const auto call = startProgram(bundledTool("convert"), arguments << "killed-convert.pdf",
-                                   folder.path(), {{"TMPDIR", pixels.path()}});
-    QTRY_VERIFY(processesWith("./killed-convert.pdf").size() == 1);
+    const auto call = startProgram(bundledTool("convert"), arguments << result, folder.path(),
+                                   {{"TMPDIR", pixels.path()}});
+    QTRY_VERIFY(processesWith("./" + result.toUtf8()).size() == 1);
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
-    QTRY_COMPARE_WITH_TIMEOUT(processesWith("./killed-convert.pdf"), QList<pid_t>(), 20'000);
+    QTRY_COMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
+    QCOMPARE(namesIn(pixels.filePath(".tessaro-1")), QStringList());
+}
+
+void ToolProcesses::killedProgramTakesAnyToolAlong()
+{
+    const QString word = ownWord("1000");
+    const QStringList tool = shellTool("exec sleep " + word);
+    const ToolBundle bundle(tool, tool);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("in.pdf"), "in");
+    for (const auto &[program, arguments] :
+         {std::pair("convert", QStringList{"in.pdf", "o.pdf"}),
+          std::pair("pdftk", QStringList{"in.pdf", "output", "o.pdf"})}) {
+        const auto call = startProgram(bundle.tool(program), arguments, folder.path());
+        const QByteArray sleeping = QByteArray("sleep\0", 6) + word.toUtf8();
+        QTRY_VERIFY(processesWith(sleeping).size() == 1);
+        kill(pidOf(*call), SIGKILL);
+        QVERIFY(call->waitForFinished());
+        QTRY_COMPARE(processesWith(sleeping), QList<pid_t>());
+    }
 }
 
 void ToolProcesses::killedProgramsLeftoversAreTakenOver()
