@@ -23,6 +23,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
 #include <chrono>
 #include <set>
 
@@ -62,6 +63,17 @@ private:
     QString key;
 };
 
+/// True when a picture of `size` may be shown. It takes 32 bits a pixel then, whatever its file
+/// has: the toolkit's own limit looks at the file's form, in which black and white takes one.
+bool isShowable(QSize size)
+{
+    constexpr qint64 megabyte = 1024 * 1024;
+    constexpr qint64 mostMegabytes = 2048; // beside it stands, for a moment, the file's form
+    const qint64 toolkitLimit = QImageReader::allocationLimit();
+    const qint64 limit = toolkitLimit > 0 ? std::min(toolkitLimit, mostMegabytes) : mostMegabytes;
+    return qint64(size.width()) * size.height() * 4 <= limit * megabyte;
+}
+
 /// The image in the regular file at `path`, its format told by its content; a null pixmap when
 /// there is none. Read afresh at each call: the toolkit's own loader answers from a cache in which
 /// a file rewritten within the same second keeps its old picture.
@@ -72,6 +84,8 @@ QPixmap readPicture(const QString &path)
         return {};
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
+    if (!isShowable(reader.size()))
+        return {};
     return QPixmap::fromImageReader(&reader);
 }
 
