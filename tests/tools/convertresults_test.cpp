@@ -317,6 +317,7 @@ void ConvertResults::tenCallsAtOnceInOneFolder()
     const QTemporaryDir folder;
     makeImage(folder.filePath("x.jpg"), {900, 700});
     std::vector<std::unique_ptr<QProcess>> calls;
+    calls.reserve(10);
     for (int i = 0; i < 10; ++i)
         calls.push_back(startProgram(bundledTool("convert"),
                                      {"x.jpg", "o" + QString::number(i % 5) + ".pdf"},

@@ -225,6 +225,7 @@ void ToolProcesses::tenPdftkCallsAtOnceInOneFolder()
     QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
     QStringList expected = {"in.pdf"};
     std::vector<std::unique_ptr<QProcess>> calls;
+    calls.reserve(10);
     for (int i = 0; i < 10; ++i) {
         const QString name = "o" + QString::number(i) + ".pdf";
         expected.append(name);

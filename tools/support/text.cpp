@@ -1,5 +1,6 @@
 #include "support/text.h"
 
+#include <algorithm>
 #include <array>
 #include <clocale>
 
