@@ -67,7 +67,7 @@ private:
 /// has: the toolkit's own limit looks at the file's form, in which black and white takes one.
 bool isShowable(QSize size)
 {
-    constexpr qint64 megabyte = 1024 * 1024;
+    constexpr qint64 megabyte = qint64(1024) * 1024;
     constexpr qint64 mostMegabytes = 2048; // beside it stands, for a moment, the file's form
     const qint64 toolkitLimit = QImageReader::allocationLimit();
     const qint64 limit = toolkitLimit > 0 ? std::min(toolkitLimit, mostMegabytes) : mostMegabytes;

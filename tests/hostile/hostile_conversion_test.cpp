@@ -1,0 +1,144 @@
+// The same two hundred files through the window and the real tool: each is either refused or
+// becomes a PDF that opens, nothing is left behind, and no call passes its bounds. A call that
+// would take too long is ended by the tool itself.
+
+#include "hostilefiles.h"
+#include "pdffacts.h"
+#include "startup.h"
+#include "windowdriver.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QRegularExpression>
+#include <QTableWidget>
+#include <QTest>
+
+namespace {
+
+constexpr int runTimeout = 500000; // ms
+
+struct Call
+{
+    QString input;
+    int status;
+    int duration; // ms
+};
+
+/// The calls that the tool has put down in its log.
+QList<Call> readLog(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    static const QRegularExpression entry(
+        QStringLiteral(" exit status (\\d+) after (\\d+) ms\\n  argument: ([^\\n]*)"));
+    QList<Call> calls;
+    auto matches = entry.globalMatch(QString::fromUtf8(file.readAll()));
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        calls.append({match.captured(3), match.captured(1).toInt(), match.captured(2).toInt()});
+    }
+    return calls;
+}
+
+QStringList everythingIn(const QString &folder)
+{
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+} // namespace
+
+class HostileConversionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyFileIsConvertedOrRefused();
+    void mergeWithASpoiltFileMakesNoPdf();
+
+private:
+    QString place(const QString &name) const { return folder.filePath(name); }
+    void addAll(WindowDriver &driver, const QList<QUrl> &urls) const;
+
+    HostileFiles files;
+    QTemporaryDir folder;
+};
+
+void HostileConversionTest::initTestCase()
+{
+    QCOMPARE(files.make(), QString());
+    for (const char *name : {"out", "pixels"})
+        QVERIFY(QDir(folder.path()).mkdir(QLatin1String(name)));
+    qputenv("TMPDIR", place("pixels").toUtf8());
+    qputenv("TESSARO_TOOL_LOG", place("log").toUtf8());
+}
+
+void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls) const
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    driver.window.dropEvent(&drop);
+    driver.window.findChild<QLineEdit *>(QStringLiteral("outputfolderEdit"))->setText(place("out"));
+}
+
+void HostileConversionTest::everyFileIsConvertedOrRefused()
+{
+    WindowDriver driver;
+    QVERIFY(driver.show());
+    addAll(driver, files.urls());
+    files.letOneVanish();
+    QList<int> progress;
+    auto *bar = driver.window.findChild<QProgressBar *>();
+    connect(bar, &QProgressBar::valueChanged, this, [&progress](int value) { progress << value; });
+    QVERIFY(driver.convert(runTimeout));
+    QCOMPARE(progress.size(), 201); // each image, and the end
+    QCOMPARE(progress.last(), 0);
+
+    const QList<Call> calls = readLog(place("log"));
+    QCOMPARE(calls.size(), 200);
+    QStringList expected;
+    for (const Call &call : calls) {
+        QVERIFY2(call.status < 128, qPrintable(call.input)); // ended by no signal
+        if (call.status == 0)
+            expected << QFileInfo(call.input).baseName() + QStringLiteral(".pdf");
+    }
+    QCOMPARE(everythingIn(place("out")), expected);
+    for (const QString &pdf : std::as_const(expected))
+        QVERIFY2(readPdf(place("out/") + pdf).pages >= 1, qPrintable(pdf));
+    QCOMPARE(everythingIn(place("pixels")), QStringList());
+
+    const auto slowest = std::ranges::max(calls, {}, &Call::duration);
+    qInfo("%lld of 200 converted; slowest: %d ms (%s); peak memory of a tool: %lld MiB",
+          qlonglong(expected.size()), slowest.duration, qPrintable(slowest.input),
+          peakMemory(RUSAGE_CHILDREN) >> 20);
+    QVERIFY(peakMemory(RUSAGE_CHILDREN) < mostMemory);
+}
+
+void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
+{
+    WindowDriver driver;
+    QVERIFY(driver.show());
+    QVERIFY(driver.tick("checkBox_joinpdf"));
+    const QUrl good = QUrl::fromLocalFile(QStringLiteral(SAMPLES "/beach.jpg"));
+    QVERIFY(QDir(place("out")).removeRecursively() && QDir().mkdir(place("out")));
+    addAll(driver, QList<QUrl>{good} + files.urls());
+    QVERIFY(driver.convert(runTimeout));
+    QCOMPARE(everythingIn(place("out")), QStringList());
+}
+
+int main(int argc, char *argv[])
+{
+    raiseArgumentLimit();
+    QApplication application(argc, argv);
+    prepare(application);
+    HostileConversionTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "hostile_conversion_test.moc"

@@ -1,0 +1,98 @@
+// Two hundred files that are no proper images are listed and previewed: no crash, no hang, no more
+// memory than a picture may take.
+
+#include "hostilefiles.h"
+#include "startup.h"
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QImage>
+#include <QImageReader>
+#include <QTableWidget>
+
+class HostilePreviewTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyFileIsListedAndPreviewed();
+    void blackAndWhiteCountsAsItIsShown_data();
+    void blackAndWhiteCountsAsItIsShown();
+
+private:
+    HostileFiles files;
+};
+
+void HostilePreviewTest::initTestCase()
+{
+    const QStringList systemPlugins = QCoreApplication::libraryPaths();
+    prepare(*qApp);
+    // This program's own bundle has no plug-ins.
+    QCoreApplication::setLibraryPaths(systemPlugins + QStringList(QStringLiteral(PLUGIN_FOLDER)));
+    for (const char *format : {"gif", "jpeg", "pcx", "tiff"})
+        QVERIFY2(QImageReader::supportedImageFormats().contains(format), format);
+    QCOMPARE(files.make(), QString());
+}
+
+void HostilePreviewTest::everyFileIsListedAndPreviewed()
+{
+    WindowFixture fixture;
+    const QList<QUrl> urls = files.urls();
+    QCOMPARE(urls.size(), 200);
+    fixture.drop(urls);
+    files.letOneVanish();
+
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QCOMPARE(table->rowCount(), 200);
+    qint64 slowest = 0;
+    QString slowestFile;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QCOMPARE(table->item(row, 0)->text(), urls.at(row).toLocalFile());
+        table->setCurrentCell(row, 0);
+        QElapsedTimer timer;
+        timer.start();
+        fixture.window.dopreview();
+        QVERIFY(!fixture.window.grab().isNull());
+        if (timer.elapsed() > slowest) {
+            slowest = timer.elapsed();
+            slowestFile = urls.at(row).fileName();
+        }
+    }
+    qInfo("slowest preview: %lld ms (%s); peak memory of the window: %lld MiB", slowest,
+          qPrintable(slowestFile), peakMemory(RUSAGE_SELF) >> 20);
+    QVERIFY(peakMemory(RUSAGE_SELF) < mostMemory);
+}
+
+void HostilePreviewTest::blackAndWhiteCountsAsItIsShown_data()
+{
+    QTest::addColumn<int>("limit"); // megabytes
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("125 kilobytes that show as 4 megabytes, within the limit") << 4 << true;
+    QTest::newRow("125 kilobytes that show as 4 megabytes, above the limit") << 3 << false;
+    QTest::newRow("no limit") << 0 << true;
+}
+
+void HostilePreviewTest::blackAndWhiteCountsAsItIsShown()
+{
+    QFETCH(int, limit);
+    const int usualLimit = QImageReader::allocationLimit();
+    WindowFixture fixture;
+    QImage image(1000, 1000, QImage::Format_Mono);
+    image.fill(1);
+    const QString path = fixture.inputPath("a.png");
+    QVERIFY(image.save(path));
+    fixture.drop({QUrl::fromLocalFile(path)});
+    fixture.find<QTableWidget>("inputfiletableWidget")->setCurrentCell(0, 0);
+
+    QImageReader::setAllocationLimit(limit);
+    fixture.window.dopreview();
+    QImageReader::setAllocationLimit(usualLimit);
+    const auto *frame = fixture.find<QFrame>("previewframe");
+    QTEST(!frame->palette().brush(frame->backgroundRole()).textureImage().isNull(), "shown");
+}
+
+QTEST_MAIN(HostilePreviewTest)
+#include "hostile_preview_test.moc"
