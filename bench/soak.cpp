@@ -1,0 +1,181 @@
+// Converts many small images one by one, with description and security, through the real window
+// and the tools beside this program, and prints what that cost. Ends with status 1 when a file is
+// lost or a descriptor is kept.
+//
+//   soak fake|real COUNT    what the tools beside this program are
+
+#include "childprocesses.h"
+#include "pdffacts.h"
+#include "process.h"
+#include "startup.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+
+#include <cstdio>
+
+namespace {
+
+const QString title = QStringLiteral("Soak");
+const QString password = QStringLiteral("secret");
+
+struct Measures
+{
+    qsizetype lost = 0;
+    qsizetype descriptorsBefore = 0;
+    qsizetype descriptorsAfter = 0;
+    qint64 growth = 0;     // of the resident memory, bytes
+    qint64 longestGap = 0; // between two events of a 10 ms timer, ms
+    qint64 duration = 0;   // ms
+};
+
+qsizetype descriptors()
+{
+    return QDir(QStringLiteral("/proc/self/fd"))
+        .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+        .size();
+}
+
+qint64 residentBytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.simplified().split(' ').at(1).toLongLong() * 1024;
+    }
+    return 0;
+}
+
+QString baseName(int number)
+{
+    return QStringLiteral("image-%1").arg(number, 5, 10, QLatin1Char('0'));
+}
+
+QList<QUrl> makeImages(const QDir &folder, int count)
+{
+    QList<QUrl> urls;
+    for (int i = 0; i < count; ++i) {
+        QFile file(folder.filePath(baseName(i) + QStringLiteral(".ppm")));
+        const QByteArray pixels(16 * 12 * 3, static_cast<char>(i));
+        if (!file.open(QIODevice::WriteOnly) || file.write("P6 16 12 255\n" + pixels) < 0)
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        urls << QUrl::fromLocalFile(file.fileName());
+    }
+    return urls;
+}
+
+/// The PDF of an image is there, and both tools have had it.
+bool isConverted(const QString &pdf, bool realTools)
+{
+    if (realTools) {
+        const PdfFacts facts = readPdf(pdf, password.toUtf8());
+        return facts.pages == 1 && facts.title == title && facts.encrypted;
+    }
+    QFile file(pdf);
+    return file.open(QIODevice::ReadOnly) && file.readAll().startsWith("pdftk(convert(");
+}
+
+void fillIn(Process &window, const QString &output, const QList<QUrl> &images)
+{
+    const auto field = [&window](const char *name) {
+        return window.findChild<QLineEdit *>(QLatin1String(name));
+    };
+    field("outputfolderEdit")->setText(output);
+    field("lineEdit_title")->setText(title);
+    field("lineEdit_ownerpwd")->setText(password);
+    window.findChild<QCheckBox *>(QStringLiteral("checkBox_allowprint"))->setChecked(true);
+    QMimeData data;
+    data.setUrls(images);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    window.dropEvent(&drop);
+    window.findChild<QTableWidget *>()->setCurrentCell(0, 0); // the preview works all along
+}
+
+/// Runs the event loop until no tool runs; the longest time between two turns of a 10 ms timer.
+qint64 runUntilQuiet(QApplication &application)
+{
+    QElapsedTimer sinceLast;
+    qint64 longest = 0;
+    QTimer probe;
+    probe.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&probe, &QTimer::timeout,
+                     [&] { longest = std::max(longest, sinceLast.restart()); });
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [] {
+        if (!hasChildProcesses())
+            QApplication::exit();
+    });
+    sinceLast.start();
+    probe.start(10);
+    look.start(50);
+    application.exec();
+    return longest;
+}
+
+Measures soak(QApplication &application, int count, bool realTools)
+{
+    const QTemporaryDir folder;
+    const QDir place(folder.path());
+    place.mkdir(QStringLiteral("in"));
+    place.mkdir(QStringLiteral("out"));
+    Process window;
+    window.show();
+    fillIn(window, place.filePath(QStringLiteral("out")),
+           makeImages(QDir(place.filePath(QStringLiteral("in"))), count));
+
+    Measures measures;
+    QApplication::processEvents();
+    measures.descriptorsBefore = descriptors();
+    const qint64 memory = residentBytes();
+    QElapsedTimer duration;
+    duration.start();
+    window.findChild<QPushButton *>(QStringLiteral("runButton"))->click();
+    measures.longestGap = runUntilQuiet(application);
+    measures.duration = duration.elapsed();
+    measures.growth = residentBytes() - memory;
+    measures.descriptorsAfter = descriptors();
+    for (int i = 0; i < count; ++i) {
+        const QString pdf = place.filePath(QStringLiteral("out/%1.pdf").arg(baseName(i)));
+        measures.lost += isConverted(pdf, realTools) ? 0 : 1;
+    }
+    return measures;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    raiseArgumentLimit();
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const int count = arguments.value(2).toInt();
+    if (arguments.size() != 3 || count <= 0) {
+        std::fputs("Usage: soak fake|real COUNT\n", stderr);
+        return 2;
+    }
+    prepare(application);
+    const Measures result = soak(application, count, arguments.at(1) == QLatin1String("real"));
+    std::printf("%d images with the %s tools in %.1f s\n"
+                "  lost files                    %lld\n"
+                "  descriptors before and after  %lld, %lld\n"
+                "  memory per converted image    %.1f KiB\n"
+                "  longest gap of a 10 ms timer  %lld ms\n",
+                count, qPrintable(arguments.at(1)), double(result.duration) / 1000.0,
+                qlonglong(result.lost), qlonglong(result.descriptorsBefore),
+                qlonglong(result.descriptorsAfter), double(result.growth) / count / 1024.0,
+                result.longestGap);
+    return result.lost == 0 && result.descriptorsAfter <= result.descriptorsBefore ? 0 : 1;
+}
