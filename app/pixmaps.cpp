@@ -1,6 +1,8 @@
 #include "pixmaps.h"
 
-#include <QIcon>
+#include "iconfile.h"
+
+#include <QImageReader>
 
 QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mode, qreal ratio)
 {
@@ -10,9 +12,20 @@ QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mod
     return scaled;
 }
 
+QPixmap readScaled(const QString &path, QSize size, qreal ratio)
+{
+    QImageReader reader(path);
+    reader.setScaledSize((QSizeF(size) * ratio).toSize());
+    QPixmap scaled = QPixmap::fromImageReader(&reader);
+    scaled.setDevicePixelRatio(ratio);
+    return scaled;
+}
+
 QPixmap crispPixmap(const QString &path, QSize size, qreal ratio)
 {
-    return QIcon(path).pixmap(size, ratio);
+    QIcon icon;
+    addPng(icon, path);
+    return icon.pixmap(size, ratio);
 }
 
 QBrush pixmapBrush(const QPixmap &picture)

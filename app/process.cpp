@@ -102,13 +102,12 @@ void Process::styleFileTable()
 void Process::setWindowBackground()
 {
     setAutoFillBackground(true);
-    const QPixmap picture(QStringLiteral(":/iconoption/icons/stock-ved.jpg"));
+    const QPixmap picture =
+        readScaled(QStringLiteral(":/iconoption/icons/stock-ved.jpg"), size(), devicePixelRatioF());
     if (picture.isNull())
         return;
     QPalette colours = palette();
-    colours.setBrush(
-        QPalette::Window,
-        pixmapBrush(scaledPixmap(picture, size(), Qt::IgnoreAspectRatio, devicePixelRatioF())));
+    colours.setBrush(QPalette::Window, pixmapBrush(picture));
     setPalette(colours);
 }
 

@@ -1,6 +1,7 @@
 #include "ui_process.h"
 
 #include "compressions.h"
+#include "iconfile.h"
 #include "pagesizes.h"
 #include "pixmaps.h"
 
@@ -71,13 +72,14 @@ QLabel *placeRightLabel(QWidget *parent, const char *name, const QRect &geometry
 QLabel *placePicture(QWidget *parent, const char *name, const QRect &geometry, const char *picture)
 {
     auto *label = place<QLabel>(parent, name, geometry);
-    label->setPixmap(crispPixmap(iconPath(picture), {32, 32}, parent->devicePixelRatioF()));
+    label->setPixmap(
+        iconFromFile(iconPath(picture)).pixmap(QSize(32, 32), parent->devicePixelRatioF()));
     return label;
 }
 
-void setFlatIcon(QPushButton *button, const char *icon, QSize iconSize)
+void setFlatIcon(QPushButton *button, const QIcon &icon, QSize iconSize)
 {
-    button->setIcon(QIcon(iconPath(icon)));
+    button->setIcon(icon);
     button->setIconSize(iconSize);
     button->setFlat(true);
 }
@@ -105,7 +107,7 @@ void Ui_process::setupUi(QWidget *process)
         process->setObjectName(QStringLiteral("process"));
     process->setEnabled(true);
     process->resize(552, 484);
-    process->setWindowIcon(QIcon(iconPath("picturelog.ico")));
+    process->setWindowIcon(iconFromFile(iconPath("picturelog.ico")));
 
     stackedWidget_dialog =
         place<QStackedWidget>(process, "stackedWidget_dialog", {0, 30, 551, 351});
@@ -134,15 +136,16 @@ void Ui_process::setupInputPage()
     setupFileButtons();
     label_2 = place<QLabel>(frame_6, "label_2", {400, 4, 51, 21});
     previewframe = placeFrame(frame_6, "previewframe", {400, 42, 151, 187}, QFrame::Raised);
-    previewframe->setStyleSheet(QString());
     runButton = place<QPushButton>(frame_6, "runButton", {409, 280, 71, 72});
     runButton->setLayoutDirection(Qt::LeftToRight);
-    setFlatIcon(runButton, "convert3.png", {60, 64});
+    QIcon runIcon;
+    addPng(runIcon, iconPath("convert3.png"));
+    setFlatIcon(runButton, runIcon, {60, 64});
     outputfolderlabel = placeRightLabel(frame_6, "outputfolderlabel", {10, 296, 101, 16});
     checkBox_joinpdf = place<QCheckBox>(frame_6, "checkBox_joinpdf", {117, 327, 241, 16});
     outputfolderEdit = place<QLineEdit>(frame_6, "outputfolderEdit", {120, 292, 201, 20});
     outputButton = place<QPushButton>(frame_6, "outputButton", {320, 285, 41, 31});
-    setFlatIcon(outputButton, "folder.ico", {28, 28});
+    setFlatIcon(outputButton, iconFromFile(iconPath("folder.ico")), {28, 28});
     stackedWidget_dialog->addWidget(page);
 }
 
@@ -153,7 +156,6 @@ void Ui_process::setupFileTable()
     for (int column = 0; column < 2; ++column)
         table->setHorizontalHeaderItem(column, new QTableWidgetItem);
     table->setAutoFillBackground(true);
-    table->setStyleSheet(QString());
     table->setFrameShadow(QFrame::Raised);
     table->setLineWidth(2);
     table->setAutoScroll(true);
@@ -181,12 +183,12 @@ void Ui_process::setupFileButtons()
     horizontalLayout->setContentsMargins(0, 0, 0, 0);
 
     openfileButton = add<QPushButton>(layoutWidget, "openfileButton");
-    setFlatIcon(openfileButton, "document_add.ico", {24, 24});
+    setFlatIcon(openfileButton, iconFromFile(iconPath("document_add.ico")), {24, 24});
     openfileButton->setDefault(false);
     removeButton = add<QPushButton>(layoutWidget, "removeButton");
-    setFlatIcon(removeButton, "document_delete.ico", {24, 24});
+    setFlatIcon(removeButton, iconFromFile(iconPath("document_delete.ico")), {24, 24});
     removeallButton = add<QPushButton>(layoutWidget, "removeallButton");
-    setFlatIcon(removeallButton, "trashcan_empty(1).ico", {24, 24});
+    setFlatIcon(removeallButton, iconFromFile(iconPath("trashcan_empty(1).ico")), {24, 24});
     for (QPushButton *button : {openfileButton, removeButton, removeallButton})
         horizontalLayout->addWidget(button);
 }
@@ -270,13 +272,12 @@ void Ui_process::setupSideButtons(QWidget *process)
     };
     for (const auto &row : sideButtons) {
         auto *button = place<QPushButton>(frame_8, row.name, {row.place, QSize(81, 81)});
-        setFlatIcon(button, row.icon, {70, 75});
-        QIcon icon = button->icon();
-        icon.addFile(iconPath(row.disabledIcon), {}, QIcon::Disabled);
-        button->setIcon(icon);
+        QIcon icon;
+        addPng(icon, iconPath(row.icon));
+        addPng(icon, iconPath(row.disabledIcon), QIcon::Disabled);
+        setFlatIcon(button, icon, {70, 75});
         this->*row.button = button;
     }
-    pushButton_ImageSetting->setStyleSheet(QString());
     pushButton_ImageSetting->setAutoDefault(false);
 }
 

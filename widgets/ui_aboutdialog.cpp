@@ -1,10 +1,10 @@
 #include "ui_aboutdialog.h"
 
 #include "deployment.h"
+#include "iconfile.h"
 
 #include <QCoreApplication>
 #include <QDialog>
-#include <QIcon>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -54,10 +54,7 @@ void Ui_AboutDialog::setupUi(QDialog *AboutDialog)
     if (AboutDialog->objectName().isEmpty())
         AboutDialog->setObjectName(QStringLiteral("AboutDialog"));
     AboutDialog->resize(320, 109);
-    QIcon icon;
-    icon.addFile(QStringLiteral(":/iconoption/icons/picturelog.ico"), QSize(), QIcon::Normal,
-                 QIcon::Off);
-    AboutDialog->setWindowIcon(icon);
+    AboutDialog->setWindowIcon(iconFromFile(QStringLiteral(":/iconoption/icons/picturelog.ico")));
     textBrowser = new QTextBrowser(AboutDialog);
     textBrowser->setObjectName(QStringLiteral("textBrowser"));
     textBrowser->setGeometry(QRect(10, 10, 301, 91));

@@ -1,8 +1,9 @@
 #include "ui_setdialog.h"
 
+#include "iconfile.h"
+
 #include <QCoreApplication>
 #include <QDialog>
-#include <QIcon>
 #include <QPushButton>
 
 void Ui_setDialog::setupUi(QDialog *setDialog)
@@ -10,10 +11,7 @@ void Ui_setDialog::setupUi(QDialog *setDialog)
     if (setDialog->objectName().isEmpty())
         setDialog->setObjectName(QStringLiteral("setDialog"));
     setDialog->resize(415, 346);
-    QIcon icon;
-    icon.addFile(QStringLiteral(":/iconoption/icons/optionpic(4).ico"), QSize(), QIcon::Normal,
-                 QIcon::Off);
-    setDialog->setWindowIcon(icon);
+    setDialog->setWindowIcon(iconFromFile(QStringLiteral(":/iconoption/icons/optionpic(4).ico")));
     okButton = new QPushButton(setDialog);
     okButton->setObjectName(QStringLiteral("okButton"));
     okButton->setGeometry(QRect(330, 310, 75, 23));
