@@ -1,0 +1,266 @@
+// Passwords stay where they belong: while the real tools work and after it, no file and no
+// environment holds one, nor does the real tools' command line. And what the program writes is
+// nobody else's to change.
+
+#include "childprocesses.h"
+#include "pdffacts.h"
+#include "startup.h"
+#include "windowdriver.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QStringEncoder>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int runTimeout = 120000; // ms
+const QString ownerPassword = QStringLiteral("Zebra-73-owner");
+const QString userPassword = QStringLiteral("Okapi-29-user");
+const auto allFiles = QDir::Files | QDir::Hidden | QDir::System;
+
+/// Each password in each form that a file could hold it in.
+QList<QByteArray> needles()
+{
+    QList<QByteArray> result;
+    for (const QString &password : {ownerPassword, userPassword}) {
+        result << password.toUtf8() << password.toUtf8().toHex() << password.toUtf8().toBase64();
+        for (const auto encoding : {QStringConverter::Utf16LE, QStringConverter::Utf16BE})
+            result << QByteArray(QStringEncoder(encoding).encode(password));
+    }
+    return result;
+}
+
+bool holdsSecret(const QByteArray &content)
+{
+    static const QList<QByteArray> secrets = needles();
+    return std::ranges::any_of(
+        secrets, [&content](const QByteArray &secret) { return content.contains(secret); });
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The processes below `pid`, by number.
+QStringList descendants(const QString &pid)
+{
+    QStringList result;
+    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(pid),
+                         QDir::Dirs | QDir::NoDotAndDotDot);
+    while (threads.hasNext()) {
+        const QByteArray children = contentOf(threads.next() + QStringLiteral("/children"));
+        const auto numbers = QString::fromLatin1(children).split(' ', Qt::SkipEmptyParts);
+        for (const QString &child : numbers)
+            result << child << descendants(child);
+    }
+    return result;
+}
+
+int modeOf(const QString &path)
+{
+    struct stat status = {};
+    return lstat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 07777)
+                                                                    : -1;
+}
+
+} // namespace
+
+class SecretsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void passwordsAppearInNoFileAndNoEnvironment_data();
+    void passwordsAppearInNoFileAndNoEnvironment();
+    void searchFindsAPasswordWhereThereIsOne();
+    void filesAreNoWiderThanTheUsersMask_data();
+    void filesAreNoWiderThanTheUsersMask();
+    void bundleIsWritableByItsOwnerAlone();
+
+private:
+    QString place(const QString &name) const { return folder->filePath(name); }
+    QString makeImage(const QString &name) const;
+    void inspectProcesses();
+    void inspectFiles(const QString &root, qint64 largest);
+
+    const QString temporaryPlace = QDir::tempPath(); // before the tests lead it elsewhere
+    std::unique_ptr<QTemporaryDir> folder;
+    QDateTime start;
+    QStringList finds;
+    int toolsSeen = 0;
+};
+
+void SecretsTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>(temporaryPlace + QStringLiteral("/secrets-XXXXXX"));
+    for (const char *name : {"out", "tmp", "home"})
+        QVERIFY(QDir(folder->path()).mkdir(QLatin1String(name)));
+    qputenv("TMPDIR", place("tmp").toUtf8());
+    qputenv("HOME", place("home").toUtf8());
+    qputenv("TESSARO_TOOL_LOG", place("log").toUtf8());
+    start = QDateTime::currentDateTime().addSecs(-2);
+    finds.clear();
+    toolsSeen = 0;
+}
+
+QString SecretsTest::makeImage(const QString &name) const
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    if (!image.save(place(name)))
+        qFatal("cannot write %s", qPrintable(place(name)));
+    return place(name);
+}
+
+void SecretsTest::inspectProcesses()
+{
+    const QStringList processes = descendants(QStringLiteral("self"));
+    for (const QString &pid : processes) {
+        const QString process = QStringLiteral("/proc/") + pid;
+        const QString program = QFile::symLinkTarget(process + QStringLiteral("/exe"));
+        if (holdsSecret(contentOf(process + QStringLiteral("/environ"))))
+            finds << QStringLiteral("environment of ") + program;
+        // The program's own two tools are given the password; they wipe it and hand it on.
+        const QString name = QFileInfo(program).fileName();
+        if (name == QLatin1String("convert") || name == QLatin1String("pdftk"))
+            continue;
+        ++toolsSeen;
+        if (holdsSecret(contentOf(process + QStringLiteral("/cmdline"))))
+            finds << QStringLiteral("command line of ") + program;
+    }
+}
+
+void SecretsTest::inspectFiles(const QString &root, qint64 largest)
+{
+    QDirIterator files(root, allFiles, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QFileInfo file(files.next());
+        if (file.isFile() && !file.isSymLink() && file.size() <= largest &&
+            file.lastModified() >= start && holdsSecret(contentOf(file.filePath())))
+            finds << file.filePath();
+    }
+}
+
+void SecretsTest::passwordsAppearInNoFileAndNoEnvironment_data()
+{
+    QTest::addColumn<bool>("merged");
+    QTest::addColumn<QString>("owner");
+    QTest::addColumn<bool>("succeeds");
+    QTest::newRow("one by one") << false << ownerPassword << true;
+    QTest::newRow("merged") << true << ownerPassword << true;
+    QTest::newRow("a password with a blank, which the tool refuses")
+        << false << ownerPassword + QStringLiteral(" ") + ownerPassword << false;
+}
+
+void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
+{
+    QFETCH(bool, merged);
+    QFETCH(QString, owner);
+    QFETCH(bool, succeeds);
+    WindowDriver driver;
+    QVERIFY(driver.show());
+    QVERIFY(driver.type("outputfolderEdit", place("out")));
+    QVERIFY(driver.tick("checkBox_joinpdf", merged));
+    QVERIFY(driver.click("pushButton_PDFSetting") && driver.type("lineEdit_title", "T"));
+    QVERIFY(driver.click("pushButton_Security") && driver.type("lineEdit_ownerpwd", owner) &&
+            driver.type("lineEdit_userpwd", userPassword));
+    QVERIFY(driver.click("pushButton_Inout"));
+    QVERIFY(driver.openFiles({makeImage("a.png"), makeImage("b.png")}));
+
+    QTimer inspector;
+    connect(&inspector, &QTimer::timeout, this, [this] {
+        inspectProcesses();
+        inspectFiles(folder->path(), 1 << 24);
+    });
+    inspector.start(10);
+    QVERIFY(driver.convert(runTimeout));
+    inspector.stop();
+    QCOMPARE(readPdf(place("out/a.pdf"), userPassword.toUtf8()).pages,
+             succeeds ? (merged ? 2 : 1) : -1);
+    QVERIFY(toolsSeen > 0);
+
+    for (const QString &root : {folder->path(), QDir::currentPath(), QStringLiteral("/tmp"),
+                                QStringLiteral("/var/tmp"), QStringLiteral("/dev/shm")})
+        inspectFiles(root, 1 << 22);
+    QVERIFY(!holdsSecret(contentOf(QStringLiteral("/proc/self/environ"))));
+    QCOMPARE(finds, QStringList());
+    QVERIFY(contentOf(place("log")).contains("pdftk"));
+}
+
+void SecretsTest::searchFindsAPasswordWhereThereIsOne()
+{
+    QFile file(place("tmp/careless"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("x" + ownerPassword.toUtf8() + "y");
+    file.close();
+    inspectFiles(folder->path(), 1 << 22);
+    QCOMPARE(finds, QStringList(place("tmp/careless")));
+}
+
+void SecretsTest::filesAreNoWiderThanTheUsersMask_data()
+{
+    QTest::addColumn<int>("mask");
+    QTest::newRow("nothing for others") << 077;
+    QTest::newRow("reading for others") << 022;
+    QTest::newRow("writing for the group") << 002;
+}
+
+void SecretsTest::filesAreNoWiderThanTheUsersMask()
+{
+    QFETCH(int, mask);
+    QFile::remove(QStringLiteral("pdfa.txt"));
+    QFile::remove(QStringLiteral("setting.ini"));
+    const mode_t usual = umask(static_cast<mode_t>(mask));
+    WindowDriver driver;
+    const bool shown = driver.show() && driver.chooseFolder(place("out")) &&
+                       driver.click("pushButton_PDFSetting") &&
+                       driver.type("lineEdit_title", "T") && driver.click("pushButton_Inout") &&
+                       driver.openFiles({makeImage("a.png")}) && driver.convert(runTimeout);
+    umask(usual);
+    QVERIFY(shown);
+    QCOMPARE(modeOf(QStringLiteral("pdfa.txt")), 0666 & ~mask);
+    const int settings = modeOf(QStringLiteral("setting.ini"));
+    QVERIFY(settings >= 0);
+    QCOMPARE(settings & (mask | 0111), 0);
+    QCOMPARE(readPdf(place("out/a.pdf")).title, QStringLiteral("T"));
+    QCOMPARE(modeOf(place("out/a.pdf")) & mask, 0);
+}
+
+void SecretsTest::bundleIsWritableByItsOwnerAlone()
+{
+    QDirIterator files(QStringLiteral(BUNDLE), allFiles | QDir::Dirs | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    int count = 0;
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (QFileInfo(path).isSymLink())
+            continue; // the toolkit's plug-ins, which are the system's
+        ++count;
+        QVERIFY2((modeOf(path) & 022) == 0, qPrintable(path));
+    }
+    QVERIFY(count > 8);
+    QCOMPARE(modeOf(QStringLiteral(BUNDLE)) & 022, 0);
+}
+
+int main(int argc, char *argv[])
+{
+    raiseArgumentLimit();
+    QApplication application(argc, argv);
+    prepare(application);
+    SecretsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "secrets_test.moc"
