@@ -13,7 +13,7 @@ QByteArray environmentCharset()
     const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
     if (locale == nullptr)
         return {};
-    const QByteArray charset = nl_langinfo_l(CODESET, locale);
+    QByteArray charset = nl_langinfo_l(CODESET, locale);
     freelocale(locale);
     return charset;
 }

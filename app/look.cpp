@@ -96,6 +96,7 @@ QPalette lightPalette()
 
 void applyLook(QApplication &application)
 {
-    application.setStyle(new Style); // the application owns it
+    application.setStyle(new Style);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the style
     application.setPalette(lightPalette());
 }
