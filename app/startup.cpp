@@ -18,14 +18,14 @@ namespace {
 int imageAllocationLimit()
 {
     const auto bytes = static_cast<qint64>(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
-    return static_cast<int>(bytes / 4 / (1024 * 1024));
+    return static_cast<int>(bytes / 4 / 1024 / 1024);
 }
 
 } // namespace
 
 void raiseArgumentLimit()
 {
-    constexpr rlim_t enough = 64 * 1024 * 1024;
+    constexpr rlim_t enough = rlim_t(64) * 1024 * 1024;
     rlimit stack = {};
     if (getrlimit(RLIMIT_STACK, &stack) != 0 || stack.rlim_cur >= enough)
         return;
