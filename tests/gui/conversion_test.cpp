@@ -6,8 +6,6 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QProcess>
 #include <QProgressBar>
 #include <QTableWidget>
@@ -39,11 +37,6 @@ private slots:
     void eachRunStartsTheStepsOfItsMode_data();
     void eachRunStartsTheStepsOfItsMode();
     void progressCountsStartedImages();
-    void emptyListIsWarnedAboutAndNothingElseChanges();
-    void missingOutputFolderIsAskedForAndTheFieldEmptied_data();
-    void missingOutputFolderIsAskedForAndTheFieldEmptied();
-    void emptyingTheListMidRunEndsItWithTheWarning();
-    void losingTheOutputFolderMidRunEndsIt();
     void mergedRunLeavesTheFileIndexAtItsRowCount();
     void laterRunsDeleteTheLastFinishedPdfAgain();
     void mergedRunWithOptionsClearsTheFinishedNames();
@@ -128,92 +121,6 @@ void ConversionTest::progressCountsStartedImages()
     QCOMPARE(seen, QList<int>({2, 3, 0}));
     QCOMPARE(bar->maximum(), 3);
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
-}
-
-void ConversionTest::emptyListIsWarnedAboutAndNothingElseChanges()
-{
-    WindowFixture fixture;
-    fixture.setOutputFolder();
-    ProcessProbe::fileIndex(fixture.window) = 7;
-    QStringList shown;
-    ModalAnswer answer([&shown](QWidget *widget) {
-        auto *box = qobject_cast<QMessageBox *>(widget);
-        QVERIFY(box);
-        QCOMPARE(box->icon(), QMessageBox::Warning);
-        QCOMPARE(box->standardButtons(), QMessageBox::Ok);
-        shown << box->windowTitle() << box->text();
-    });
-    fixture.click("runButton");
-    QVERIFY(answer.happened());
-    QCOMPARE(shown, QStringList({"Empty input", "Please choose files to convert."}));
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
-    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), fixture.outputPath());
-    QVERIFY(fixture.calls().isEmpty());
-}
-
-void ConversionTest::missingOutputFolderIsAskedForAndTheFieldEmptied_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("no text") << "";
-    QTest::newRow("a folder that does not exist") << "/nowhere/at/all";
-    QTest::newRow("a file instead of a folder") << "/etc/passwd";
-}
-
-void ConversionTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
-{
-    QFETCH(QString, folder);
-    WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
-    fixture.type("outputfolderEdit", folder);
-    QStringList shown;
-    ModalAnswer answer([&shown](QWidget *widget) {
-        auto *box = qobject_cast<QMessageBox *>(widget);
-        QVERIFY(box);
-        QCOMPARE(box->icon(), QMessageBox::Information);
-        QCOMPARE(box->standardButtons(), QMessageBox::Ok);
-        shown << box->windowTitle() << box->text();
-    });
-    fixture.click("runButton");
-    QVERIFY(answer.happened());
-    QCOMPARE(shown, QStringList({"Invalid order", "Please specify an output folder."}));
-    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
-    QVERIFY(fixture.calls().isEmpty());
-}
-
-void ConversionTest::emptyingTheListMidRunEndsItWithTheWarning()
-{
-    WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
-    fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.click("removeallButton");
-    QString title;
-    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
-    fixture.openGate();
-    QTRY_VERIFY(answer.happened());
-    QCOMPARE(title, QStringLiteral("Empty input"));
-    QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
-    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
-}
-
-void ConversionTest::losingTheOutputFolderMidRunEndsIt()
-{
-    WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
-    fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.type("outputfolderEdit", "/nowhere");
-    QString title;
-    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
-    fixture.openGate();
-    QTRY_VERIFY(answer.happened());
-    QCOMPARE(title, QStringLiteral("Invalid order"));
-    QTRY_COMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
-    QCOMPARE(fixture.calls().size(), 1);
 }
 
 void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()

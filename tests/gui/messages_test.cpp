@@ -1,0 +1,110 @@
+// The two message boxes, the only words that a run ever says.
+
+#include "windowfixture.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace {
+
+/// Title and text of the box; nothing when it is no box of that kind with a single OK button.
+QStringList messageOf(QWidget *widget, QMessageBox::Icon icon)
+{
+    const auto *box = qobject_cast<QMessageBox *>(widget);
+    if (!box || box->icon() != icon || box->standardButtons() != QMessageBox::Ok)
+        return {};
+    return {box->windowTitle(), box->text()};
+}
+
+} // namespace
+
+class MessagesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void emptyListIsWarnedAboutAndNothingElseChanges();
+    void missingOutputFolderIsAskedForAndTheFieldEmptied_data();
+    void missingOutputFolderIsAskedForAndTheFieldEmptied();
+    void emptyingTheListMidRunEndsItWithTheWarning();
+    void losingTheOutputFolderMidRunEndsIt();
+};
+
+void MessagesTest::emptyListIsWarnedAboutAndNothingElseChanges()
+{
+    WindowFixture fixture;
+    fixture.setOutputFolder();
+    ProcessProbe::fileIndex(fixture.window) = 7;
+    QStringList shown;
+    ModalAnswer answer(
+        [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Warning); });
+    fixture.click("runButton");
+    QVERIFY(answer.happened());
+    QCOMPARE(shown, QStringList({"Empty input", "Please choose files to convert."}));
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), fixture.outputPath());
+    QVERIFY(fixture.calls().isEmpty());
+}
+
+void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("no text") << "";
+    QTest::newRow("a folder that does not exist") << "/nowhere/at/all";
+    QTest::newRow("a file instead of a folder") << "/etc/passwd";
+}
+
+void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
+{
+    QFETCH(QString, folder);
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg"});
+    fixture.type("outputfolderEdit", folder);
+    QStringList shown;
+    ModalAnswer answer(
+        [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Information); });
+    fixture.click("runButton");
+    QVERIFY(answer.happened());
+    QCOMPARE(shown, QStringList({"Invalid order", "Please specify an output folder."}));
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
+    QVERIFY(fixture.calls().isEmpty());
+}
+
+void MessagesTest::emptyingTheListMidRunEndsItWithTheWarning()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.click("removeallButton");
+    QString title;
+    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
+    fixture.openGate();
+    QTRY_VERIFY(answer.happened());
+    QCOMPARE(title, QStringLiteral("Empty input"));
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
+    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+}
+
+void MessagesTest::losingTheOutputFolderMidRunEndsIt()
+{
+    WindowFixture fixture;
+    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.setOutputFolder();
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.type("outputfolderEdit", "/nowhere");
+    QString title;
+    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
+    fixture.openGate();
+    QTRY_VERIFY(answer.happened());
+    QCOMPARE(title, QStringLiteral("Invalid order"));
+    QTRY_COMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
+    QCOMPARE(fixture.calls().size(), 1);
+}
+
+QTEST_MAIN(MessagesTest)
+#include "messages_test.moc"
