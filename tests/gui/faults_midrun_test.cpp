@@ -161,6 +161,8 @@ private slots:
     void runButtonPressedAgain_data();
     void runButtonPressedAgain();
     void threePressesWithOptionsEndWithEveryPdfFinished();
+    void nextRunDeletesTheLastPdfOfTheOneBefore();
+    void mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles();
 };
 
 void FaultsMidrunTest::changeDuringTheRun_data()
@@ -257,6 +259,38 @@ void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
     Outcome expected = allFinishedTwice;
     expected.calls = QStringLiteral("ccccccpppppp");
     QCOMPARE(outcome.tellTale(), expected.tellTale());
+}
+
+void FaultsMidrunTest::nextRunDeletesTheLastPdfOfTheOneBefore()
+{
+    FaultFixture fixture(allModes().at(3));
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    fixture.click("removeallButton");
+    fixture.addImages({"c.gif"});
+    fixture.click("runButton"); // other images, with options all the same
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(),
+             QStringList({"a.pdf: pdftk(convert(a.jpg))", "c.pdf: pdftk(convert(c.gif))"}));
+}
+
+void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles()
+{
+    FaultFixture fixture(allModes().at(3));
+    const QString gate = fixture.closeGate();
+    fixture.click("runButton");
+    fixture.tellPdftk(gate);
+    QVERIFY(fixture.waitForCalls(2));
+    fixture.openGate();
+    QVERIFY(fixture.waitForToolsAlone());
+    fixture.closeGate();
+    QVERIFY(fixture.waitForCalls(4)); // pdftk has b.pdf
+    toggleMerging(fixture);
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.outputFiles(),
+             QStringList({"a.pdf: pdftk(convert(a.jpg|b.png))", "b-1.pdf: pdftk(convert(b.png))",
+                          "b.pdf: convert(b.png)"}));
 }
 
 QTEST_MAIN(FaultsMidrunTest)
