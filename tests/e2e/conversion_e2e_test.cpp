@@ -81,7 +81,7 @@ QString ConversionE2eTest::makeImage(const QString &name, QSize size) const
     image.fill(Qt::darkCyan);
     image.setDotsPerMeterX(2835); // 72 per inch: a pixel is a point
     image.setDotsPerMeterY(2835);
-    const QString path = folder->filePath(QStringLiteral("in/") + name);
+    QString path = folder->filePath(QStringLiteral("in/") + name);
     if (!image.save(path, "PNG"))
         qFatal("cannot write %s", qPrintable(path));
     return path;
