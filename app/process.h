@@ -118,7 +118,8 @@ private:
     void setWindowBackground();
     void showPage(int index, QPushButton *button);
 
-    void appendFile(const QString &path);
+    void appendFiles(const QStringList &paths);
+    void setFile(int row, const QString &path);
     QString inputPath(int row) const;
     void connectSelection();
     void removeRow(int row);

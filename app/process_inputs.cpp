@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFrame>
+#include <QHeaderView>
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMimeData>
@@ -104,11 +105,27 @@ QString Process::inputPath(int row) const
     return item ? item->text() : QString();
 }
 
-void Process::appendFile(const QString &path)
+void Process::appendFiles(const QStringList &paths)
 {
     QTableWidget *table = ui->inputfiletableWidget;
     int row = table->rowCount();
-    table->insertRow(row);
+    // A table that sorts moves each row to its place, so there rows are made one by one.
+    const bool sorted = table->horizontalHeader()->sortIndicatorSection() >= 0;
+    if (!sorted)
+        table->setRowCount(row + static_cast<int>(paths.size()));
+    // The view lays out new rows as a whole, later; it needs no word of each of their cells.
+    const QSignalBlocker blocker(sorted ? nullptr : table->model());
+    for (const QString &path : paths) {
+        if (sorted)
+            table->insertRow(row);
+        setFile(row, path);
+        ++row;
+    }
+}
+
+void Process::setFile(int row, const QString &path)
+{
+    QTableWidget *table = ui->inputfiletableWidget;
     auto *pathItem = new QTableWidgetItem(path);
     table->setItem(row, pathColumn, pathItem);
     if (table->item(row, pathColumn) != pathItem)
@@ -127,8 +144,7 @@ void Process::setopenfile()
     if (paths.isEmpty())
         return;
     inputFolder.write(QFileInfo(paths.first()).absolutePath());
-    for (const QString &path : paths)
-        appendFile(path);
+    appendFiles(paths);
     QTableWidget *table = ui->inputfiletableWidget;
     table->selectionModel()->setCurrentIndex(table->model()->index(0, pathColumn),
                                              QItemSelectionModel::Select |
@@ -143,13 +159,15 @@ void Process::dragEnterEvent(QDragEnterEvent *event)
 
 void Process::dropEvent(QDropEvent *event)
 {
+    QStringList paths;
     const QList<QUrl> urls = event->mimeData()->urls();
     for (const QUrl &url : urls) {
         const QString path = url.toLocalFile();
         if (path.isEmpty())
-            return;
-        appendFile(path);
+            break;
+        paths << path;
     }
+    appendFiles(paths);
 }
 
 void Process::removeRow(int row)
@@ -176,11 +194,11 @@ void Process::setremove()
 
 void Process::setremoveall()
 {
-    const int count = ui->inputfiletableWidget->rowCount();
-    if (count == 0)
+    if (ui->inputfiletableWidget->rowCount() == 0)
         return;
-    for (int row = count - 1; row >= 0; --row)
-        removeRow(row);
+    // All but the first row in one go: the table numbers and lays out its rows anew each time.
+    ui->inputfiletableWidget->setRowCount(1);
+    removeRow(0);
     setdefaultpreview();
     connectSelection();
 }
