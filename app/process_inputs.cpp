@@ -24,7 +24,6 @@
 #include <QTimer>
 #include <QUrl>
 
-#include <algorithm>
 #include <chrono>
 #include <set>
 
@@ -64,15 +63,12 @@ private:
     QString key;
 };
 
-/// True when a picture of `size` may be shown. It takes 32 bits a pixel then, whatever its file
-/// has: the toolkit's own limit looks at the file's form, in which black and white takes one.
+/// True when a picture of `size` takes at most 2 GiB as shown, which is 32 bits a pixel. The
+/// toolkit's own limit grows with the machine, and no picture is worth more than that.
 bool isShowable(QSize size)
 {
-    constexpr qint64 megabyte = qint64(1024) * 1024;
-    constexpr qint64 mostMegabytes = 2048; // beside it stands, for a moment, the file's form
-    const qint64 toolkitLimit = QImageReader::allocationLimit();
-    const qint64 limit = toolkitLimit > 0 ? std::min(toolkitLimit, mostMegabytes) : mostMegabytes;
-    return qint64(size.width()) * size.height() * 4 <= limit * megabyte;
+    constexpr qint64 mostPixels = qint64(2) * 1024 * 1024 * 1024 / 4;
+    return qint64(size.width()) * size.height() <= mostPixels;
 }
 
 /// The image in the regular file at `path`, its format told by its content; a null pixmap when

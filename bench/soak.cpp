@@ -68,7 +68,7 @@ QList<QUrl> makeImages(const QDir &folder, int count)
     QList<QUrl> urls;
     for (int i = 0; i < count; ++i) {
         QFile file(folder.filePath(baseName(i) + QStringLiteral(".ppm")));
-        const QByteArray pixels(16 * 12 * 3, static_cast<char>(i));
+        const QByteArray pixels(qsizetype(16) * 12 * 3, static_cast<char>(i));
         if (!file.open(QIODevice::WriteOnly) || file.write("P6 16 12 255\n" + pixels) < 0)
             qFatal("cannot write %s", qPrintable(file.fileName()));
         urls << QUrl::fromLocalFile(file.fileName());
