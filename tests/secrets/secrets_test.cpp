@@ -191,8 +191,9 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
              succeeds ? (merged ? 2 : 1) : -1);
     QVERIFY(toolsSeen > 0);
 
-    for (const QString &root : {folder->path(), QDir::currentPath(), QStringLiteral("/tmp"),
-                                QStringLiteral("/var/tmp"), QStringLiteral("/dev/shm")})
+    for (const QString &root :
+         {folder->path(), QDir::currentPath(), QStringLiteral(BUNDLE), QStringLiteral("/tmp"),
+          QStringLiteral("/var/tmp"), QStringLiteral("/dev/shm")})
         inspectFiles(root, 1 << 22);
     QVERIFY(!holdsSecret(contentOf(QStringLiteral("/proc/self/environ"))));
     QCOMPARE(finds, QStringList());
