@@ -1,0 +1,184 @@
+// 10,000 files dropped on the list and taken off it, beside a bare table with the same texts.
+//
+//   bench_lists add|add-sorted|add-asked|remove FOLDER TURNS
+//
+// FOLDER holds the files. With "add-asked" the bare table's filler asks for the sizes, too. Prints
+// the samples in milliseconds, each from the drop or the click to the painted list.
+
+#include "process.h"
+#include "samples.h"
+#include "startup.h"
+#include "windowsteps.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QUrl>
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+constexpr QSize windowSize(552, 484);
+
+struct Row
+{
+    QString path;
+    QString size;
+};
+
+void sortByPath(QTableWidget &table)
+{
+    table.setSortingEnabled(true);
+    table.sortByColumn(0, Qt::DescendingOrder);
+}
+
+double measured(const std::function<void()> &work)
+{
+    return millisecondsOf([&work] {
+        work();
+        QApplication::processEvents();
+    });
+}
+
+/// The application's window with its list.
+class Ours
+{
+public:
+    explicit Ours(bool sorted)
+        : table(window.findChild<QTableWidget *>())
+    {
+        if (sorted)
+            sortByPath(*table);
+        window.show();
+        QApplication::processEvents();
+    }
+
+    double add(const QList<QUrl> &urls)
+    {
+        return measured([&] { drop(window, urls); });
+    }
+
+    double removeAll()
+    {
+        auto *button = window.findChild<QPushButton *>(QStringLiteral("removeallButton"));
+        return measured([button] { button->click(); });
+    }
+
+    std::vector<Row> rows() const
+    {
+        std::vector<Row> result;
+        for (int row = 0; row < table->rowCount(); ++row)
+            result.push_back({table->item(row, 0)->text(), table->item(row, 1)->text()});
+        return result;
+    }
+
+private:
+    Process window;
+    QTableWidget *table;
+};
+
+/// The toolkit's table alone, in a window of the same size.
+class Bare
+{
+public:
+    explicit Bare(bool sorted)
+        : table(0, 2)
+    {
+        if (sorted)
+            sortByPath(table);
+        table.setFixedSize(windowSize);
+        table.show();
+        QApplication::processEvents();
+    }
+
+    double fill(const std::vector<Row> &rows, bool asking)
+    {
+        return measured([&] {
+            for (const Row &row : rows) {
+                if (asking && QFileInfo(row.path).size() < 0)
+                    return;
+                int place = table.rowCount();
+                table.insertRow(place);
+                auto *item = new QTableWidgetItem(row.path);
+                table.setItem(place, 0, item);
+                place = item->row();
+                table.setItem(place, 1, new QTableWidgetItem(row.size));
+            }
+        });
+    }
+
+    double empty()
+    {
+        return measured([this] { table.setRowCount(0); });
+    }
+
+private:
+    QTableWidget table;
+};
+
+// No order that a sorted table would find ready.
+QList<QUrl> shuffled(QList<QUrl> urls)
+{
+    std::mt19937 random(1);
+    std::shuffle(urls.begin(), urls.end(), random);
+    return urls;
+}
+
+std::vector<Row> textsOf(const QList<QUrl> &urls)
+{
+    Ours ours(false);
+    ours.add(urls);
+    return ours.rows();
+}
+
+Samples adding(const QList<QUrl> &urls, bool sorted, bool asking, int turns)
+{
+    const std::vector<Row> rows = textsOf(urls);
+    Samples samples;
+    samples.takeInTurn(
+        turns, [&] { return Ours(sorted).add(urls); },
+        [&] { return Bare(sorted).fill(rows, asking); });
+    return samples;
+}
+
+Samples removing(const QList<QUrl> &urls, int turns)
+{
+    const std::vector<Row> rows = textsOf(urls);
+    Ours ours(false);
+    Bare bare(false);
+    Samples samples;
+    samples.takeInTurn(
+        turns,
+        [&] {
+            ours.add(urls);
+            return ours.removeAll();
+        },
+        [&] {
+            bare.fill(rows, false);
+            return bare.empty();
+        });
+    return samples;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    prepare(application);
+    if (argc != 4)
+        return 2;
+    const QByteArray mode(argv[1]);
+    const QList<QUrl> urls = shuffled(filesIn(QString::fromLocal8Bit(argv[2])));
+    const int turns = std::atoi(argv[3]);
+    if (urls.isEmpty() || turns < 1)
+        return 2;
+    const Samples samples = mode == "remove"
+                                ? removing(urls, turns)
+                                : adding(urls, mode == "add-sorted", mode == "add-asked", turns);
+    samples.print();
+    return 0;
+}

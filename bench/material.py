@@ -1,0 +1,109 @@
+"""The files that the measurements work on, made once and kept in the build folder."""
+
+import os
+import subprocess
+from pathlib import Path
+
+CONVERT = "/usr/bin/convert"
+PDFTK = "/usr/bin/pdftk"
+
+# The real ImageMagick as a user has to set it up to make any PDF at all.
+ALLOWED = '<policymap><policy domain="coder" rights="read|write" pattern="PDF"/></policymap>'
+# And with nothing that bounds it.
+UNBOUNDED = "<policymap>%s</policymap>" % "".join(
+    f'<policy domain="resource" name="{name}" value="{value}"/>'
+    for name, value in {
+        "width": "1GP", "height": "1GP", "area": "1TP",
+        "memory": "1TiB", "map": "1TiB", "disk": "1TiB",
+    }.items()
+)  # fmt: skip
+
+INFO = "".join(
+    f"InfoBegin\nInfoKey: {key}\nInfoValue: {value}\n"
+    for key, value in {
+        "Title": "Holiday", "Subject": "Scans", "Keywords": "a, b", "Author": "Somebody",
+    }.items()
+)  # fmt: skip
+
+SMALL_IMAGES = 300
+PAGES = 100
+FILES = 10000
+
+
+def make_image(path, *words):
+    subprocess.run([CONVERT, *words, path], check=True)
+
+
+def link_all(original, folder, names):
+    folder.mkdir(parents=True)
+    for name in names:
+        os.link(original, folder / name)
+
+
+class Material:
+    """Paths of everything; `folder` is filled when it is not yet."""
+
+    def __init__(self, folder):
+        self.folder = Path(folder)
+        self.pixel = self.folder / "pixel.png"
+        self.photo = self.folder / "photo.jpg"
+        self.small = self.folder / "small"
+        self.pages = self.folder / "pages"
+        self.files = self.folder / "files"
+        self.pdf = self.folder / "plain.pdf"
+        self.info = self.folder / "info.txt"
+        self.output = self.folder / "output"
+        self._make()
+
+    def stock_environment(self, bounded=True):
+        """The environment in which the real ImageMagick may write PDF files."""
+        environment = dict(os.environ)
+        environment["XDG_CONFIG_HOME"] = str(self.folder / "allowed")
+        environment["HOME"] = str(self.folder)
+        if not bounded:
+            environment["MAGICK_CONFIGURE_PATH"] = str(self.folder / "unbounded")
+        return environment
+
+    def _make(self):
+        done = self.folder / "complete"
+        if done.exists():
+            return
+        if self.folder.exists():
+            subprocess.run(["rm", "-rf", "--", self.folder], check=True)
+        self.output.mkdir(parents=True)
+        self._make_configuration()
+        self._make_images()
+        self._make_files()
+        done.touch()
+
+    def _make_configuration(self):
+        for name, text in {
+            "allowed/ImageMagick/policy.xml": ALLOWED,
+            "unbounded/policy.xml": UNBOUNDED,
+            "info.txt": INFO,
+        }.items():
+            path = self.folder / name
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(text, encoding="ascii")
+
+    def _make_images(self):
+        make_image(self.pixel, "-size", "1x1", "xc:teal")
+        subprocess.run(
+            [CONVERT, self.pixel, self.pdf], env=self.stock_environment(), check=True
+        )
+        small = self.folder / "small.png"
+        make_image(small, "-size", "120x90", "gradient:teal-white")
+        link_all(small, self.small, [f"image-{n:03}.png" for n in range(SMALL_IMAGES)])
+        noise = ["-seed", "7", "-size", "1000x750", "plasma:", "-resize", "400%"]
+        make_image(self.photo, *noise, "-sampling-factor", "4:2:0", "-quality", "85")
+        page = self.folder / "page.jpg"
+        paper = ["-seed", "7", "-size", "620x877", "plasma:white-gray70", "-resize", "400%"]
+        make_image(page, *paper, "-density", "300", "-quality", "85")
+        link_all(page, self.pages, [f"page-{n:03}.jpg" for n in range(PAGES)])
+
+    def _make_files(self):
+        self.files.mkdir()
+        for number in range(FILES):
+            # Half of them below and half of them above the size at which the unit changes.
+            with open(self.files / f"scan-{number:05}.jpg", "wb") as file:
+                file.truncate(1000 + number * 210)

@@ -1,0 +1,18 @@
+// The application from its start to its first painted window.
+
+#include "firstpaint.h"
+#include "process.h"
+#include "startup.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    raiseArgumentLimit();
+    QApplication application(argc, argv);
+    prepare(application);
+    Process window(nullptr);
+    const EndAtFirstPaint end(window);
+    window.show();
+    return QApplication::exec();
+}
