@@ -144,6 +144,8 @@ private slots:
     void faultDuringTheRun();
     void pdfsWithADescriptionAreLostWithoutAnInfoFile_data();
     void pdfsWithADescriptionAreLostWithoutAnInfoFile();
+    void olderPdfStandsInForTheOneThatFailed_data();
+    void olderPdfStandsInForTheOneThatFailed();
     void folderFieldIsEmptiedByTheBoxAlone_data();
     void folderFieldIsEmptiedByTheBoxAlone();
 };
@@ -224,6 +226,38 @@ void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile()
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
     if (mode.title)
         QCOMPARE(fixture.calls().at(1).arguments.first(), fixture.outputPath("a.pdf111"));
+}
+
+void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed_data()
+{
+    QTest::addColumn<Mode>("mode");
+    QTest::addColumn<QString>("pdftk");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("left alone without options")
+        << allModes().at(0) << "" << QStringList{"a.pdf: older"};
+    QTest::newRow("finished with options")
+        << allModes().at(3) << "" << QStringList{"a.pdf: pdftk(older)"};
+    QTest::newRow("lost when it cannot be finished")
+        << allModes().at(3) << "output=none exit=1" << QStringList{};
+    QTest::newRow("left alone without options, merged")
+        << allModes().at(4) << "" << QStringList{"a.pdf: older"};
+    QTest::newRow("finished with options, merged")
+        << allModes().at(7) << "" << QStringList{"a.pdf: pdftk(older)"};
+}
+
+void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed()
+{
+    QFETCH(Mode, mode);
+    QFETCH(QString, pdftk);
+    FaultFixture fixture(mode);
+    QFile older(fixture.outputPath("a.pdf"));
+    QVERIFY(older.open(QIODevice::WriteOnly) && older.write("older") > 0);
+    older.close();
+    fixture.tellConvert("output=none exit=1");
+    fixture.tellPdftk(pdftk);
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QTEST(fixture.outputFiles(), "files");
 }
 
 void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone_data()
