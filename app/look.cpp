@@ -96,7 +96,6 @@ QPalette lightPalette()
 
 void applyLook(QApplication &application)
 {
-    application.setStyle(new Style);
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the style
+    application.setStyle(new Style); // the application owns it
     application.setPalette(lightPalette());
 }

@@ -234,7 +234,7 @@ void FaultsMidrunTest::runButtonPressedAgain()
     QVERIFY(fixture.waitForToolsAlone());
     fixture.closeGate();
     if (mode.hasOptions()) {
-        QVERIFY(fixture.waitForCalls(2 * chains));
+        QVERIFY(fixture.waitForCalls(qsizetype(2) * chains));
         fixture.openGate();
         QVERIFY(fixture.waitForToolsAlone());
     }

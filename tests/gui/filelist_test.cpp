@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 gibibyte = 1024 * 1024 * 1024;
+constexpr qint64 gibibyte = qint64(1024) * 1024 * 1024;
 
 /// "name|size text" of each row, "name" where the size has no item.
 QStringList rowsOf(WindowFixture &fixture)
