@@ -55,7 +55,7 @@ void StartupTest::bundlesFolderIsTheCurrentOne()
 void StartupTest::imagesMayTakeAQuarterOfTheMemory()
 {
     const qint64 memory = qint64(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
-    QCOMPARE(QImageReader::allocationLimit(), int(memory / 4 / (1024 * 1024)));
+    QCOMPARE(QImageReader::allocationLimit(), int(memory / 4 / 1024 / 1024));
 }
 
 void StartupTest::coloursAreLightOnADarkDesktop_data()
@@ -84,8 +84,8 @@ void StartupTest::argumentLimitIsRaised()
 {
     rlimit stack = {};
     QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
-    const rlim_t most = std::min<rlim_t>(stack.rlim_max, 64 * 1024 * 1024);
-    stack.rlim_cur = std::min<rlim_t>(most, 8 * 1024 * 1024);
+    const rlim_t most = std::min(stack.rlim_max, rlim_t(64) * 1024 * 1024);
+    stack.rlim_cur = std::min(most, rlim_t(8) * 1024 * 1024);
     QCOMPARE(setrlimit(RLIMIT_STACK, &stack), 0);
     raiseArgumentLimit();
     QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
