@@ -16,6 +16,7 @@ namespace {
 
 constexpr int headerSize = 6;
 constexpr int entrySize = 16;
+constexpr int largestListed = 128; // pixels
 
 QByteArray contentOf(const QString &path)
 {
@@ -48,7 +49,11 @@ public:
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override
     {
         readDirectory();
-        return sizes;
+        // A window's icon is handed to the display in all of these before the window is shown, and
+        // no window manager shows more.
+        QList<QSize> listed = sizes;
+        listed.removeIf([](QSize size) { return size.width() > largestListed; });
+        return listed;
     }
 
     QSize actualSize(const QSize &size, QIcon::Mode mode, QIcon::State state) override

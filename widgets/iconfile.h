@@ -8,8 +8,9 @@ class QImage;
 
 /// The icon file at `path` with all its sizes, each of which is decoded when it is first shown;
 /// `QIcon(path)` decodes all of them at once, of which a window then shows one. The file's images
-/// are PNG ones, as resources/render makes them. Without a readable file: an icon without sizes,
-/// but not a null one.
+/// are PNG ones, as resources/render makes them. Sizes above 128 pixels are shown where they are
+/// asked for, but not listed among the available ones. Without a readable file: an icon without
+/// sizes, but not a null one.
 QIcon iconFromFile(const QString &path);
 
 /// Adds the PNG picture at `path`, and its "@2x" twin where a screen needs it, to `icon`.

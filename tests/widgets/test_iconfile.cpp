@@ -54,7 +54,9 @@ void TestIconFile::showsWhatTheToolkitsIconShows()
     const QIcon lazy = iconFromFile(path);
     const QIcon eager(path);
 
-    QCOMPARE(lazy.availableSizes(), eager.availableSizes());
+    QList<QSize> sizes = eager.availableSizes();
+    QCOMPARE(sizes.removeAll(QSize(256, 256)), 1);
+    QCOMPARE(lazy.availableSizes(), sizes);
     for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled, QIcon::Selected}) {
         for (const int side : {8, 16, 24, 28, 30, 32, 56, 100, 256, 300}) {
             for (const qreal ratio : {1.0, 1.5, 2.0}) {
