@@ -23,7 +23,7 @@ void SizesTest::sizeTextHasSixteenCharactersOrNone_data()
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("text");
 
-    constexpr qint64 gibibyte = 1024 * 1024 * 1024;
+    constexpr qint64 gibibyte = qint64(1024) * 1024 * 1024;
     QTest::newRow("an empty file has none") << qint64(0) << "";
     QTest::newRow("a size below zero has none") << qint64(-1) << "";
     QTest::newRow("one byte") << qint64(1) << "         0.001KB";
