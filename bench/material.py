@@ -26,6 +26,7 @@ INFO = "".join(
 )  # fmt: skip
 
 SMALL_IMAGES = 300
+IMAGES_TO_FINISH = 100
 PAGES = 100
 FILES = 10000
 
@@ -48,6 +49,7 @@ class Material:
         self.pixel = self.folder / "pixel.png"
         self.photo = self.folder / "photo.jpg"
         self.small = self.folder / "small"
+        self.to_finish = self.folder / "to-finish"
         self.pages = self.folder / "pages"
         self.files = self.folder / "files"
         self.pdf = self.folder / "plain.pdf"
@@ -93,7 +95,8 @@ class Material:
         )
         small = self.folder / "small.png"
         make_image(small, "-size", "120x90", "gradient:teal-white")
-        link_all(small, self.small, [f"image-{n:03}.png" for n in range(SMALL_IMAGES)])
+        for folder, count in ((self.small, SMALL_IMAGES), (self.to_finish, IMAGES_TO_FINISH)):
+            link_all(small, folder, [f"image-{n:03}.png" for n in range(count)])
         noise = ["-seed", "7", "-size", "1000x750", "plasma:", "-resize", "400%"]
         make_image(self.photo, *noise, "-sampling-factor", "4:2:0", "-quality", "85")
         page = self.folder / "page.jpg"

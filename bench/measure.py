@@ -23,7 +23,7 @@ GROUPS = {
     "preview": lambda bench: bench.preview(21),
     "chain": lambda bench: bench.chains(3),
     "merged": lambda bench: bench.merged(2),
-    "chain-with-finishing": lambda bench: bench.finished_chains(1),
+    "chain-with-finishing": lambda bench: bench.finished_chains(3),
     "preview-memory": lambda bench: bench.preview_memory(),
 }
 

@@ -65,7 +65,7 @@ class Bench:
         bundle = self.tool("convert")
         ours, against = in_turn(
             lambda: self.said("bench_chain", self.material.small, self.material.output),
-            lambda: self._loop(bundle),
+            lambda: self._loop(self.material.small, bundle),
             turns,
         )
         yield Row("chain", ours, against, "ms", 1.03)
@@ -73,18 +73,18 @@ class Bench:
     def finished_chains(self, turns):
         ours, against = in_turn(
             lambda: self.said(
-                "bench_chain", self.material.small, self.material.output, TITLE, PASSWORD
+                "bench_chain", self.material.to_finish, self.material.output, TITLE, PASSWORD
             ),
             lambda: self._loop(
-                CONVERT, PDFTK, self.material.info, PASSWORD,
+                self.material.to_finish, CONVERT, PDFTK, self.material.info, PASSWORD,
                 environment=self.material.stock_environment(),
             ),
             turns,
         )  # fmt: skip
         yield Row("chain with finishing", ours, against, "ms", 0.80)
 
-    def _loop(self, *words, environment=None):
-        command = [LOOP, self.material.small, self.material.output, *words]
+    def _loop(self, images, *words, environment=None):
+        command = [LOOP, images, self.material.output, *words]
         return run(command, environment).wall * 1000
 
     def convert_launcher(self, turns):
