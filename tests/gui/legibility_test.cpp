@@ -79,7 +79,9 @@ void LegibilityTest::addFonts()
     QTest::addColumn<qreal>("points");
     for (const char *family : {"DejaVu Sans", "Cantarell", "Liberation Sans", "Noto Sans"}) {
         for (const qreal points : {9.0, 10.0, 11.0, 1.25 * 9, 1.25 * 11})
-            QTest::addRow("%s at %.2f points", family, points) << QString(family) << points;
+            QTest::newRow(qPrintable(
+                QStringLiteral("%1 at %2 points").arg(QLatin1String(family)).arg(points)))
+                << QString(family) << points;
     }
 }
 
