@@ -3,6 +3,7 @@
 #include "iconfile.h"
 
 #include <QImageReader>
+#include <QPixmapCache>
 
 QPixmap scaledPixmap(const QPixmap &picture, QSize size, Qt::AspectRatioMode mode, qreal ratio)
 {
@@ -23,9 +24,16 @@ QPixmap readScaled(const QString &path, QSize size, qreal ratio)
 
 QPixmap crispPixmap(const QString &path, QSize size, qreal ratio)
 {
-    QIcon icon;
-    addPng(icon, path);
-    return icon.pixmap(size, ratio);
+    const QString key =
+        QStringLiteral("%1 %2x%3@%4").arg(path).arg(size.width()).arg(size.height()).arg(ratio);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        QIcon icon;
+        addPng(icon, path);
+        picture = icon.pixmap(size, ratio);
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
 }
 
 QBrush pixmapBrush(const QPixmap &picture)

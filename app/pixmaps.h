@@ -15,7 +15,8 @@ QPixmap readScaled(const QString &path, QSize size, qreal ratio);
 
 /// The PNG picture at `path` at `size` device-independent pixels, taken from the file or its "@2x"
 /// twin, whichever suits a screen of `ratio` device pixels per pixel best; never larger than that
-/// source. Null when there is no such picture.
+/// source. Null when there is no such picture. Decoded once: the picture is one of the program's
+/// own.
 QPixmap crispPixmap(const QString &path, QSize size, qreal ratio);
 
 /// Texture brush that paints `picture` at its device-independent size.

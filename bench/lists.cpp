@@ -71,7 +71,6 @@ public:
     {
         std::vector<Row> result;
         result.reserve(static_cast<std::size_t>(table->rowCount()));
-        result.reserve(static_cast<std::size_t>(table->rowCount()));
         for (int row = 0; row < table->rowCount(); ++row)
             result.push_back({table->item(row, 0)->text(), table->item(row, 1)->text()});
         return result;
