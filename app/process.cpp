@@ -4,7 +4,7 @@
 
 #include "accessibility.h"
 #include "fittext.h"
-#include "pixmaps.h"
+#include "pictures.h"
 #include "ui_process.h"
 
 #include <QCheckBox>
@@ -107,7 +107,7 @@ void Process::setWindowBackground()
     if (picture.isNull())
         return;
     QPalette colours = palette();
-    colours.setBrush(QPalette::Window, pixmapBrush(picture));
+    colours.setBrush(QPalette::Window, picture);
     setPalette(colours);
 }
 

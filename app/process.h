@@ -10,7 +10,6 @@
 QT_BEGIN_NAMESPACE
 class QDragEnterEvent;
 class QDropEvent;
-class QPixmap;
 class QProcess;
 class QPushButton;
 class QTimer;
@@ -123,7 +122,6 @@ private:
     QString inputPath(int row) const;
     void connectSelection();
     void removeRow(int row);
-    void showPreview(const QPixmap &picture);
 
     bool checkOrder(int rowCount);
     void convertMerged(int rowCount);

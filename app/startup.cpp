@@ -2,26 +2,15 @@
 
 #include "bundlepaths.h"
 #include "look.h"
+#include "previewpicture.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QImageReader>
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 #include <sys/resource.h>
-#include <unistd.h>
-
-namespace {
-
-/// Megabytes; a quarter of the machine's memory, so that a picture that unpacks to more is an
-/// unreadable file and not the end of the program.
-int imageAllocationLimit()
-{
-    const auto bytes = static_cast<qint64>(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
-    return static_cast<int>(bytes / 4 / 1024 / 1024);
-}
-
-} // namespace
 
 void raiseArgumentLimit()
 {
@@ -39,7 +28,7 @@ void prepare(QApplication &application)
     QCoreApplication::setLibraryPaths({pluginFolder(executableFolder)});
     QDir::setCurrent(bundleFolder(executableFolder));
     // Texts need no codec: every literal is ASCII, and the toolkit reads literals as UTF-8.
-    QImageReader::setAllocationLimit(imageAllocationLimit());
+    limitDecodedPictures();
     applyLook(application);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
     // Two page slots have no button of their name in the layout, and a broken image is no news:

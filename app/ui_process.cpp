@@ -1,9 +1,8 @@
 #include "ui_process.h"
 
 #include "compressions.h"
-#include "iconfile.h"
 #include "pagesizes.h"
-#include "pixmaps.h"
+#include "pictures.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,8 @@
 # What every target of the project has in common: warnings, sanitizers, coverage.
 
 add_library(tessaro_build_flags INTERFACE)
+target_compile_definitions(tessaro_build_flags INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_compile_options(tessaro_build_flags INTERFACE
     -Wall -Wextra -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
     $<$<BOOL:${TESSARO_WERROR}>:-Werror>

@@ -1,7 +1,7 @@
 #include "ui_aboutdialog.h"
 
 #include "deployment.h"
-#include "iconfile.h"
+#include "pictures.h"
 
 #include <QCoreApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
 #include "ui_setdialog.h"
 
-#include "iconfile.h"
+#include "pictures.h"
 
 #include <QCoreApplication>
 #include <QDialog>

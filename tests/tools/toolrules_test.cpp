@@ -1,10 +1,10 @@
 #include <QTest>
 
-#include "convert/convertcall.h"
-#include "convert/limits.h"
-#include "pdftk/infofile.h"
-#include "pdftk/pdftkcall.h"
-#include "support/text.h"
+#include "convertcall.h"
+#include "convertlimits.h"
+#include "losslessinfo.h"
+#include "pdftkcall.h"
+#include "text.h"
 
 using Words = std::vector<std::string>;
 using Size = unsigned long long;

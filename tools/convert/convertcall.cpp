@@ -1,4 +1,4 @@
-#include "convert/convertcall.h"
+#include "convertcall.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-#include "support/text.h"
+#include "text.h"
 
 namespace {
 

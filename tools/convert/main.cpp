@@ -2,14 +2,14 @@
 
 #include <sys/stat.h>
 
-#include "convert/convertcall.h"
-#include "convert/limits.h"
-#include "convert/pdftitle.h"
-#include "support/bundle.h"
-#include "support/environment.h"
-#include "support/job.h"
-#include "support/program.h"
-#include "support/text.h"
+#include "bundle.h"
+#include "convertcall.h"
+#include "convertlimits.h"
+#include "environment.h"
+#include "job.h"
+#include "pdftitle.h"
+#include "program.h"
+#include "text.h"
 
 namespace {
 

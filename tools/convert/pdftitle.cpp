@@ -1,4 +1,4 @@
-#include "convert/pdftitle.h"
+#include "pdftitle.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/text.h"
+#include "text.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include <cstring>
 
-#include "pdftk/infofile.h"
-#include "pdftk/pdftkcall.h"
-#include "support/bundle.h"
-#include "support/environment.h"
-#include "support/job.h"
-#include "support/program.h"
-#include "support/text.h"
+#include "bundle.h"
+#include "environment.h"
+#include "job.h"
+#include "losslessinfo.h"
+#include "pdftkcall.h"
+#include "program.h"
+#include "text.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "pdftk/pdftkcall.h"
+#include "pdftkcall.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
 
-#include "support/text.h"
+#include "text.h"
 
 namespace {
 

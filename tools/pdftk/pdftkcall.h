@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/child.h"
+#include "child.h"
 
 /// A call of the application's shape: IN [update_info FILE] output OUT, then passwords and
 /// permissions.

@@ -1,4 +1,4 @@
-#include "support/bundle.h"
+#include "bundle.h"
 
 #include <climits>
 #include <optional>
@@ -7,8 +7,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/diagnosis.h"
-#include "support/text.h"
+#include "diagnosis.h"
+#include "text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "support/calllog.h"
+#include "calllog.h"
 
 #include <array>
 #include <cstdlib>
@@ -7,8 +7,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "support/filedescriptor.h"
-#include "support/text.h"
+#include "filedescriptor.h"
+#include "text.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/outcome.h"
+#include "outcome.h"
 
 struct CallRecord
 {

@@ -1,4 +1,4 @@
-#include "support/child.h"
+#include "child.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "support/diagnosis.h"
-#include "support/filedescriptor.h"
+#include "diagnosis.h"
+#include "filedescriptor.h"
 
 namespace {
 

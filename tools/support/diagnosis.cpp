@@ -1,4 +1,4 @@
-#include "support/diagnosis.h"
+#include "diagnosis.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "support/environment.h"
+#include "environment.h"
 
 #include <algorithm>
 #include <array>

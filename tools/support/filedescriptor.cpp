@@ -1,4 +1,4 @@
-#include "support/filedescriptor.h"
+#include "filedescriptor.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "support/job.h"
+#include "job.h"
 
 #include <algorithm>
 #include <array>
@@ -9,9 +9,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/diagnosis.h"
-#include "support/filedescriptor.h"
-#include "support/text.h"
+#include "diagnosis.h"
+#include "filedescriptor.h"
+#include "text.h"
 
 namespace {
 

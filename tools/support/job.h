@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "support/child.h"
-#include "support/outcome.h"
-#include "support/privatefolder.h"
+#include "child.h"
+#include "outcome.h"
+#include "privatefolder.h"
 
 /// A run of a real tool that makes one PDF. The tool works in a private folder beside the target,
 /// where every file has a short and plain name; only a whole PDF is moved over the target, and in

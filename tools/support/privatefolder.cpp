@@ -1,4 +1,4 @@
-#include "support/privatefolder.h"
+#include "privatefolder.h"
 
 #include <cerrno>
 #include <memory>
@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/diagnosis.h"
+#include "diagnosis.h"
 
 namespace {
 

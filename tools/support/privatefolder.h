@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "support/filedescriptor.h"
+#include "filedescriptor.h"
 
 /// A folder of one call, mode 0700, named ".tessaro-<number>" inside a given folder, and removed
 /// with all files in it at the end of the call.

@@ -1,13 +1,13 @@
-#include "support/program.h"
+#include "program.h"
 
 #include <chrono>
 #include <utility>
 
 #include <unistd.h>
 
-#include "support/calllog.h"
-#include "support/diagnosis.h"
-#include "support/text.h"
+#include "calllog.h"
+#include "diagnosis.h"
+#include "text.h"
 
 namespace {
 

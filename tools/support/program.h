@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "support/child.h"
-#include "support/outcome.h"
+#include "child.h"
+#include "outcome.h"
 
 using Arguments = std::vector<std::string>;
 

@@ -1,4 +1,4 @@
-#include "support/text.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>
@@ -10,8 +10,8 @@
 #include <langinfo.h>
 #include <unistd.h>
 
-#include "support/diagnosis.h"
-#include "support/filedescriptor.h"
+#include "diagnosis.h"
+#include "filedescriptor.h"
 
 namespace {
 

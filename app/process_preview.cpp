@@ -1,0 +1,56 @@
+// The preview of the list's current row.
+
+#include "process.h"
+
+#include "pictures.h"
+#include "previewbox.h"
+#include "previewpicture.h"
+#include "ui_process.h"
+
+#include <QFrame>
+#include <QTableWidget>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::milliseconds previewDelay{300};
+
+} // namespace
+
+void Process::setpreview()
+{
+    previewtimer->start(previewDelay);
+}
+
+void Process::dopreview()
+{
+    try {
+        const QString path = inputPath(ui->inputfiletableWidget->currentRow());
+        if (path.isEmpty())
+            return;
+        const QPixmap picture = readPicture(path);
+        if (picture.isNull()) {
+            showPicture(*ui->previewframe, picture); // the frame keeps its size
+            return;
+        }
+        const QSize size = previewSize(picture.size());
+        const QPixmap scaled =
+            scaledPicture(picture, size, Qt::KeepAspectRatio, devicePixelRatioF());
+        ui->previewframe->resize(size);
+        showPicture(*ui->previewframe, scaled);
+    } catch (...) {
+        // No image, however broken, may end the program.
+    }
+}
+
+void Process::setdefaultpreview()
+{
+    const QSize size(previewBox.width(), previewBox.width());
+    const QPixmap picture =
+        crispPixmap(QStringLiteral(":/iconoption/icons/whle.png"), size, devicePixelRatioF());
+    ui->previewframe->resize(size);
+    showPicture(*ui->previewframe,
+                scaledPicture(picture, size, Qt::IgnoreAspectRatio, devicePixelRatioF()));
+}

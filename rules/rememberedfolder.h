@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSettings>
+#include <QString>
+
+/// A folder remembered between runs in setting.ini in the current directory. The file is opened
+/// anew by each object and written before write() returns; a failure to write it is not told.
+class RememberedFolder
+{
+public:
+    /// `key` is the entry's name in the file, for example "dir/input".
+    explicit RememberedFolder(const QString &key);
+
+    /// The folder as last written, "." when there is none.
+    QString read() const;
+    void write(const QString &folder);
+
+private:
+    QSettings m_settings;
+    QString m_key;
+};
