@@ -11,7 +11,7 @@ namespace {
 
 constexpr QRgb focusColour = 0xff0b7a6a;
 
-/// The toolkit's own Fusion style, with a focus ring on push buttons: flat ones have none there,
+/// Qt's own Fusion style, with a focus ring on push buttons: flat ones have none there,
 /// and others show it only after a key press.
 class Style : public QProxyStyle
 {

@@ -17,7 +17,7 @@ constexpr qint64 mostShownBytes = 2048 * mebibyte;
 constexpr int bytesPerShownPixel = 4;
 constexpr int partOfMemory = 4;
 
-/// The toolkit's own limit grows with the machine, and no picture is worth more than ours.
+/// Qt's own limit grows with the machine, and no picture is worth more than ours.
 bool isShowable(QSize size)
 {
     return qint64(size.width()) * size.height() <= mostShownBytes / bytesPerShownPixel;

@@ -6,13 +6,13 @@
 class QString;
 class QWidget;
 
-/// Bounds what the toolkit decodes to a quarter of the machine's memory, so that a picture that
+/// Bounds what Qt decodes to a quarter of the machine's memory, so that a picture that
 /// unpacks to more is an unreadable file and not the end of the program.
 void limitDecodedPictures();
 
 /// The image in the regular file at `path`, its format told by its content, as the preview may
 /// show it: at most 2 GiB at 32 bits a pixel. A null pixmap when there is none. Read afresh at each
-/// call: the toolkit's own loader answers from a cache in which a file rewritten within the same
+/// call: Qt's own loader answers from a cache in which a file rewritten within the same
 /// second keeps its old picture.
 QPixmap readPicture(const QString &path);
 

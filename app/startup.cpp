@@ -27,7 +27,7 @@ void prepare(QApplication &application)
     const QString executableFolder = QCoreApplication::applicationDirPath();
     QCoreApplication::setLibraryPaths({pluginFolder(executableFolder)});
     QDir::setCurrent(bundleFolder(executableFolder));
-    // Texts need no codec: every literal is ASCII, and the toolkit reads literals as UTF-8.
+    // Texts need no codec: every literal is ASCII, and Qt reads literals as UTF-8.
     limitDecodedPictures();
     applyLook(application);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));

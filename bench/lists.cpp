@@ -81,7 +81,7 @@ private:
     QTableWidget *table;
 };
 
-/// The toolkit's table alone, in a window of the same size.
+/// Qt's table alone, in a window of the same size.
 class Bare
 {
 public:

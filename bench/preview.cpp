@@ -18,7 +18,7 @@
 
 namespace {
 
-/// The toolkit's fastest way from a JPEG file to the picture in the pane that still decodes all of
+/// Qt's fastest way from a JPEG file to the picture in the pane that still decodes all of
 /// its pixels: the quality below 50 chooses the faster of the decoder's transforms and no smoothed
 /// colours.
 double decodeAndScale(const QString &path)

@@ -1,6 +1,6 @@
 // The least that a Qt Widgets program of this kind can be: one window that shows one picture.
 //
-//   bench_minimal [text]    with one line of text, too, for which the toolkit reads its fonts
+//   bench_minimal [text]    with one line of text, too, for which Qt reads its fonts
 
 #include "firstpaint.h"
 

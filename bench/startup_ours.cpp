@@ -1,8 +1,9 @@
 // The application from its start to its first painted window.
 
+#include "startup.h"
+
 #include "firstpaint.h"
 #include "process.h"
-#include "startup.h"
 
 #include <QApplication>
 

@@ -102,7 +102,7 @@ private:
         return found == sizes.cend() ? QIcon() : entryIcon(found - sizes.cbegin());
     }
 
-    // The toolkit's own engine then shrinks the picture and greys it when disabled.
+    // Qt's own engine then shrinks the picture and greys it when disabled.
     QIcon entryIcon(qsizetype entry)
     {
         QIcon &icon = decoded[entry];

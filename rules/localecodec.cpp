@@ -7,7 +7,7 @@
 
 namespace {
 
-// The toolkit (6.4) moves the process itself to a UTF-8 locale, so the environment is asked anew.
+// Qt (6.4) moves the process itself to a UTF-8 locale, so the environment is asked anew.
 QByteArray environmentCharset()
 {
     const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);

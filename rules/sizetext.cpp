@@ -6,7 +6,7 @@
 
 namespace {
 
-/// As printf's "%14.3f" and `unit`, at a tenth of the toolkit's time: a list may get thousands.
+/// As printf's "%14.3f" and `unit`, at a tenth of Qt's time: a list may get thousands.
 QString text(double value, const char (&unit)[3])
 {
     constexpr std::ptrdiff_t width = 14;

@@ -1,5 +1,4 @@
-#ifndef TESSARO_ABOUTDIALOG_H
-#define TESSARO_ABOUTDIALOG_H
+#pragma once
 
 #include <QDialog>
 #include <QImage>
@@ -25,5 +24,3 @@ private:
     QImage ruler;
     const std::unique_ptr<Ui_AboutDialog> ui;
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef TESSARO_HEXSPINBOX_H
-#define TESSARO_HEXSPINBOX_H
+#pragma once
 
 #include <QSpinBox>
 #include <QStringList>
@@ -20,5 +19,3 @@ public:
 private:
     const QStringList units;
 };
-
-#endif

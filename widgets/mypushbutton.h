@@ -1,5 +1,4 @@
-#ifndef TESSARO_MYPUSHBUTTON_H
-#define TESSARO_MYPUSHBUTTON_H
+#pragma once
 
 #include <QColor>
 #include <QPushButton>
@@ -40,5 +39,3 @@ private:
     [[maybe_unused]] double realNumber = 1.0;
     [[maybe_unused]] qint32 integer = 0;
 };
-
-#endif

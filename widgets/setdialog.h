@@ -1,5 +1,4 @@
-#ifndef TESSARO_SETDIALOG_H
-#define TESSARO_SETDIALOG_H
+#pragma once
 
 #include <QDialog>
 
@@ -20,5 +19,3 @@ public:
 private:
     const std::unique_ptr<Ui_setDialog> ui;
 };
-
-#endif

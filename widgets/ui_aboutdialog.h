@@ -1,5 +1,4 @@
-#ifndef TESSARO_UI_ABOUTDIALOG_H
-#define TESSARO_UI_ABOUTDIALOG_H
+#pragma once
 
 #include <QString>
 
@@ -19,5 +18,3 @@ public:
     void setupUi(QDialog *AboutDialog);
     void retranslateUi(QDialog *AboutDialog);
 };
-
-#endif

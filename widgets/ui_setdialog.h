@@ -1,5 +1,4 @@
-#ifndef TESSARO_UI_SETDIALOG_H
-#define TESSARO_UI_SETDIALOG_H
+#pragma once
 
 class QDialog;
 class QPushButton;
@@ -15,5 +14,3 @@ public:
     void setupUi(QDialog *setDialog);
     void retranslateUi(QDialog *setDialog);
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef TESSARO_PCXDECODER_H
-#define TESSARO_PCXDECODER_H
+#pragma once
 
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +7,7 @@
 #include <span>
 #include <vector>
 
-/// The PCX format, from ZSoft's "Technical Reference Manual" (revision 5), without the toolkit.
+/// The PCX format, from ZSoft's "Technical Reference Manual" (revision 5), without Qt.
 /// Where that leaves a choice, pixels come out as ImageMagick 6.9.11-60 reads them, since a
 /// preview is to show what the converted document will.
 namespace pcx {
@@ -95,5 +94,3 @@ void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> ind
 void unpackColours(const Header &header, Bytes line, std::span<Colour> colours);
 
 } // namespace pcx
-
-#endif

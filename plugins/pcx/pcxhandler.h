@@ -1,5 +1,4 @@
-#ifndef TESSARO_PCXHANDLER_H
-#define TESSARO_PCXHANDLER_H
+#pragma once
 
 #include <QImageIOHandler>
 
@@ -17,5 +16,3 @@ public:
     QVariant option(ImageOption option) const override;
     bool supportsOption(ImageOption option) const override;
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef TESSARO_PCXPLUGIN_H
-#define TESSARO_PCXPLUGIN_H
+#pragma once
 
 #include <QImageIOPlugin>
 
@@ -13,5 +12,3 @@ public:
     Capabilities capabilities(QIODevice *device, const QByteArray &format) const override;
     QImageIOHandler *create(QIODevice *device, const QByteArray &format) const override;
 };
-
-#endif

@@ -152,7 +152,7 @@ void LayoutTest::thereIsNoObjectBesideTheTable()
     QStringList names;
     const auto widgets = form.window.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
-        // Compound widgets of the toolkit have unnamed parts and parts named "qt_...".
+        // Compound widgets of Qt have unnamed parts and parts named "qt_...".
         if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
             names << widget->objectName();
     }

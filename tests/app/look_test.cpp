@@ -202,7 +202,7 @@ void LookTest::currentPageButtonHasItsOwnPicture()
                              "pushButton_Security"}) {
         const QIcon icon = fixture.find<QPushButton>(name)->icon();
         const QImage current = icon.pixmap({70, 75}, QIcon::Disabled).toImage();
-        // The toolkit would grey the picture; the drawn one is coloured.
+        // Qt would grey the picture; the drawn one is coloured.
         int coloured = 0;
         for (int x = 0; x < current.width(); ++x)
             coloured += QColor(current.pixel(x, current.height() / 2)).saturation() > 20;

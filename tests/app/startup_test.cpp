@@ -1,7 +1,8 @@
 // What start-up prepares before there is a window.
 
-#include "process.h"
 #include "startup.h"
+
+#include "process.h"
 
 #include <QApplication>
 #include <QDir>

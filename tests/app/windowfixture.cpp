@@ -1,5 +1,8 @@
 #include "windowfixture.h"
 
+#include "bundlepaths.h"
+#include "childprocesses.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
@@ -9,9 +12,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProcess>
-
-#include "bundlepaths.h"
-#include "childprocesses.h"
 
 #include <csignal>
 
@@ -51,7 +51,7 @@ void WindowFixture::drop(const QList<QUrl> &urls)
 {
     QMimeData data;
     data.setUrls(urls);
-    // The toolkit hands a drop only to a widget that has accepted the drag before.
+    // Qt hands a drop only to a widget that has accepted the drag before.
     QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &enter);
     QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);

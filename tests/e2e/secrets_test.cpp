@@ -247,7 +247,7 @@ void SecretsTest::bundleIsWritableByItsOwnerAlone()
     while (files.hasNext()) {
         const QString path = files.next();
         if (QFileInfo(path).isSymLink())
-            continue; // the toolkit's plug-ins, which are the system's
+            continue; // Qt's plug-ins, which are the system's
         ++count;
         QVERIFY2((modeOf(path) & 022) == 0, qPrintable(path));
     }

@@ -1,11 +1,11 @@
+#include "pdffacts.h"
+#include "toolbench.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QTest>
 
 #include <unistd.h>
-
-#include "pdffacts.h"
-#include "toolbench.h"
 
 /// packaging/assemble-tools, and what a bundle that it has readied stands.
 class ToolAssembly : public QObject

@@ -37,7 +37,7 @@ QString imageMagick()
 
 } // namespace
 
-/// The plug-in through the toolkit's image reader, against ImageMagick's reading of the same file.
+/// The plug-in through Qt's image reader, against ImageMagick's reading of the same file.
 class TestPcxPixels : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,4 @@
-#ifndef TESSARO_TEST_PCXFILE_H
-#define TESSARO_TEST_PCXFILE_H
+#pragma once
 
 #include <QByteArray>
 
@@ -45,5 +44,3 @@ private:
         file[at + 1] = static_cast<char>(value >> 8);
     }
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef TESSARO_TEST_PIPE_H
-#define TESSARO_TEST_PIPE_H
+#pragma once
 
 #include <QByteArray>
 #include <QIODevice>
@@ -33,5 +32,3 @@ private:
     const QByteArray content;
     qint64 given = 0;
 };
-
-#endif

@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QTest>
 #include <QXmlStreamReader>
+
 #include <algorithm>
 #include <cmath>
 

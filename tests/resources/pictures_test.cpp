@@ -32,14 +32,14 @@ class TestPictures : public QObject
     Q_OBJECT
 
 private slots:
-    void showsWhatTheToolkitsIconShows_data();
-    void showsWhatTheToolkitsIconShows();
+    void showsWhatQtsIconShows_data();
+    void showsWhatQtsIconShows();
     void brokenFileShowsNothing_data();
     void brokenFileShowsNothing();
-    void pngShowsWhatTheToolkitsIconShows();
+    void pngShowsWhatQtsIconShows();
 };
 
-void TestPictures::showsWhatTheToolkitsIconShows_data()
+void TestPictures::showsWhatQtsIconShows_data()
 {
     QTest::addColumn<QString>("path");
     const QStringList names = QDir(icons).entryList({QStringLiteral("*.ico")});
@@ -48,7 +48,7 @@ void TestPictures::showsWhatTheToolkitsIconShows_data()
         QTest::newRow(qPrintable(name)) << icons + name;
 }
 
-void TestPictures::showsWhatTheToolkitsIconShows()
+void TestPictures::showsWhatQtsIconShows()
 {
     QFETCH(const QString, path);
     const QIcon lazy = iconFromFile(path);
@@ -100,7 +100,7 @@ void TestPictures::brokenFileShowsNothing()
     QVERIFY(!icon.isNull());
 }
 
-void TestPictures::pngShowsWhatTheToolkitsIconShows()
+void TestPictures::pngShowsWhatQtsIconShows()
 {
     const QString path = icons + QStringLiteral("inout3.png");
     const QString disabledPath = icons + QStringLiteral("inout3-current.png");

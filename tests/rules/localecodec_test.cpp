@@ -1,6 +1,7 @@
 // The charset that the user's locale names.
 
 #include "localecodec.h"
+
 #include "privatelocales.h"
 
 #include <QTest>

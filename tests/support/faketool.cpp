@@ -16,11 +16,6 @@
 // Without words the result is written and the exit status is 0. A missing input fails as the real
 // tools do: no result, exit status 1; so does a place that its owner may not write to, root's too.
 
-#include <linux/capability.h>
-#include <sys/prctl.h>
-#include <sys/stat.h>
-#include <sys/syscall.h>
-
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -31,8 +26,13 @@
 #include <sstream>
 #include <string>
 #include <thread>
-#include <unistd.h>
 #include <vector>
+
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace {
 

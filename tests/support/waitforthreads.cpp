@@ -1,4 +1,4 @@
-// Part of every sanitized test with a window. The toolkit scales pictures in threads of a pool; one
+// Part of every sanitized test with a window. Qt scales pictures in threads of a pool; one
 // that is just ending holds its data where the leak check at exit no longer looks, which made tests
 // fail now and then. So the program's end waits for the other threads, 10 seconds at most.
 

@@ -1,7 +1,7 @@
+#include "toolbench.h"
+
 #include <QDir>
 #include <QTest>
-
-#include "toolbench.h"
 
 /// What the program convert reads and writes, whatever the machine and the user allow.
 class ConvertPolicy : public QObject

@@ -1,3 +1,6 @@
+#include "pdffacts.h"
+#include "toolbench.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -5,9 +8,6 @@
 #include <QtEndian>
 
 #include <sys/stat.h>
-
-#include "pdffacts.h"
-#include "toolbench.h"
 
 /// What the program convert leaves behind, on success and on failure.
 class ConvertResults : public QObject

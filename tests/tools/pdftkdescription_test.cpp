@@ -1,9 +1,9 @@
-#include <QDir>
-#include <QTest>
-
 #include "pdffacts.h"
 #include "privatelocales.h"
 #include "toolbench.h"
+
+#include <QDir>
+#include <QTest>
 
 /// The four fields, from the info file as the application writes it to the finished PDF.
 class PdftkDescription : public QObject

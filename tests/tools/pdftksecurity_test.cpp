@@ -1,9 +1,9 @@
+#include "pdffacts.h"
+#include "toolbench.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QTest>
-
-#include "pdffacts.h"
-#include "toolbench.h"
 
 /// Passwords and permissions: that they arrive, and that nobody else sees the passwords.
 class PdftkSecurity : public QObject

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <memory>
-
 #include <QProcess>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <memory>
 
 /// How a program that was run to its end has ended.
 struct RunResult

@@ -1,7 +1,7 @@
+#include "toolbench.h"
+
 #include <QDir>
 #include <QTest>
-
-#include "toolbench.h"
 
 /// What the two programs make of a real tool that fails, in ways that the real ones only show on
 /// bad days: a shell script takes its place.

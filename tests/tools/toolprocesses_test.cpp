@@ -1,14 +1,15 @@
+#include "pdffacts.h"
+#include "toolbench.h"
+
 #include <QDir>
 #include <QTest>
 
 #include <csignal>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "pdffacts.h"
-#include "toolbench.h"
 
 /// Signals and endings: the real tool never outlives ours, and what is left over is cleared away.
 class ToolProcesses : public QObject

@@ -1,10 +1,10 @@
-#include <QTest>
-
 #include "convertcall.h"
 #include "convertlimits.h"
 #include "losslessinfo.h"
 #include "pdftkcall.h"
 #include "text.h"
+
+#include <QTest>
 
 using Words = std::vector<std::string>;
 using Size = unsigned long long;

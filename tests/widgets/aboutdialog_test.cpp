@@ -1,4 +1,5 @@
 #include "aboutdialog.h"
+
 #include "deployment.h"
 #include "ui_aboutdialog.h"
 

@@ -1,4 +1,5 @@
 #include "setdialog.h"
+
 #include "ui_setdialog.h"
 
 #include <QPushButton>

@@ -1,12 +1,12 @@
 #include "convertcall.h"
 
+#include "text.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
 
 #include <unistd.h>
-
-#include "text.h"
 
 namespace {
 

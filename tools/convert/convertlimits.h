@@ -1,10 +1,10 @@
 #pragma once
 
+#include "child.h"
+
 #include <chrono>
 #include <string>
 #include <vector>
-
-#include "child.h"
 
 /// What one run of ImageMagick may use of this machine.
 struct ConvertLimits

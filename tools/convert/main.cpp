@@ -1,7 +1,3 @@
-#include <limits>
-
-#include <sys/stat.h>
-
 #include "bundle.h"
 #include "convertcall.h"
 #include "convertlimits.h"
@@ -10,6 +6,10 @@
 #include "pdftitle.h"
 #include "program.h"
 #include "text.h"
+
+#include <limits>
+
+#include <sys/stat.h>
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "pdftitle.h"
 
+#include "text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -8,8 +10,6 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "text.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "losslessinfo.h"
 
+#include "text.h"
+
 #include <algorithm>
 #include <string_view>
-
-#include "text.h"
 
 namespace {
 

@@ -1,5 +1,3 @@
-#include <cstring>
-
 #include "bundle.h"
 #include "environment.h"
 #include "job.h"
@@ -7,6 +5,8 @@
 #include "pdftkcall.h"
 #include "program.h"
 #include "text.h"
+
+#include <cstring>
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "pdftkcall.h"
 
+#include "text.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
-
-#include "text.h"
 
 namespace {
 

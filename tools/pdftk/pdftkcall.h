@@ -1,10 +1,10 @@
 #pragma once
 
+#include "child.h"
+
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "child.h"
 
 /// A call of the application's shape: IN [update_info FILE] output OUT, then passwords and
 /// permissions.

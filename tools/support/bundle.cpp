@@ -1,14 +1,14 @@
 #include "bundle.h"
 
+#include "diagnosis.h"
+#include "text.h"
+
 #include <climits>
 #include <optional>
 #include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
-#include "text.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 #include "calllog.h"
 
+#include "filedescriptor.h"
+#include "text.h"
+
 #include <array>
 #include <cstdlib>
 #include <ctime>
 
 #include <fcntl.h>
 #include <unistd.h>
-
-#include "filedescriptor.h"
-#include "text.h"
 
 namespace {
 

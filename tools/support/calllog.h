@@ -1,10 +1,10 @@
 #pragma once
 
+#include "outcome.h"
+
 #include <chrono>
 #include <string>
 #include <vector>
-
-#include "outcome.h"
 
 struct CallRecord
 {

@@ -1,5 +1,8 @@
 #include "child.h"
 
+#include "diagnosis.h"
+#include "filedescriptor.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -11,9 +14,6 @@
 #include <sys/signalfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
-#include "filedescriptor.h"
 
 namespace {
 

@@ -1,5 +1,9 @@
 #include "job.h"
 
+#include "diagnosis.h"
+#include "filedescriptor.h"
+#include "text.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -8,10 +12,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
-#include "filedescriptor.h"
-#include "text.h"
 
 namespace {
 

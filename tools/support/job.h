@@ -1,13 +1,13 @@
 #pragma once
 
+#include "child.h"
+#include "outcome.h"
+#include "privatefolder.h"
+
 #include <functional>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "child.h"
-#include "outcome.h"
-#include "privatefolder.h"
 
 /// A run of a real tool that makes one PDF. The tool works in a private folder beside the target,
 /// where every file has a short and plain name; only a whole PDF is moved over the target, and in

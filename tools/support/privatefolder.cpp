@@ -1,5 +1,7 @@
 #include "privatefolder.h"
 
+#include "diagnosis.h"
+
 #include <cerrno>
 #include <memory>
 
@@ -8,8 +10,6 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "filedescriptor.h"
+
+#include <string>
 
 /// A folder of one call, mode 0700, named ".tessaro-<number>" inside a given folder, and removed
 /// with all files in it at the end of the call.

@@ -1,13 +1,13 @@
 #include "program.h"
 
+#include "calllog.h"
+#include "diagnosis.h"
+#include "text.h"
+
 #include <chrono>
 #include <utility>
 
 #include <unistd.h>
-
-#include "calllog.h"
-#include "diagnosis.h"
-#include "text.h"
 
 namespace {
 

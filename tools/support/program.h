@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "child.h"
 #include "outcome.h"
+
+#include <string>
+#include <vector>
 
 using Arguments = std::vector<std::string>;
 

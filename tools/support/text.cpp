@@ -1,17 +1,17 @@
 #include "text.h"
 
+#include "diagnosis.h"
+#include "filedescriptor.h"
+
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <clocale>
 
-#include <climits>
 #include <fcntl.h>
 #include <iconv.h>
 #include <langinfo.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
-#include "filedescriptor.h"
 
 namespace {
 
