@@ -38,6 +38,8 @@ public:
     QString getInisetting();
     /// Shows the picture for an empty list.
     void setdefaultpreview();
+    /// Appends files to the list and makes its first row the current one, whose preview shows.
+    void addFiles(const QStringList &paths);
 
 public slots:
     void runClicked();

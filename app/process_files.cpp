@@ -89,6 +89,13 @@ void Process::setopenfile()
     if (paths.isEmpty())
         return;
     inputFolder.write(QFileInfo(paths.first()).absolutePath());
+    addFiles(paths);
+}
+
+void Process::addFiles(const QStringList &paths)
+{
+    if (paths.isEmpty())
+        return;
     appendFiles(paths);
     QTableWidget *table = ui->inputfiletableWidget;
     table->selectionModel()->setCurrentIndex(table->model()->index(0, pathColumn),

@@ -1,0 +1,67 @@
+#include "startarguments.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QUrl>
+
+namespace {
+
+QString inWords(const char *text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(
+        inWords(QT_TRANSLATE_NOOP("CommandLine", "Turns images into PDF documents.")));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"),
+        inWords(QT_TRANSLATE_NOOP("CommandLine", "Images to list when the window opens.")),
+        QStringLiteral("[FILE ...]"));
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                      inWords(QT_TRANSLATE_NOOP("CommandLine", "Show this help and end."))});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
+                      inWords(QT_TRANSLATE_NOOP("CommandLine", "Show the version and end."))});
+}
+
+QString localPath(const QUrl &url)
+{
+    const bool isHere = url.host().isEmpty() || url.host() == QLatin1String("localhost");
+    return isHere && url.isLocalFile() ? url.path(QUrl::FullyDecoded) : QString();
+}
+
+} // namespace
+
+StartArguments readStartArguments(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    parser.parse(arguments);
+    return {parser.isSet(QStringLiteral("help")), parser.isSet(QStringLiteral("version")),
+            parser.unknownOptionNames(), parser.positionalArguments()};
+}
+
+QString startHelp()
+{
+    QCommandLineParser parser;
+    describe(parser);
+    return parser.helpText();
+}
+
+QString startFile(const QString &argument, const QString &folder)
+{
+    const bool isUrl = argument.startsWith(QLatin1String("file:"), Qt::CaseInsensitive);
+    QString path = isUrl ? localPath(QUrl(argument)) : argument;
+    if (path.isEmpty() || QDir::isAbsolutePath(path))
+        return path;
+    QString start = folder;
+    while (path.startsWith(QLatin1String("./")) || path.startsWith(QLatin1String("../"))) {
+        const qsizetype slash = path.indexOf(QLatin1Char('/'));
+        start = QDir::cleanPath(start + QLatin1Char('/') + path.left(slash));
+        path.remove(0, slash + 1);
+    }
+    return QDir(start).filePath(path);
+}

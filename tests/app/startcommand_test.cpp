@@ -1,0 +1,116 @@
+// Files that the program is started with: which of them are listed, and what the window shows.
+
+#include "startcommand.h"
+#include "windowfixture.h"
+
+#include <QFrame>
+#include <QImage>
+#include <QTableWidget>
+#include <QTemporaryFile>
+#include <QUrl>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+/// Lines that `work` writes to standard error.
+template <class Work>
+QStringList complaintsOf(const Work &work)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("no temporary file");
+    std::fflush(stderr);
+    const int kept = dup(STDERR_FILENO);
+    dup2(file.handle(), STDERR_FILENO);
+    work();
+    std::fflush(stderr);
+    dup2(kept, STDERR_FILENO);
+    close(kept);
+    file.seek(0);
+    return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class StartCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void existingFilesAreTakenInOrder();
+    void eachMissingFileIsOneLine();
+    void unknownOptionIsRefused();
+    void firstRowIsCurrentAndItsPreviewShows();
+    void noFilesChangeNothing();
+};
+
+void StartCommandTest::existingFilesAreTakenInOrder()
+{
+    WindowFixture fixture;
+    const QString b = fixture.makeFile("b.png"), a = fixture.makeFile("a b.png");
+    std::optional<QStringList> files;
+    const QStringList complaints = complaintsOf([&] {
+        files = startFiles({"tessaro", "b.png", QUrl::fromLocalFile(a).toString(), "b.png", "."},
+                           fixture.inputPath("."));
+    });
+    QCOMPARE(complaints, QStringList());
+    QCOMPARE(files.value().mid(0, 3),
+             QStringList({fixture.inputPath("./b.png"), a, fixture.inputPath("./b.png")}));
+    QCOMPARE(files->size(), 4); // a folder is listed as a dropped one is
+}
+
+void StartCommandTest::eachMissingFileIsOneLine()
+{
+    WindowFixture fixture;
+    const QString there = fixture.makeFile("there.png");
+    std::optional<QStringList> files;
+    const QStringList complaints = complaintsOf([&] {
+        files = startFiles({"tessaro", "no.png", there, "no\nname", "file://other/a.png"}, "/none");
+    });
+    QCOMPARE(files.value(), QStringList(there));
+    QCOMPARE(complaints, QStringList({"tessaro: There is no file /none/no.png.",
+                                      "tessaro: There is no file /none/no?name.",
+                                      "tessaro: There is no file file://other/a.png."}));
+}
+
+void StartCommandTest::unknownOptionIsRefused()
+{
+    std::optional<QStringList> files;
+    const QStringList complaints = complaintsOf([&] {
+        files = startFiles({"tessaro", "--colour", "/"}, "/");
+    });
+    QVERIFY(!files.has_value());
+    QCOMPARE(complaints, QStringList("tessaro: There is no option colour; see --help."));
+}
+
+void StartCommandTest::firstRowIsCurrentAndItsPreviewShows()
+{
+    WindowFixture fixture;
+    QImage red(20, 10, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    const QString first = fixture.inputPath("first.bmp");
+    QVERIFY(red.save(first));
+    fixture.window.addFiles({first, fixture.makeFile("second.png")});
+    const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QCOMPARE(table->rowCount(), 2);
+    QCOMPARE(table->currentRow(), 0);
+    QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
+    fixture.window.show();
+    auto *frame = fixture.find<QFrame>("previewframe");
+    QTRY_COMPARE(frame->grab().toImage().pixelColor(frame->rect().center()), QColor(Qt::red));
+}
+
+void StartCommandTest::noFilesChangeNothing()
+{
+    WindowFixture fixture;
+    fixture.window.addFiles({});
+    const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    QCOMPARE(table->currentRow(), -1);
+    QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
+}
+
+QTEST_MAIN(StartCommandTest)
+#include "startcommand_test.moc"

@@ -1,0 +1,101 @@
+// What the program is started with: options, files, and what a file's name means.
+
+#include "startarguments.h"
+
+#include <QTest>
+
+class StartArgumentsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void optionsAndFilesAreToldApart_data();
+    void optionsAndFilesAreToldApart();
+    void helpNamesEveryOption();
+    void namesAreSeenFromTheFolder_data();
+    void namesAreSeenFromTheFolder();
+};
+
+void StartArgumentsTest::optionsAndFilesAreToldApart_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("wishes");
+    QTest::addColumn<QStringList>("files");
+    using Words = QStringList;
+    QTest::newRow("nothing") << Words() << Words() << Words();
+    QTest::newRow("files in their order")
+        << Words{"b.png", "a b.png", "b.png"} << Words() << Words{"b.png", "a b.png", "b.png"};
+    QTest::newRow("help") << Words{"--help"} << Words{"help"} << Words();
+    QTest::newRow("short help") << Words{"-h"} << Words{"help"} << Words();
+    QTest::newRow("version") << Words{"--version"} << Words{"version"} << Words();
+    QTest::newRow("short version") << Words{"-v"} << Words{"version"} << Words();
+    QTest::newRow("help after a file")
+        << Words{"a.png", "--help"} << Words{"help"} << Words{"a.png"};
+    QTest::newRow("another option")
+        << Words{"--colour", "a.png"} << Words{"colour"} << Words{"a.png"};
+    QTest::newRow("one of Qt's options") << Words{"-style"} << Words{"style"} << Words();
+    QTest::newRow("a word with the letter of help") << Words{"-sh"} << Words{"sh"} << Words();
+    QTest::newRow("files after two dashes") << Words{"a.png", "--", "--help", "-b.png"} << Words()
+                                            << Words{"a.png", "--help", "-b.png"};
+    QTest::newRow("a dash alone") << Words{"-"} << Words() << Words{"-"};
+}
+
+void StartArgumentsTest::optionsAndFilesAreToldApart()
+{
+    QFETCH(QStringList, arguments);
+    const StartArguments read = readStartArguments(QStringList("tessaro") + arguments);
+    QStringList wishes = read.unknownOptions;
+    if (read.wantsHelp)
+        wishes << "help";
+    if (read.wantsVersion)
+        wishes << "version";
+    QTEST(wishes, "wishes");
+    QTEST(read.files, "files");
+}
+
+void StartArgumentsTest::helpNamesEveryOption()
+{
+    const QString help = startHelp();
+    for (const char *word : {"[FILE ...]", "-h, --help", "-v, --version", "Images to list"})
+        QVERIFY2(help.contains(word), qPrintable(help));
+}
+
+void StartArgumentsTest::namesAreSeenFromTheFolder_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("path");
+    const auto row = [](const char *name, const char *argument, const char *path,
+                        const char *folder = "/home/u") {
+        QTest::newRow(name) << QString(argument) << QString(folder) << QString(path);
+    };
+    row("a name", "a.png", "/home/u/a.png");
+    row("a name in the root folder", "a.png", "/a.png", "/");
+    row("a folder below", "in/a.png", "/home/u/in/a.png");
+    row("this folder", "./a.png", "/home/u/a.png");
+    row("the folder above", "../a.png", "/home/a.png");
+    row("this folder and the one above", "./../v/a.png", "/home/v/a.png");
+    row("above a folder that may be a link", "in/../a.png", "/home/u/in/../a.png");
+    row("a name with a blank and an umlaut", "a \xc3\xa4.png", "/home/u/a \xc3\xa4.png");
+    row("a name that looks like a URL's", "a%20b#c?.png", "/home/u/a%20b#c?.png");
+    row("an absolute path", "/tmp/../a.png", "/tmp/../a.png");
+    row("a URL", "file:///tmp/a%20b%23c.png", "/tmp/a b#c.png");
+    row("a URL in capitals", "FILE:///tmp/a.png", "/tmp/a.png");
+    row("a URL of this machine", "file://localhost/tmp/a.png", "/tmp/a.png");
+    row("a short URL", "file:/tmp/a.png", "/tmp/a.png");
+    row("a URL below the folder", "file:in/a.png", "/home/u/in/a.png");
+    row("a URL of another machine", "file://other/tmp/a.png", "");
+    row("a URL of nothing", "file:", "");
+    row("another kind of URL is a name", "http://a/b.png", "/home/u/http://a/b.png");
+    row("nothing", "", "");
+}
+
+void StartArgumentsTest::namesAreSeenFromTheFolder()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, folder);
+    QTEST(startFile(argument, folder), "path");
+}
+
+QTEST_GUILESS_MAIN(StartArgumentsTest)
+#include "startarguments_test.moc"
