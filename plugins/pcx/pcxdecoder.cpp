@@ -9,19 +9,19 @@ namespace pcx {
 namespace {
 
 constexpr std::uint8_t fileMark = 0x0A;
-constexpr std::uint8_t paletteMark = 0x0C;
 constexpr int longestRun = 63;
 constexpr std::uint8_t lowestCount = 0xC0;
 constexpr std::size_t bufferSize = 65536;
 constexpr std::size_t headerPaletteSize = 16;
 constexpr std::size_t headerPaletteAt = 16;
+constexpr int blackVersion = 3; // what the header's colours do not reach is black
 constexpr int newestVersion = 5;
 
 constexpr Colour opaque = 0xFF000000;
 constexpr Colour white = 0xFFFFFFFF;
 
 // Version 1 was never given out.
-constexpr std::array versions{0, 2, 3, 4, newestVersion};
+constexpr std::array versions{0, 2, blackVersion, 4, newestVersion};
 constexpr std::array pixelBits{1, 2, 4, 8};
 
 template <typename Values>
@@ -52,14 +52,6 @@ std::vector<Colour> readColours(Bytes bytes, std::size_t count)
     for (std::size_t i = 0; i < 3 * count; i += 3)
         colours.push_back(opaqueColour(bytes[i], bytes[i + 1], bytes[i + 2]));
     return colours;
-}
-
-std::vector<Colour> greyRamp()
-{
-    std::vector<Colour> greys;
-    for (unsigned grey = 0; grey < 256; ++grey)
-        greys.push_back(opaqueColour(grey, grey, grey));
-    return greys;
 }
 
 bool isReadable(const Header &header)
@@ -143,16 +135,16 @@ std::optional<Header> parseHeader(Bytes bytes)
 }
 
 LineDecoder::LineDecoder(const Header &header, Refill source)
-    : refill(std::move(source))
-    , runLength(header.runLength)
-    , buffer(bufferSize)
+    : m_refill(std::move(source))
+    , m_runLength(header.runLength)
+    , m_buffer(bufferSize)
 {
 }
 
 bool LineDecoder::next(std::span<std::uint8_t> line)
 {
     while (!line.empty()) {
-        const std::size_t count = runLeft > 0 ? takeRun(line) : takeValues(line);
+        const std::size_t count = m_runLeft > 0 ? takeRun(line) : takeValues(line);
         line = line.subspan(count);
         if (count == 0 && !startRun())
             return false;
@@ -163,9 +155,9 @@ bool LineDecoder::next(std::span<std::uint8_t> line)
 /// Fills `line` from the run that has begun; returns how far it goes.
 std::size_t LineDecoder::takeRun(std::span<std::uint8_t> line)
 {
-    const std::size_t count = std::min(runLeft, line.size());
-    std::fill_n(line.begin(), count, runValue);
-    runLeft -= count;
+    const std::size_t count = std::min(m_runLeft, line.size());
+    std::fill_n(line.begin(), count, m_runValue);
+    m_runLeft -= count;
     return count;
 }
 
@@ -173,22 +165,18 @@ std::size_t LineDecoder::takeRun(std::span<std::uint8_t> line)
 /// returns how many there were.
 std::size_t LineDecoder::takeValues(std::span<std::uint8_t> line)
 {
-    const Bytes ready = Bytes(buffer).subspan(position, std::min(end - position, line.size()));
-    const auto stop = runLength ? std::find_if(ready.begin(), ready.end(), isCount) : ready.end();
+    const Bytes ready =
+        Bytes(m_buffer).subspan(m_position, std::min(m_end - m_position, line.size()));
+    const auto stop = m_runLength ? std::find_if(ready.begin(), ready.end(), isCount) : ready.end();
     std::copy(ready.begin(), stop, line.begin());
     const auto count = static_cast<std::size_t>(stop - ready.begin());
-    position += count;
+    m_position += count;
     return count;
 }
 
 bool LineDecoder::hasRunLeft() const
 {
-    return runLeft > 0;
-}
-
-std::uint64_t LineDecoder::consumed() const
-{
-    return dropped + position;
+    return m_runLeft > 0;
 }
 
 std::size_t LineDecoder::takeRaw(std::span<std::uint8_t> bytes)
@@ -204,25 +192,24 @@ std::size_t LineDecoder::takeRaw(std::span<std::uint8_t> bytes)
 bool LineDecoder::startRun()
 {
     std::optional<std::uint8_t> byte = takeByte();
-    runLeft = 1;
-    if (byte && runLength && isCount(*byte)) {
-        runLeft = *byte & longestRun;
+    m_runLeft = 1;
+    if (byte && m_runLength && isCount(*byte)) {
+        m_runLeft = *byte & longestRun;
         byte = takeByte();
     }
-    runValue = byte.value_or(0);
+    m_runValue = byte.value_or(0);
     return byte.has_value();
 }
 
 std::optional<std::uint8_t> LineDecoder::takeByte()
 {
-    if (position == end) {
-        dropped += end;
-        position = 0;
-        end = refill(buffer);
-        if (end == 0)
+    if (m_position == m_end) {
+        m_position = 0;
+        m_end = m_refill(m_buffer);
+        if (m_end == 0)
             return std::nullopt;
     }
-    return buffer[position++];
+    return m_buffer[m_position++];
 }
 
 std::vector<Colour> colourTable(const Header &header, Bytes endPalette)
@@ -231,12 +218,11 @@ std::vector<Colour> colourTable(const Header &header, Bytes endPalette)
     // A single plane of single bits has ink and paper, whatever its palette holds.
     if (count == 2)
         return {white, opaque};
-    if (header.wantsEndPalette() && endPalette.size() == endPaletteSize &&
-        endPalette.front() == paletteMark)
+    if (!endPalette.empty())
         return readColours(endPalette.subspan(1), count);
-    if (count > headerPaletteSize)
-        return greyRamp();
-    return {header.palette.begin(), header.palette.begin() + static_cast<std::ptrdiff_t>(count)};
+    std::vector<Colour> colours = header.palette;
+    colours.resize(count, header.version == blackVersion ? opaque : colours.front());
+    return colours;
 }
 
 void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> indexes)

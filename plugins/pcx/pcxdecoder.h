@@ -18,7 +18,7 @@ using Bytes = std::span<const std::uint8_t>;
 using Colour = std::uint32_t;
 
 inline constexpr std::size_t headerSize = 128;
-/// The 256-colour palette at the end of a file: a mark and 256 colours of three bytes.
+/// The palette behind the lines: a mark, which nobody checks, and 256 colours of three bytes.
 inline constexpr std::size_t endPaletteSize = 1 + 256 * 3;
 
 /// What a valid header says. Width and height are in pixels and at least 1; a line of one plane
@@ -38,7 +38,7 @@ struct Header
     std::size_t lineSize() const;
     /// True for pixels that are colours of their own, false for those that index a palette.
     bool hasComponents() const;
-    /// True if the colours stand at the file's end when it has any there.
+    /// True if the colours stand behind the lines; a file that ends before them cannot be read.
     bool wantsEndPalette() const;
     /// The fewest bytes that the encoded lines can take.
     std::uint64_t smallestDataSize() const;
@@ -55,16 +55,14 @@ using Refill = std::function<std::size_t(std::span<std::uint8_t>)>;
 class LineDecoder
 {
 public:
-    LineDecoder(const Header &header, Refill refill);
+    LineDecoder(const Header &header, Refill source);
 
     /// Decodes the next line into `line`, of `lineSize()` bytes. A run may reach over the end of a
     /// line. False if the data ends early.
     bool next(std::span<std::uint8_t> line);
     /// True if the last run was longer than the lines that were asked for.
     bool hasRunLeft() const;
-    /// Bytes of the file used up since the header.
-    std::uint64_t consumed() const;
-    /// Copies the bytes that follow; returns how many there were.
+    /// Copies the bytes that follow the lines; returns how many there were.
     std::size_t takeRaw(std::span<std::uint8_t> bytes);
 
 private:
@@ -73,18 +71,19 @@ private:
     std::size_t takeValues(std::span<std::uint8_t> line);
     std::optional<std::uint8_t> takeByte();
 
-    Refill refill;
-    bool runLength;
-    std::vector<std::uint8_t> buffer;
-    std::size_t position = 0;
-    std::size_t end = 0;
-    std::uint64_t dropped = 0; // bytes of the buffers before this one
-    std::size_t runLeft = 0;
-    std::uint8_t runValue = 0;
+    Refill m_refill;
+    bool m_runLength;
+    std::vector<std::uint8_t> m_buffer;
+    std::size_t m_position = 0;
+    std::size_t m_end = 0;
+    std::size_t m_runLeft = 0;
+    std::uint8_t m_runValue = 0;
 };
 
 /// Colours of the indexes of a picture without components: as many as there are index values.
-/// `endPalette` is the file's last `endPaletteSize` bytes, or empty.
+/// `endPalette` is what stands behind the lines: `endPaletteSize` bytes where they are wanted,
+/// else nothing. An index that the header's 16 colours do not reach is black in version 3 and the
+/// first colour in the others, as ImageMagick 6.9.11 has it.
 std::vector<Colour> colourTable(const Header &header, Bytes endPalette);
 
 /// Palette indexes of one decoded line, for a picture without components; `indexes` has the width.

@@ -63,29 +63,15 @@ bool readLines(const pcx::Header &header, pcx::LineDecoder &lines, QImage &pictu
     return !lines.hasRunLeft();
 }
 
-/// The last bytes of the file where the lines have left that many; a device that cannot seek has
-/// its palette straight after the lines. `start` is the device's position after the header.
-std::vector<std::uint8_t> endPalette(QIODevice &device, qint64 start, pcx::LineDecoder &lines)
+/// Gives an indexed picture its colours; false if the file ends before them.
+bool setColours(const pcx::Header &header, pcx::LineDecoder &lines, QImage &picture)
 {
-    std::vector<std::uint8_t> palette(pcx::endPaletteSize);
-    if (device.isSequential()) {
-        palette.resize(lines.takeRaw(palette));
-        return palette;
-    }
-    const qint64 at = device.size() - static_cast<qint64>(pcx::endPaletteSize);
-    const bool found = at >= start + static_cast<qint64>(lines.consumed()) && device.seek(at);
-    palette.resize(found ? readInto(device, palette) : 0);
-    return palette;
-}
-
-QList<QRgb> colourTable(const pcx::Header &header, QIODevice &device, qint64 start,
-                        pcx::LineDecoder &lines)
-{
-    std::vector<std::uint8_t> palette;
-    if (header.wantsEndPalette())
-        palette = endPalette(device, start, lines);
+    std::vector<std::uint8_t> palette(header.wantsEndPalette() ? pcx::endPaletteSize : 0);
+    if (lines.takeRaw(palette) < palette.size())
+        return false;
     const std::vector<pcx::Colour> colours = pcx::colourTable(header, palette);
-    return {colours.begin(), colours.end()};
+    picture.setColorTable({colours.begin(), colours.end()});
+    return true;
 }
 
 } // namespace
@@ -110,17 +96,15 @@ bool PcxHandler::read(QImage *image)
         return false;
     QIODevice &file = *device();
     file.skip(pcx::headerSize);
-    const qint64 start = file.pos();
     QImage picture;
     if (isTooShort(*header, file) || !allocateImage(sizeOf(*header), formatOf(*header), &picture))
         return false;
 
     pcx::LineDecoder lines(
         *header, [&file](std::span<std::uint8_t> bytes) { return readInto(file, bytes); });
-    if (!readLines(*header, lines, picture))
+    if (!readLines(*header, lines, picture) ||
+        (!header->hasComponents() && !setColours(*header, lines, picture)))
         return false;
-    if (!header->hasComponents())
-        picture.setColorTable(colourTable(*header, file, start, lines));
     *image = picture;
     return true;
 }

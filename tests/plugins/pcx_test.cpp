@@ -106,19 +106,31 @@ void TestPcx::givesThePixelsOfTheFile_data()
     row("planes of more bits are read as single bits",
         {.version = 3, .bits = 4, .planes = 3, .right = 1, .data = hex("4000 8000 4000")},
         {0xFF012020, 0xFF015050});
-    row("eight bits take the colours at the file's end", twoByTwo(hex("0102 0304") + endPalette()),
+    row("eight bits take the colours behind the lines", twoByTwo(hex("0102 0304") + endPalette()),
         {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
-    row("the colours are at the very end, whatever stands before them",
-        twoByTwo(hex("0102 0304") + "something" + endPalette()),
+    row("the colours follow the lines at once, whatever stands behind them",
+        twoByTwo(hex("0102 0304") + endPalette() + "something"),
         {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
-    row("without a mark there are no colours at the end, and the bytes are greys",
-        twoByTwo(hex("0102 0304") + endPalette('\x0D')),
-        {0xFF010101, 0xFF020202, 0xFF030303, 0xFF040404});
-    row("bytes of the picture are not taken for the colours at the end",
-        {.encoding = 0, .planes = 1, .bottom = 0, .bytesPerLine = 769, .data = endPalette()},
-        {0xFF0C0C0C});
-    row("before version 5 there were no colours at the end",
-        {.version = 3, .planes = 1, .data = hex("0700") + endPalette()}, {0xFF070707});
+    row("nobody checks the mark before the colours", twoByTwo(hex("0102 0304") + endPalette('x')),
+        {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
+    row("in version 3 the header's colours are followed by black",
+        {.version = 3,
+         .planes = 1,
+         .right = 2,
+         .bytesPerLine = 4,
+         .data = hex("0710 C1FF 00") + endPalette()},
+        {0xFF017070, 0xFF000000, 0xFF000000});
+    for (const int version : {0, 2, 4}) {
+        const QByteArray name = "in version " + QByteArray::number(version) +
+                                " the first colour stands for those that the header lacks";
+        row(name.constData(),
+            {.version = version,
+             .planes = 1,
+             .right = 2,
+             .bytesPerLine = 4,
+             .data = hex("0710 C1FF 00") + endPalette()},
+            {0xFF017070, 0xFF010000, 0xFF010000});
+    }
     row("three planes of eight bits are red, green and blue",
         {.right = 1, .data = hex("0102 0304 0506")}, {0xFF010305, 0xFF020406});
     row("a fourth plane of eight bits is opacity",
@@ -129,7 +141,7 @@ void TestPcx::givesThePixelsOfTheFile_data()
         {0xFF090909, 0xFF090909, 0xFF090909, 0xFF090909});
     row("the longest runs and nothing else",
         {.version = 3, .planes = 1, .right = 125, .bytesPerLine = 126, .data = hex("FF07 FF07")},
-        Pixels(126, 0xFF070707));
+        Pixels(126, 0xFF017070));
     row("a count of zero is a run of nothing", {.data = hex("C0FF 0100 C0FF 0200 0300")},
         {0xFF010203});
     row("without run lengths a high byte is itself", {.encoding = 0, .data = hex("FF00 C100 C500")},
@@ -203,6 +215,11 @@ void TestPcx::readsNothingFromADamagedFile_data()
     row("no data", {.data = ""});
     row("a count without its value", {.data = hex("01000200C2")});
     row("a run past the end", {.data = hex("010002000300").first(4) + hex("C303")});
+    row("a picture that ends before its colours",
+        twoByTwo(hex("0102 0304") + endPalette().chopped(1)));
+    row("a picture without its colours", twoByTwo(hex("0102 0304")));
+    row("a palette whose bytes were used up by the lines",
+        {.encoding = 0, .planes = 1, .bottom = 0, .bytesPerLine = 769, .data = endPalette()});
     row("less data than without run lengths", {.encoding = 0, .data = hex("0100020003")});
     row("the largest size and hardly any data",
         {.right = 65534, .bottom = 65535, .bytesPerLine = 65535, .data = QByteArray(5000, '\xFF')});
