@@ -11,11 +11,13 @@ namespace {
 
 constexpr int pressedDarkness = 250; // per cent
 
-/// The picture in the file at exactly `path`, told by its content; null when there is none.
+/// The picture in the file at exactly `path`, told by its content; null when there is none, as
+/// for an empty path.
 QPixmap pixmapFromFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // Qt warns of a file without a name.
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
@@ -70,9 +72,9 @@ QColor mypushbutton::stateColour() const
     const QColor dark(50, 50, 50, 255);
     QColor colour = dark;
     if (isEnabled()) {
-        colour = hovered ? hoverColour : normalColour;
-        if (pressed)
-            colour = hoverColour.darker(pressedDarkness);
+        colour = m_hovered ? m_hoverColour : m_normalColour;
+        if (m_pressed)
+            colour = m_hoverColour.darker(pressedDarkness);
     }
     colour = dark;
     return colour;
@@ -80,35 +82,35 @@ QColor mypushbutton::stateColour() const
 
 QPixmap mypushbutton::currentPixmap() const
 {
-    if (!pressed && !icon().isNull())
+    if (!m_pressed && !icon().isNull())
         return icon().pixmap(iconSize(), QIcon::Normal, QIcon::Off);
     return pixmapFromFile(text());
 }
 
 void mypushbutton::mousePressEvent(QMouseEvent *event)
 {
-    pressed = true;
+    m_pressed = true;
     repaint();
     QAbstractButton::mousePressEvent(event);
 }
 
 void mypushbutton::mouseReleaseEvent(QMouseEvent *event)
 {
-    pressed = false;
+    m_pressed = false;
     repaint();
     QAbstractButton::mouseReleaseEvent(event);
 }
 
 void mypushbutton::enterEvent(QEnterEvent *event)
 {
-    hovered = true;
+    m_hovered = true;
     repaint();
     QWidget::enterEvent(event);
 }
 
 void mypushbutton::leaveEvent(QEvent *event)
 {
-    hovered = false;
+    m_hovered = false;
     repaint();
     QWidget::leaveEvent(event);
 }

@@ -30,12 +30,12 @@ private:
     QColor stateColour() const;
     QPixmap currentPixmap() const;
 
-    bool hovered = false;
-    bool pressed = false;
-    QColor normalColour = Qt::gray;
-    QColor hoverColour = Qt::lightGray;
+    bool m_hovered = false;
+    bool m_pressed = false;
+    QColor m_normalColour = Qt::gray;
+    QColor m_hoverColour = Qt::lightGray;
     // Kept with the button's state for the forms that may use it; the painting reads none of them.
-    [[maybe_unused]] QColor thirdColour = Qt::black;
-    [[maybe_unused]] double realNumber = 1.0;
-    [[maybe_unused]] qint32 integer = 0;
+    [[maybe_unused]] QColor m_thirdColour = Qt::black;
+    [[maybe_unused]] double m_realNumber = 1.0;
+    [[maybe_unused]] qint32 m_integer = 0;
 };

@@ -3,6 +3,7 @@
 #include <QEnterEvent>
 #include <QImage>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -251,6 +252,7 @@ void TestMyPushButton::paintsNothingWithoutAPicture()
     QFETCH(const bool, hasIcon);
     QFETCH(const bool, isPressed);
     QFETCH(const QString, text);
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     mypushbutton button(hasIcon ? icon() : QIcon(), text);
     button.resize(40, 40);
     if (isPressed)
