@@ -135,16 +135,17 @@ void Process::setpushenable()
     ui->pushButton_Inout->setEnabled(true);
 }
 
-void Process::showPage(int index, QPushButton *button)
+/// The disabled button marks the page shown.
+void Process::markPage(QPushButton *button)
 {
-    ui->stackedWidget_dialog->setCurrentIndex(index);
     setpushenable();
-    button->setEnabled(false); // the disabled button marks the page shown
+    button->setEnabled(false);
 }
 
 void Process::on_pushButton_Inout_clicked()
 {
-    showPage(0, ui->pushButton_Inout);
+    ui->stackedWidget_dialog->setCurrentIndex(0);
+    markPage(ui->pushButton_Inout);
 }
 
 void Process::on_pushButton_left_clicked()
@@ -154,20 +155,23 @@ void Process::on_pushButton_left_clicked()
 
 void Process::on_pushButton_ImageSetting_clicked()
 {
+    ui->stackedWidget_dialog->setCurrentIndex(1);
     ui->pushButton_ImageSetting->setChecked(true);
-    showPage(1, ui->pushButton_ImageSetting);
+    markPage(ui->pushButton_ImageSetting);
     pageindex = 1;
 }
 
 void Process::on_pushButton_PDFSetting_clicked()
 {
-    showPage(2, ui->pushButton_PDFSetting);
+    ui->stackedWidget_dialog->setCurrentIndex(2);
+    markPage(ui->pushButton_PDFSetting);
     pageindex = 2;
 }
 
 void Process::on_pushButton_Security_clicked()
 {
-    showPage(3, ui->pushButton_Security);
+    ui->stackedWidget_dialog->setCurrentIndex(3);
+    markPage(ui->pushButton_Security);
     pageindex = 3;
 }
 

@@ -117,7 +117,7 @@ private:
     void connectControls();
     void styleFileTable();
     void setWindowBackground();
-    void showPage(int index, QPushButton *button);
+    void markPage(QPushButton *button);
 
     void appendFiles(const QStringList &paths);
     void setFile(int row, const QString &path);

@@ -20,6 +20,29 @@ QString stateOf(WindowFixture &fixture)
         .arg(ProcessProbe::pageIndex(fixture.window));
 }
 
+/// Calls `note` at each event of a type that comes to a widget.
+class EventLog : public QObject
+{
+public:
+    EventLog(QObject *target, QEvent::Type eventType, std::function<void()> noteFunction)
+        : m_type(eventType)
+        , m_note(std::move(noteFunction))
+    {
+        target->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject * /*target*/, QEvent *event) override
+    {
+        if (event->type() == m_type)
+            m_note();
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    std::function<void()> m_note;
+};
+
 } // namespace
 
 class NavigationTest : public QObject
@@ -33,6 +56,8 @@ private slots:
     void clicksLeadToTheirPages();
     void disabledButtonCannotBeClicked();
     void imageButtonStaysUncheckable();
+    void pageIsShownBeforeItsButtonChanges_data();
+    void pageIsShownBeforeItsButtonChanges();
 };
 
 void NavigationTest::slotsLeadToTheirPages_data()
@@ -139,6 +164,38 @@ void NavigationTest::imageButtonStaysUncheckable()
     fixture.click("pushButton_ImageSetting");
     QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isCheckable());
     QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isChecked());
+}
+
+void NavigationTest::pageIsShownBeforeItsButtonChanges_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<int>("page");
+    QTest::newRow("image") << QByteArray("ImageSetting") << 1;
+    QTest::newRow("description") << QByteArray("PDFSetting") << 2;
+    QTest::newRow("security") << QByteArray("Security") << 3;
+}
+
+void NavigationTest::pageIsShownBeforeItsButtonChanges()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(int, page);
+    WindowFixture fixture;
+    auto *pushButton = fixture.find<QPushButton>("pushButton_" + button);
+    auto *pages = fixture.find<QStackedWidget>("stackedWidget_dialog");
+    QStringList changes;
+    connect(pages, &QStackedWidget::currentChanged, this,
+            [&changes](int index) { changes << QStringLiteral("page %1").arg(index); });
+    pushButton->setCheckable(true); // or being checked would not show
+    pushButton->setChecked(false);
+    connect(pushButton, &QPushButton::toggled, this, [&changes] { changes << "checked"; });
+    EventLog disabling(pushButton, QEvent::EnabledChange, [&changes] { changes << "disabled"; });
+
+    const QByteArray slot = "on_pushButton_" + button + "_clicked";
+    QVERIFY(QMetaObject::invokeMethod(&fixture.window, slot.constData()));
+    QStringList expected{QStringLiteral("page %1").arg(page)};
+    if (button == "ImageSetting")
+        expected << "checked";
+    QCOMPARE(changes, expected << "disabled");
 }
 
 QTEST_MAIN(NavigationTest)
