@@ -7,10 +7,10 @@
 
 AboutDialog::AboutDialog(QWidget *parent)
     : QDialog(parent)
-    , ruler(1, 1, QImage::Format_RGB32)
-    , ui(std::make_unique<Ui_AboutDialog>())
+    , m_ruler(1, 1, QImage::Format_RGB32)
+    , m_ui(std::make_unique<Ui_AboutDialog>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     setFixedSize(size());
     lightenText();
     fitText();
@@ -19,16 +19,16 @@ AboutDialog::AboutDialog(QWidget *parent)
 // The browser lives until the base is destroyed, so its layout must let go of the ruler here.
 AboutDialog::~AboutDialog()
 {
-    ui->textBrowser->document()->documentLayout()->setPaintDevice(nullptr);
+    m_ui->textBrowser->document()->documentLayout()->setPaintDevice(nullptr);
 }
 
 /// The links are a dark blue of their own, so the text lies on white paper on any desktop.
 void AboutDialog::lightenText()
 {
-    QPalette paper = ui->textBrowser->palette();
+    QPalette paper = m_ui->textBrowser->palette();
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);
-    ui->textBrowser->setPalette(paper);
+    m_ui->textBrowser->setPalette(paper);
 }
 
 /// The box fits five lines where a point is a pixel. At the 96 dots per inch of most desktops the
@@ -36,9 +36,9 @@ void AboutDialog::lightenText()
 void AboutDialog::fitText()
 {
     constexpr int dotsPerMeter = 2835; // 72 dots per inch
-    ruler.setDotsPerMeterX(dotsPerMeter);
-    ruler.setDotsPerMeterY(dotsPerMeter);
-    ui->textBrowser->document()->documentLayout()->setPaintDevice(&ruler);
+    m_ruler.setDotsPerMeterX(dotsPerMeter);
+    m_ruler.setDotsPerMeterY(dotsPerMeter);
+    m_ui->textBrowser->document()->documentLayout()->setPaintDevice(&m_ruler);
     constexpr int margin = 2; // leaves 17 pixels for a line, which the tall Noto Sans needs
-    ui->textBrowser->document()->setDocumentMargin(margin);
+    m_ui->textBrowser->document()->setDocumentMargin(margin);
 }

@@ -21,6 +21,6 @@ private:
     void lightenText();
     void fitText();
 
-    QImage ruler;
-    const std::unique_ptr<Ui_AboutDialog> ui;
+    QImage m_ruler;
+    const std::unique_ptr<Ui_AboutDialog> m_ui;
 };

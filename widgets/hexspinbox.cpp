@@ -2,7 +2,7 @@
 
 HexSpinBox::HexSpinBox(QWidget *parent)
     : QSpinBox(parent)
-    , units({tr("pt"), tr("cm"), tr("in")})
+    , m_units({tr("pt"), tr("cm"), tr("in")})
 {
     setRange(0, 2);
     setWrapping(true);
@@ -12,5 +12,5 @@ HexSpinBox::HexSpinBox(QWidget *parent)
 
 QString HexSpinBox::textFromValue(int value) const
 {
-    return units.value(value);
+    return m_units.value(value);
 }

@@ -17,5 +17,5 @@ public:
     QString textFromValue(int value) const override;
 
 private:
-    const QStringList units;
+    const QStringList m_units;
 };

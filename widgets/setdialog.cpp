@@ -4,9 +4,9 @@
 
 setDialog::setDialog(QWidget *parent)
     : QDialog(parent)
-    , ui(std::make_unique<Ui_setDialog>())
+    , m_ui(std::make_unique<Ui_setDialog>())
 {
-    ui->setupUi(this);
+    m_ui->setupUi(this);
     setFixedSize(size());
 }
 

@@ -17,5 +17,5 @@ public:
     ~setDialog() override;
 
 private:
-    const std::unique_ptr<Ui_setDialog> ui;
+    const std::unique_ptr<Ui_setDialog> m_ui;
 };
