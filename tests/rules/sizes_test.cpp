@@ -31,6 +31,8 @@ void SizesTest::sizeTextHasSixteenCharactersOrNone_data()
     QTest::newRow("the last size in KB") << qint64(1048576) << "      1048.576KB";
     QTest::newRow("the first size in MB") << qint64(1048577) << "         1.049MB";
     QTest::newRow("a megabyte is a million bytes") << qint64(5000000) << "         5.000MB";
+    QTest::newRow("half a kilobyte rounds to the even digit")
+        << qint64(1062500) << "         1.062MB";
     QTest::newRow("the largest 32-bit number")
         << qint64(std::numeric_limits<qint32>::max()) << "      2147.484MB";
     QTest::newRow("2 GiB read as negative") << 2 * gibibyte << "";
