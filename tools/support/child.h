@@ -57,7 +57,8 @@ struct ChildResult
     int exitStatus() const;
 };
 
-/// To be called first of all: from now on SIGTERM, SIGINT, SIGHUP and SIGCHLD wait for runChild().
+/// To be called first of all: from now on SIGTERM, SIGINT, SIGHUP and SIGCHLD wait for whoever runs
+/// a child.
 void holdSignals();
 
 /// Runs the child to its end, passing SIGTERM, SIGINT and SIGHUP on to it; one that has not ended

@@ -1,0 +1,106 @@
+#include "childpool.h"
+
+#include "childprocess.h"
+#include "diagnosis.h"
+
+#include <algorithm>
+
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+ChildPool::ChildPool()
+{
+    const sigset_t held = heldSignals();
+    m_signals = FileDescriptor(signalfd(-1, &held, SFD_CLOEXEC | SFD_NONBLOCK));
+    if (!m_signals.valid())
+        throw systemError("cannot wait for", "the tool");
+}
+
+ChildPool::~ChildPool()
+{
+    endAll(SIGTERM);
+    while (!m_children.empty())
+        wait();
+}
+
+sigset_t ChildPool::heldSignals()
+{
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGCHLD})
+        sigaddset(&set, signal);
+    return set;
+}
+
+void ChildPool::start(ChildSpec spec, size_t number)
+{
+    m_children.push_back({number, std::make_unique<ChildProcess>(std::move(spec))});
+}
+
+ChildPool::Ended ChildPool::wait()
+{
+    while (true) {
+        const auto ended = std::find_if(m_children.begin(), m_children.end(),
+                                        [](const Member &member) { return member.child->reap(); });
+        if (ended != m_children.end()) {
+            Ended result = {ended->number, std::move(ended->child->result())};
+            m_children.erase(ended);
+            return result;
+        }
+        step();
+    }
+}
+
+int ChildPool::askedToEnd()
+{
+    takeSignals();
+    return m_signal;
+}
+
+void ChildPool::step()
+{
+    std::vector<pollfd> watched = {{m_signals.get(), POLLIN, 0}};
+    for (const Member &member : m_children) {
+        for (const pollfd &stream : member.child->watched())
+            watched.push_back(stream);
+    }
+    poll(watched.data(), watched.size(), waitingTime());
+    takeSignals();
+    auto seen = watched.begin() + 1;
+    for (const Member &member : m_children) {
+        member.child->step({seen[0], seen[1]});
+        seen += 2;
+    }
+}
+
+int ChildPool::waitingTime() const
+{
+    using Clock = ChildProcess::Clock;
+    auto next = Clock::time_point::max();
+    for (const Member &member : m_children)
+        next = std::min(next, member.child->nextDeadline().value_or(next));
+    if (next == Clock::time_point::max())
+        return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(next - Clock::now());
+    return static_cast<int>(std::clamp<long>(left.count(), 0, 3'600'000));
+}
+
+// SIGCHLD only wakes: several ends may share one.
+void ChildPool::takeSignals()
+{
+    signalfd_siginfo information = {};
+    while (read(m_signals.get(), &information, sizeof information) > 0) {
+        const int signal = static_cast<int>(information.ssi_signo);
+        if (signal == SIGCHLD)
+            continue;
+        m_signal = signal;
+        endAll(signal);
+    }
+}
+
+void ChildPool::endAll(int signal)
+{
+    for (const Member &member : m_children)
+        member.child->endAfter(signal);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "child.h"
+#include "filedescriptor.h"
+
+#include <memory>
+#include <vector>
+
+class ChildProcess;
+
+/// Children at work side by side. SIGTERM, SIGINT and SIGHUP are passed on to all of them.
+class ChildPool
+{
+public:
+    struct Ended
+    {
+        size_t number;
+        ChildResult result;
+    };
+
+    ChildPool();
+    ChildPool(const ChildPool &) = delete;
+    ChildPool &operator=(const ChildPool &) = delete;
+    /// Ends those at work, by SIGTERM first and SIGKILL some seconds later.
+    ~ChildPool();
+
+    /// Throws ToolError when the child cannot be started.
+    void start(ChildSpec spec, size_t number);
+    size_t atWork() const { return m_children.size(); }
+    /// Waits for the end of one of those at work; `number` is what it was started with.
+    Ended wait();
+    /// The last signal that has asked for an end, or 0; looks for one that nobody has taken yet.
+    int askedToEnd();
+
+    /// What holdSignals() blocks.
+    static sigset_t heldSignals();
+
+private:
+    struct Member
+    {
+        size_t number;
+        std::unique_ptr<ChildProcess> child;
+    };
+
+    void step();
+    int waitingTime() const;
+    void takeSignals();
+    void endAll(int signal);
+
+    FileDescriptor m_signals;
+    std::vector<Member> m_children;
+    int m_signal = 0;
+};

@@ -1,0 +1,191 @@
+#include "childprocess.h"
+
+#include "diagnosis.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr size_t mostKept = 256UL * 1024;
+constexpr std::chrono::seconds graceAfterSignal{3};
+// What a shell reports for a program that cannot be executed.
+constexpr int cannotExecute = 127;
+
+std::vector<char *> pointersTo(const std::vector<std::string> &words)
+{
+    std::vector<char *> pointers;
+    pointers.reserve(words.size() + 1);
+    for (const std::string &word : words)
+        pointers.push_back(const_cast<char *>(word.c_str()));
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+} // namespace
+
+ChildProcess::ChildProcess(ChildSpec spec)
+    : m_spec(std::move(spec))
+    , m_unanswered(m_spec.prompts)
+{
+    if (m_spec.deadline.count() > 0)
+        m_deadline = Clock::now() + m_spec.deadline;
+    start();
+}
+
+ChildProcess::Pipe ChildProcess::makePipe()
+{
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0)
+        throw systemError("cannot make a pipe for", "the tool");
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+}
+
+void ChildProcess::Stream::readSome()
+{
+    std::array<char, 16384> buffer{};
+    const ssize_t count = read(end.get(), buffer.data(), buffer.size());
+    if (count > 0) {
+        const size_t room = mostKept - std::min(mostKept, kept->size());
+        kept->append(buffer.data(), std::min(room, static_cast<size_t>(count)));
+    } else if (count == 0 || errno != EAGAIN) {
+        end.close();
+    }
+}
+
+void ChildProcess::start()
+{
+    if (m_spec.capture == Capture::Everything) {
+        m_inputPipe = makePipe();
+        m_outputPipe = makePipe();
+    }
+    if (m_spec.capture != Capture::Nothing)
+        m_errorPipe = makePipe();
+    std::vector<char *> arguments = pointersTo(m_spec.command);
+    std::vector<char *> environment = pointersTo(m_spec.environment);
+    const pid_t parent = getpid();
+    m_child = fork();
+    if (m_child < 0)
+        throw systemError("cannot start", m_spec.command.front());
+    if (m_child == 0)
+        becomeChild(parent, arguments.data(), environment.data());
+    m_inputPipe.readEnd.close();
+    m_outputPipe.writeEnd.close();
+    m_errorPipe.writeEnd.close();
+    m_output.end = std::move(m_outputPipe.readEnd);
+    m_errors.end = std::move(m_errorPipe.readEnd);
+    for (const Stream *stream : {&m_output, &m_errors})
+        fcntl(stream->end.get(), F_SETFL, O_NONBLOCK);
+    if (m_unanswered.empty())
+        m_inputPipe.writeEnd.close();
+}
+
+void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environment)
+{
+    prctl(PR_SET_PDEATHSIG, m_spec.signalOnOurDeath);
+    // A parent that died before the line above will never be reported.
+    if (getppid() != parent)
+        _exit(cannotExecute);
+    connectStreams();
+    for (const ResourceLimit &limit : m_spec.limits) {
+        const rlimit value = {limit.value, limit.value};
+        setrlimit(limit.resource, &value);
+    }
+    for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGPIPE})
+        signal(number, SIG_DFL);
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    if (m_spec.folder < 0 || fchdir(m_spec.folder) == 0)
+        execve(arguments[0], arguments, environment);
+    const std::string message =
+        systemError("cannot start", arguments[0]).what() + std::string("\n");
+    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, message.data(), message.size());
+    _exit(cannotExecute);
+}
+
+void ChildProcess::connectStreams()
+{
+    // dup2 refuses the -1 of a pipe that was not made, which leaves that stream as it is.
+    dup2(m_inputPipe.readEnd.get(), STDIN_FILENO);
+    dup2(m_outputPipe.writeEnd.get(), STDOUT_FILENO);
+    dup2(m_errorPipe.writeEnd.get(), STDERR_FILENO);
+}
+
+std::array<pollfd, 2> ChildProcess::watched() const
+{
+    return {{{m_output.end.get(), POLLIN, 0}, {m_errors.end.get(), POLLIN, 0}}};
+}
+
+void ChildProcess::step(const std::array<pollfd, 2> &seen)
+{
+    if (seen[0].revents != 0) {
+        m_output.readSome();
+        answer();
+    }
+    if (seen[1].revents != 0)
+        m_errors.readSome();
+    enforceTime();
+}
+
+// pdftk-java 3.3.2 asks for one password after the other, and crashes on a second answer that is
+// there before its question; so each waits for its own.
+void ChildProcess::answer()
+{
+    while (!m_unanswered.empty()) {
+        const auto asked = [this](const Prompt &prompt) {
+            return m_result.output.find(prompt.question, m_searched) != std::string::npos;
+        };
+        const auto prompt = std::find_if(m_unanswered.begin(), m_unanswered.end(), asked);
+        if (prompt == m_unanswered.end())
+            return;
+        m_searched = m_result.output.find(prompt->question, m_searched) + prompt->question.size();
+        const std::string line = prompt->answer + "\n";
+        [[maybe_unused]] const ssize_t written =
+            write(m_inputPipe.writeEnd.get(), line.data(), line.size());
+        m_unanswered.erase(prompt);
+    }
+    m_inputPipe.writeEnd.close();
+}
+
+void ChildProcess::endAfter(int signal)
+{
+    kill(m_child, signal);
+    if (!m_killAt)
+        m_killAt = Clock::now() + graceAfterSignal;
+}
+
+bool ChildProcess::reap()
+{
+    if (waitpid(m_child, &m_result.waitStatus, WNOHANG) != m_child)
+        return false;
+    drain();
+    return true;
+}
+
+void ChildProcess::enforceTime()
+{
+    const Clock::time_point now = Clock::now();
+    if (m_killAt && now >= *m_killAt) {
+        kill(m_child, SIGKILL);
+        m_killAt = now + graceAfterSignal;
+    }
+    if (!m_killAt && m_deadline && now >= *m_deadline) {
+        m_result.timedOut = true;
+        endAfter(SIGTERM);
+    }
+}
+
+void ChildProcess::drain()
+{
+    for (Stream *stream : {&m_output, &m_errors}) {
+        pollfd watched = {stream->end.get(), POLLIN, 0};
+        while (stream->end.valid() && poll(&watched, 1, 0) > 0)
+            stream->readSome();
+    }
+}
