@@ -80,6 +80,9 @@ constexpr RoleColour lightColours[] = {
     {QPalette::ToolTipBase, 0xfffffbe6, 0xfffffbe6},
     {QPalette::ToolTipText, 0xff000000, 0xff000000},
     {QPalette::PlaceholderText, 0xff6c6c6c, 0xff9a9a9a},
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    {QPalette::Accent, 0xff0b7a6a, 0xff9fb5b0},
+#endif
 };
 
 QPalette lightPalette()

@@ -6,9 +6,12 @@
 #include <QBitmap>
 #include <QFile>
 #include <QImageReader>
+#include <QtPlugin>
 #include <QWidget>
 
 #include <unistd.h>
+
+Q_IMPORT_PLUGIN(PcxPlugin)
 
 namespace {
 

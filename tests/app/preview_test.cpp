@@ -146,7 +146,6 @@ void PreviewTest::formatIsToldByContent_data()
 void PreviewTest::formatIsToldByContent()
 {
     QFETCH(QString, sample);
-    QCoreApplication::addLibraryPath(QStringLiteral(PLUGIN_FOLDER));
     const QSize frame = previewSize(QImage(QStringLiteral(SAMPLE_FOLDER "/") + sample).size());
     WindowFixture fixture;
     for (const char *name : {"picture", "picture.txt", "picture.png", "picture.tif"}) {
