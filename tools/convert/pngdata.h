@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <zlib.h>
+
+/// Inflates the image data of a PNG file that is not interlaced, piece by piece and without keeping
+/// it, to see whether it is whole. Throws ToolError when it is damaged.
+class PngData
+{
+public:
+    PngData(std::uint64_t rows, std::uint64_t rowBytes);
+    ~PngData();
+    PngData(const PngData &) = delete;
+    PngData &operator=(const PngData &) = delete;
+
+    void add(std::string_view compressed);
+    /// Whether there is nothing behind the last row; throws when that has not come.
+    bool isExact() const;
+
+private:
+    void check(std::size_t count);
+
+    z_stream m_stream = {};
+    std::vector<std::uint8_t> m_output;
+    std::uint64_t m_rowSize;
+    std::uint64_t m_missing;
+    std::uint64_t m_untilFilter = 0;
+    bool m_ended = false;
+    bool m_exact = true;
+};
+
+/// What `compressed`, a zlib stream, holds; "" when it is damaged or longer than `most` bytes.
+std::string inflated(std::string_view compressed, std::size_t most);

@@ -1,0 +1,90 @@
+#include "tiffpages.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "group4.h"
+#include "pagesize.h"
+#include "tiffdirectory.h"
+
+namespace {
+
+constexpr std::uint64_t group4 = 4;
+constexpr std::uint64_t zeroIsWhite = 0;
+constexpr std::uint64_t zeroIsBlack = 1;
+constexpr std::uint64_t pageOfSeveral = 2;
+constexpr std::uint64_t lowestBitFirst = 2;
+
+bool isSide(std::uint64_t pixels)
+{
+    return pixels > 0 && pixels <= longestSide;
+}
+
+bool isCopyable(const TiffDirectory &page)
+{
+    const std::uint64_t rows = std::min(page.rowsPerStrip, page.height);
+    return !page.doubtful && !page.tiled && page.compression == group4 && page.bits == 1 &&
+           page.samples == 1 && page.group4Options == 0 && page.planarConfiguration == 1 &&
+           (page.photometric == zeroIsWhite || page.photometric == zeroIsBlack) &&
+           (page.fillOrder == 1 || page.fillOrder == lowestBitFirst) && page.orientation == 1 &&
+           (page.subfileType == 0 || page.subfileType == pageOfSeveral) &&
+           page.resolutionUnit >= 1 && page.resolutionUnit <= 3 && isSide(page.width) &&
+           isSide(page.height) && rows > 0 &&
+           page.offsets.size() == (page.height + rows - 1) / rows &&
+           page.counts.size() == page.offsets.size() &&
+           std::find(page.counts.begin(), page.counts.end(), 0) == page.counts.end();
+}
+
+Density densityOf(const TiffDirectory &page)
+{
+    constexpr std::array units = {Density::Unit::None, Density::Unit::Inch,
+                                  Density::Unit::Centimetre};
+    return {page.xResolution, page.yResolution,
+            units[static_cast<std::size_t>(page.resolutionUnit - 1)]};
+}
+
+CopyablePage pageOf(const TiffDirectory &directory)
+{
+    CopyablePage page;
+    page.width = static_cast<std::uint32_t>(directory.width);
+    page.height = static_cast<std::uint32_t>(directory.height);
+    page.bitsPerComponent = 1;
+    page.components = 1;
+    page.filter = "CCITTFaxDecode";
+    // By the rows, not by the mark at the end, which is not always there.
+    page.decodeParms = {{"/K", "-1"},
+                        {"/Columns", std::to_string(page.width)},
+                        {"/Rows", std::to_string(page.height)},
+                        {"/EndOfBlock", "false"}};
+    page.inverted = directory.photometric == zeroIsBlack;
+    setPageSize(page, densityOf(directory));
+    return page;
+}
+
+bool takeData(const TiffDirectory &directory, int file, CopyablePage &page)
+{
+    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst) {
+        page.extents = {{directory.offsets[0], directory.counts[0]}};
+        return true;
+    }
+    page.data = asOneStrip(file, directory.offset).value_or("");
+    return !page.data.empty();
+}
+
+} // namespace
+
+std::optional<std::vector<CopyablePage>> tiffPages(FileBytes &bytes, int file, bool wanted)
+{
+    const std::vector<TiffDirectory> directories = tiffDirectories(bytes);
+    if (!wanted || !std::all_of(directories.begin(), directories.end(), isCopyable))
+        return std::nullopt;
+    std::vector<CopyablePage> pages;
+    for (const TiffDirectory &directory : directories) {
+        CopyablePage page = pageOf(directory);
+        if (!takeData(directory, file, page))
+            return std::nullopt;
+        pages.push_back(std::move(page));
+    }
+    return pages;
+}
