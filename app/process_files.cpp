@@ -25,10 +25,11 @@ constexpr int pathColumn = 0;
 constexpr int sizeColumn = 1;
 
 // The patterns' mixed separators are part of the text.
-constexpr char imageFilter[] =
+constexpr char imageFilter[] = QT_TRANSLATE_NOOP(
+    "Process",
     "All Supported Formats(*.bmp *.gif *.jpg *.pbm *.pcx *.png *.ppm *.tif);;"
     "BMP File(*.bmp);;GIF File(*.gif);;JPEG File(*.jpg;*.jpeg);;PBM File(*.pbm);;"
-    "PCX File(*.pcx);;PNG File(*.png);;PPM File(*.ppm);;TIF File(*.tif;*.tiff);;ALL files(*.*)";
+    "PCX File(*.pcx);;PNG File(*.png);;PPM File(*.ppm);;TIF File(*.tif;*.tiff);;ALL files(*.*)");
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "bundlepaths.h"
 #include "look.h"
 #include "previewpicture.h"
+#include "translation.h"
 
 #include <QApplication>
 #include <QDir>
@@ -30,6 +31,8 @@ void prepare(QApplication &application)
     // Texts need no codec: every literal is ASCII, and Qt reads literals as UTF-8.
     limitDecodedPictures();
     applyLook(application);
+    if (const QString language = wantedLanguage(); !language.isEmpty())
+        speak(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
     // Two page slots have no button of their name in the layout, and a broken image is no news:
     // neither is worth a line on the terminal, the latter at every refresh of the preview.

@@ -7,6 +7,6 @@ class QApplication;
 void raiseArgumentLimit();
 
 /// Prepares `application` for its window: plug-ins from the bundle alone, the bundle's folder as
-/// the current directory, the window's own look, and a bound on what one image may take. Nothing
-/// is reported when a folder is missing.
+/// the current directory, the window's own look, the user's language, and a bound on what one
+/// image may take. Nothing is reported when a folder is missing.
 void prepare(QApplication &application);

@@ -337,40 +337,48 @@ void Ui_process::retranslateUi(QWidget * /*process*/)
         QWidget *widget;
         const char *text;
     } texts[] = {
-        {label, "File List"},
-        {openfileButton, "Open"},
-        {removeButton, "Romove"},
-        {removeallButton, "Remove All"},
-        {label_2, "Preview"},
+        {label, QT_TRANSLATE_NOOP("process", "File List")},
+        {openfileButton, QT_TRANSLATE_NOOP("process", "Open")},
+        {removeButton, QT_TRANSLATE_NOOP("process", "Romove")},
+        {removeallButton, QT_TRANSLATE_NOOP("process", "Remove All")},
+        {label_2, QT_TRANSLATE_NOOP("process", "Preview")},
         {runButton, ""},
-        {outputfolderlabel, "Output Folder"},
-        {checkBox_joinpdf, "Merge to single PDF"},
+        {outputfolderlabel, QT_TRANSLATE_NOOP("process", "Output Folder")},
+        {checkBox_joinpdf, QT_TRANSLATE_NOOP("process", "Merge to single PDF")},
         {outputButton, ""},
-        {label_12, "Appearance options to adjust converted PDF pages:"},
-        {label_15, "Rotate"},
-        {label_14, "Page Size"},
-        {label_16, "Compression"},
-        {checkBox_monochrome, "Convert images to black-and-white PDF"},
-        {label_6, "Description options to set PDF description:"},
-        {label_19, "Title"},
-        {label_20, "Subject"},
-        {label_21, "Keywords"},
-        {label_22, "Author"},
-        {label_10, "Security options to set password and permissions \nfor converted PDF:"},
-        {label_27, "Owner password"},
-        {label_28, "User password"},
-        {checkBox_allowprint, "Allow printing"},
-        {checkBox_allowmodify, "Allow document assembly"},
-        {checkBox_allowcopy, "Allow content copying"},
-        {checkBox_allowannotation, "Allow commenting"},
+        {label_12,
+         QT_TRANSLATE_NOOP("process", "Appearance options to adjust converted PDF pages:")},
+        {label_15, QT_TRANSLATE_NOOP("process", "Rotate")},
+        {label_14, QT_TRANSLATE_NOOP("process", "Page Size")},
+        {label_16, QT_TRANSLATE_NOOP("process", "Compression")},
+        {checkBox_monochrome,
+         QT_TRANSLATE_NOOP("process", "Convert images to black-and-white PDF")},
+        {label_6, QT_TRANSLATE_NOOP("process", "Description options to set PDF description:")},
+        {label_19, QT_TRANSLATE_NOOP("process", "Title")},
+        {label_20, QT_TRANSLATE_NOOP("process", "Subject")},
+        {label_21, QT_TRANSLATE_NOOP("process", "Keywords")},
+        {label_22, QT_TRANSLATE_NOOP("process", "Author")},
+        {label_10,
+         QT_TRANSLATE_NOOP(
+             "process", "Security options to set password and permissions \nfor converted PDF:")},
+        {label_27, QT_TRANSLATE_NOOP("process", "Owner password")},
+        {label_28, QT_TRANSLATE_NOOP("process", "User password")},
+        {checkBox_allowprint, QT_TRANSLATE_NOOP("process", "Allow printing")},
+        {checkBox_allowmodify, QT_TRANSLATE_NOOP("process", "Allow document assembly")},
+        {checkBox_allowcopy, QT_TRANSLATE_NOOP("process", "Allow content copying")},
+        {checkBox_allowannotation, QT_TRANSLATE_NOOP("process", "Allow commenting")},
     };
     for (const auto &[widget, text] : texts)
         widget->setProperty("text", *text ? translated(text) : QString());
 
-    inputfiletableWidget->horizontalHeaderItem(0)->setText(translated("Image File"));
-    inputfiletableWidget->horizontalHeaderItem(1)->setText(translated("File Size"));
-    refill(comboBox_rotate,
-           {translated("0"), translated("90"), translated("180"), translated("270")});
+    inputfiletableWidget->horizontalHeaderItem(0)->setText(
+        translated(QT_TRANSLATE_NOOP("process", "Image File")));
+    inputfiletableWidget->horizontalHeaderItem(1)->setText(
+        translated(QT_TRANSLATE_NOOP("process", "File Size")));
+    refill(comboBox_rotate, {translated(QT_TRANSLATE_NOOP("process", "0")),
+                             translated(QT_TRANSLATE_NOOP("process", "90")),
+                             translated(QT_TRANSLATE_NOOP("process", "180")),
+                             translated(QT_TRANSLATE_NOOP("process", "270"))});
     refill(comboBox_pagesize, textsOf(pageSizes));
     refill(comboBox_compresstype, textsOf(compressions));
 }

@@ -15,16 +15,16 @@ struct Compression
 /// the tool.
 inline constexpr std::array<Compression, 11> compressions{{
     {"", ""},
-    {"None", "None"},
-    {"Bzip", "Bzip"},
-    {"CCITT Group 3", "Fax"},
-    {"CCITT Group 4", "Group4"},
-    {"JPEG", "JPEG"},
-    {"JPEG2000", "JPEG2000"},
-    {"Lossless", "Lossless"},
-    {"Lempel-Ziv-Welch", "LZW"},
-    {"Run-length encoding", "RLE"},
-    {"Zip", "zip"},
+    {QT_TRANSLATE_NOOP("process", "None"), "None"},
+    {QT_TRANSLATE_NOOP("process", "Bzip"), "Bzip"},
+    {QT_TRANSLATE_NOOP("process", "CCITT Group 3"), "Fax"},
+    {QT_TRANSLATE_NOOP("process", "CCITT Group 4"), "Group4"},
+    {QT_TRANSLATE_NOOP("process", "JPEG"), "JPEG"},
+    {QT_TRANSLATE_NOOP("process", "JPEG2000"), "JPEG2000"},
+    {QT_TRANSLATE_NOOP("process", "Lossless"), "Lossless"},
+    {QT_TRANSLATE_NOOP("process", "Lempel-Ziv-Welch"), "LZW"},
+    {QT_TRANSLATE_NOOP("process", "Run-length encoding"), "RLE"},
+    {QT_TRANSLATE_NOOP("process", "Zip"), "zip"},
 }};
 
 /// Option text of `convert` for the compression chosen at `index`, with a leading blank, for

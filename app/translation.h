@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+
+class QGuiApplication;
+
+/// The languages that the program is translated into, such as "de" and "pt_BR".
+QStringList translatedLanguages();
+
+/// The one of them that the user's environment asks for (LANGUAGE, else LC_ALL, LC_MESSAGES, LANG);
+/// "" for English.
+QString wantedLanguage();
+
+/// Shows the texts of the windows made from now on in `language`, the toolkit's own too where the
+/// system has translations of them (qt6-translations-l10n), and lets them run in its direction.
+/// "" is English. Numbers and the like stay as the environment's locale writes them.
+void speak(QGuiApplication &application, const QString &language);
