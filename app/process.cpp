@@ -4,6 +4,7 @@
 
 #include "accessibility.h"
 #include "fittext.h"
+#include "mirror.h"
 #include "pictures.h"
 #include "ui_process.h"
 
@@ -14,6 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTableWidget>
 #include <QTimer>
 
@@ -31,6 +33,8 @@ Process::Process(QWidget *parent)
     describeControls(*ui);
     fitText(*this);
     fitText(setdialog);
+    mirrorPlaces(*ui);
+    mirrorChildren(setdialog);
 
     process = new QProcess;
     fileindex = 0;
@@ -114,7 +118,8 @@ void Process::setWindowBackground()
 void Process::setabout()
 {
     setWindowTitle(tr("Tessaro Image to PDF Converter"));
-    ui->runButton->setGeometry(444, 280, 71, 72);
+    ui->runButton->setGeometry(
+        QStyle::visualRect(layoutDirection(), ui->frame_6->rect(), QRect(444, 280, 71, 72)));
 }
 
 void Process::setabout1()

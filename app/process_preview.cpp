@@ -17,6 +17,15 @@ namespace {
 
 constexpr std::chrono::milliseconds previewDelay{300};
 
+/// Keeps the frame's upper corner where it is, the one that its label stands at.
+void resizeFrame(QFrame &frame, QSize size)
+{
+    QRect place(frame.pos(), size);
+    if (frame.isRightToLeft())
+        place.moveRight(frame.geometry().right());
+    frame.setGeometry(place);
+}
+
 } // namespace
 
 void Process::setpreview()
@@ -38,7 +47,7 @@ void Process::dopreview()
         const QSize size = previewSize(picture.size());
         const QPixmap scaled =
             scaledPicture(picture, size, Qt::KeepAspectRatio, devicePixelRatioF());
-        ui->previewframe->resize(size);
+        resizeFrame(*ui->previewframe, size);
         showPicture(*ui->previewframe, scaled);
     } catch (...) {
         // No image, however broken, may end the program.
@@ -50,7 +59,7 @@ void Process::setdefaultpreview()
     const QSize size(previewBox.width(), previewBox.width());
     const QPixmap picture =
         crispPixmap(QStringLiteral(":/iconoption/icons/whle.png"), size, devicePixelRatioF());
-    ui->previewframe->resize(size);
+    resizeFrame(*ui->previewframe, size);
     showPicture(*ui->previewframe,
                 scaledPicture(picture, size, Qt::IgnoreAspectRatio, devicePixelRatioF()));
 }

@@ -110,7 +110,7 @@
     </message>
     <message>
         <source>Merge to single PDF</source>
-        <translation>Zu einer einzigen PDF-Datei zusammenfügen</translation>
+        <translation>Zu einer PDF-Datei verbinden</translation>
     </message>
     <message>
         <source>Make one PDF of all images, named after the first</source>
@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Papierformat</translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Papierformat</translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -284,7 +284,7 @@ der PDF-Datei:</translation>
     </message>
     <message>
         <source>Allow document assembly</source>
-        <translation>Zusammenstellen des Dokuments zulassen</translation>
+        <translation>Zusammenstellen zulassen</translation>
     </message>
     <message>
         <source>Allow content copying</source>

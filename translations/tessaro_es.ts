@@ -58,7 +58,7 @@
     <name>process</name>
     <message>
         <source>File list</source>
-        <translation>Lista de archivos</translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>The images to convert; drop files here to add some</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Owner password</source>
-        <translation>Clave de propietario</translation>
+        <translation>Contraseña propietario</translation>
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>User password</source>
-        <translation>Clave de usuario</translation>
+        <translation>Contraseña usuario</translation>
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>File List</source>
-        <translation>Lista de archivos</translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Romove</source>

@@ -58,7 +58,7 @@
     <name>process</name>
     <message>
         <source>File list</source>
-        <translation>Liste des fichiers</translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>The images to convert; drop files here to add some</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Owner password</source>
-        <translation>Mot de passe maître</translation>
+        <translation>Mdp propriétaire</translation>
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>User password</source>
-        <translation>Mot de passe utilisateur</translation>
+        <translation>Mdp utilisateur</translation>
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>File List</source>
-        <translation>Liste des fichiers</translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Romove</source>

@@ -1,0 +1,12 @@
+#pragma once
+
+class QWidget;
+class Ui_process;
+
+/// Turns the places of the window's controls around when it runs from right to left, and nothing
+/// when it runs from left to right: the toolkit mirrors what lies in a layout or a view, not what
+/// has a place of its own. Paths and passwords keep running from left to right.
+void mirrorPlaces(const Ui_process &ui);
+
+/// The same for the direct children of `parent`, a dialog.
+void mirrorChildren(const QWidget &parent);

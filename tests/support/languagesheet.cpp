@@ -1,0 +1,100 @@
+// Draws the four pages of the window in each language, a picture for each, and prints the size
+// that its texts got and the text that needs most of its place.
+//
+//   tessaro-language-sheet FOLDER FONT POINTS [LANGUAGE...]
+
+#include "process.h"
+#include "startup.h"
+#include "translation.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+template <class Widget>
+Widget *find(const Process &window, const char *name)
+{
+    return window.findChild<Widget *>(QLatin1String(name));
+}
+
+void fillIn(const Process &window)
+{
+    auto *table = find<QTableWidget>(window, "inputfiletableWidget");
+    table->setRowCount(2);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        table->setItem(row, 0,
+                       new QTableWidgetItem(QStringLiteral("/home/user/Scans/%1.png").arg(row)));
+        table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("       123.456KB")));
+    }
+    find<QLineEdit>(window, "outputfolderEdit")->setText(QStringLiteral("/home/user/PDF"));
+    find<QLineEdit>(window, "lineEdit_ownerpwd")->setText(QStringLiteral("secret!"));
+    find<QComboBox>(window, "comboBox_rotate")->setCurrentIndex(1);
+    find<QComboBox>(window, "comboBox_pagesize")->setCurrentIndex(16);
+    find<QComboBox>(window, "comboBox_compresstype")->setCurrentIndex(9);
+}
+
+QImage sheetOf(Process &window)
+{
+    auto *pages = find<QStackedWidget>(window, "stackedWidget_dialog");
+    QImage sheet(window.size() * 2, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        const QPoint place(page % 2 * window.width(), page / 2 * window.height());
+        painter.drawPixmap(place, window.grab());
+    }
+    return sheet;
+}
+
+double fullness(const QLabel &label)
+{
+    return label.text().isEmpty() ? 0 : double(label.sizeHint().width()) / label.width();
+}
+
+void printTightest(const Process &window, const QString &language)
+{
+    const auto labels = window.findChildren<QLabel *>();
+    const QLabel *tightest =
+        *std::ranges::max_element(labels, {}, [](const QLabel *label) { return fullness(*label); });
+    std::printf("%-5s %5.2f points; %s fills %.0f %% of %s\n", qPrintable(language),
+                find<QLabel>(window, "label")->font().pointSizeF(),
+                qUtf8Printable(tightest->text()), 100 * fullness(*tightest),
+                qPrintable(tightest->objectName()));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.size() < 3)
+        return 2;
+    const QDir folder(QDir(arguments.takeFirst()).absolutePath());
+    QFont font(arguments.takeFirst());
+    font.setPointSizeF(arguments.takeFirst().toDouble());
+    prepare(application);
+    QApplication::setFont(font);
+    const QStringList languages =
+        arguments.isEmpty() ? QStringList(QString()) + translatedLanguages() : arguments;
+    for (const QString &language : languages) {
+        speak(application, language);
+        Process window;
+        fillIn(window);
+        const QString name = language.isEmpty() ? QStringLiteral("en") : language;
+        if (!sheetOf(window).save(folder.filePath(name + QStringLiteral(".png"))))
+            return 1;
+        printTightest(window, name);
+    }
+    return 0;
+}
