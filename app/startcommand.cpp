@@ -1,6 +1,7 @@
 #include "startcommand.h"
 
 #include "startarguments.h"
+#include "translation.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -29,7 +30,8 @@ bool answerQuestion(int argc, char **argv)
     const StartArguments asked = readStartArguments(words);
     if (!asked.wantsHelp && !asked.wantsVersion)
         return false;
-    const QCoreApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
+    speak(application, wantedLanguage());
     const QString answer =
         asked.wantsHelp ? startHelp()
                         : QStringLiteral("Tessaro Image to PDF Converter " TESSARO_VERSION "\n");

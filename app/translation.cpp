@@ -17,7 +17,7 @@ QString translationFolder()
     return QStringLiteral(":/translations");
 }
 
-void install(QGuiApplication &application, const QString &catalogue, const QString &folder)
+void install(QCoreApplication &application, const QString &catalogue, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>(&application);
     if (translator->load(catalogue, folder))
@@ -39,7 +39,7 @@ QString wantedLanguage()
     return uiLanguage(QLocale::system().uiLanguages(), translatedLanguages());
 }
 
-void speak(QGuiApplication &application, const QString &language)
+void speak(QCoreApplication &application, const QString &language)
 {
     qDeleteAll(application.findChildren<QTranslator *>(Qt::FindDirectChildrenOnly));
     if (!language.isEmpty()) {
@@ -47,5 +47,6 @@ void speak(QGuiApplication &application, const QString &language)
                 QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         install(application, QStringLiteral("tessaro_") + language, translationFolder());
     }
-    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    if (qobject_cast<QGuiApplication *>(&application))
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-class QGuiApplication;
+class QCoreApplication;
 
 /// The languages that the program is translated into, such as "de" and "pt_BR".
 QStringList translatedLanguages();
@@ -14,4 +14,4 @@ QString wantedLanguage();
 /// Shows the texts of the windows made from now on in `language`, the toolkit's own too where the
 /// system has translations of them (qt6-translations-l10n), and lets them run in its direction.
 /// "" is English. Numbers and the like stay as the environment's locale writes them.
-void speak(QGuiApplication &application, const QString &language);
+void speak(QCoreApplication &application, const QString &language);

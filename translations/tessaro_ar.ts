@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>لا يوجد خيار %1؛ انظر --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>لا يوجد ملف %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>يحوّل الصور إلى مستندات PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>الصور التي تظهر في القائمة عند فتح النافذة.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>عرض هذه المساعدة والخروج.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>عرض الإصدار والخروج.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>خيارات الأمان: كلمات مرور ملف PDF 
+        <translation>خيارات الأمان: كلمات مرور ملف PDF
 وأذوناته:</translation>
     </message>
     <message>

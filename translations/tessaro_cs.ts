@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Volba %1 neexistuje; viz --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Soubor %1 neexistuje.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Převádí obrázky do dokumentů PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Obrázky, které budou v seznamu po otevření okna.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Zobrazit tuto nápovědu a skončit.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Zobrazit verzi a skončit.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Možnosti zabezpečení: hesla a oprávnění 
+        <translation>Možnosti zabezpečení: hesla a oprávnění
 PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Der er ingen indstilling %1; se --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Der er ingen fil %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Laver billeder om til PDF-dokumenter.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Billeder, der skal stå på listen, når vinduet åbnes.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Vis denne hjælp, og afslut.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Vis versionen, og afslut.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Sikkerhedsindstillinger: adgangskoder og tilladelser 
+        <translation>Sikkerhedsindstillinger: adgangskoder og tilladelser
 til PDF-filen:</translation>
     </message>
     <message>

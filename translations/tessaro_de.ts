@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Es gibt keine Option %1; siehe --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Wandelt Bilder in PDF-Dokumente um.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Bilder, die beim Öffnen des Fensters in der Liste stehen.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Diese Hilfe anzeigen und beenden.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Die Version anzeigen und beenden.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Kennwörter und Berechtigungen 
+        <translation>Kennwörter und Berechtigungen
 der PDF-Datei:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Δεν υπάρχει επιλογή %1· δείτε το --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Δεν υπάρχει αρχείο %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Μετατρέπει εικόνες σε έγγραφα PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Εικόνες που μπαίνουν στη λίστα όταν ανοίγει το παράθυρο.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Εμφάνιση αυτής της βοήθειας και τερματισμός.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Εμφάνιση της έκδοσης και τερματισμός.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Επιλογές ασφαλείας: κωδικοί και δικαιώματα 
+        <translation>Επιλογές ασφαλείας: κωδικοί και δικαιώματα
 του PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>No existe la opción %1; véase --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>No existe el archivo %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Convierte imágenes en documentos PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Imágenes que se añaden a la lista al abrir la ventana.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Mostrar esta ayuda y salir.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Mostrar la versión y salir.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opciones de seguridad: contraseñas y permisos 
+        <translation>Opciones de seguridad: contraseñas y permisos
 del PDF:</translation>
     </message>
     <message>

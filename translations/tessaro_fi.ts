@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Valitsinta %1 ei ole; katso --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Tiedostoa %1 ei ole.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Muuntaa kuvia PDF-asiakirjoiksi.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Kuvat, jotka ovat luettelossa ikkunan avautuessa.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Näytä tämä ohje ja lopeta.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Näytä versio ja lopeta.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Suojausasetukset: PDF-tiedoston salasanat 
+        <translation>Suojausasetukset: PDF-tiedoston salasanat
 ja käyttöoikeudet:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Il n’y a pas d’option %1 ; voir --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Il n’y a pas de fichier %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Convertit des images en documents PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Images à mettre dans la liste à l’ouverture de la fenêtre.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Afficher cette aide et quitter.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Afficher la version et quitter.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Options de sécurité : mots de passe et autorisations 
+        <translation>Options de sécurité : mots de passe et autorisations
 du PDF :</translation>
     </message>
     <message>

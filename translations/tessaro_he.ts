@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>אין אפשרות בשם %1; ראו --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>אין קובץ בשם %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>הופכת תמונות למסמכי PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>תמונות שיופיעו ברשימה עם פתיחת החלון.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>הצגת עזרה זו ויציאה.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>הצגת הגרסה ויציאה.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>אפשרויות אבטחה: סיסמאות והרשאות 
+        <translation>אפשרויות אבטחה: סיסמאות והרשאות
 של ה־PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>%1 नाम का कोई विकल्प नहीं है; --help देखें।</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>%1 नाम की कोई फ़ाइल नहीं है।</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>छवियों को PDF दस्तावेज़ों में बदलता है।</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>विंडो खुलने पर सूची में दिखने वाली छवियाँ।</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>यह सहायता दिखाएँ और बंद करें।</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>संस्करण दिखाएँ और बंद करें।</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>सुरक्षा विकल्प: PDF के पासवर्ड 
+        <translation>सुरक्षा विकल्प: PDF के पासवर्ड
 और अनुमतियाँ:</translation>
     </message>
     <message>

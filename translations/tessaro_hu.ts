@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Nincs %1 kapcsoló; lásd: --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Nincs %1 fájl.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Képeket alakít PDF-dokumentummá.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Az ablak megnyitásakor a listára kerülő képek.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Megjeleníti ezt a súgót, és kilép.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Megjeleníti a verziót, és kilép.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Biztonsági beállítások: a PDF jelszavai 
+        <translation>Biztonsági beállítások: a PDF jelszavai
 és engedélyei:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Tidak ada opsi %1; lihat --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Tidak ada berkas %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Mengubah gambar menjadi dokumen PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Gambar yang dimasukkan ke daftar saat jendela dibuka.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Tampilkan bantuan ini lalu keluar.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Tampilkan versi lalu keluar.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opsi keamanan: kata sandi dan izin 
+        <translation>Opsi keamanan: kata sandi dan izin
 PDF:</translation>
     </message>
     <message>

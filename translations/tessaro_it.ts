@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Non esiste l’opzione %1; vedere --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Non esiste il file %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Converte immagini in documenti PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Immagini da mettere nell’elenco all’apertura della finestra.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Mostra questo aiuto ed esce.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Mostra la versione ed esce.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opzioni di protezione: password e autorizzazioni 
+        <translation>Opzioni di protezione: password e autorizzazioni
 del PDF:</translation>
     </message>
     <message>

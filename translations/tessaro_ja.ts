@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>オプション %1 はありません。--help をご覧ください。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>ファイル %1 はありません。</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>画像を PDF 文書に変換します。</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>ウィンドウを開いたときに一覧に入れる画像。</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>このヘルプを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>バージョンを表示して終了します。</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>%1 옵션이 없습니다. --help를 참고하세요.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>%1 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>이미지를 PDF 문서로 변환합니다.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>창을 열 때 목록에 넣을 이미지.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>이 도움말을 표시하고 끝냅니다.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>버전을 표시하고 끝냅니다.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>

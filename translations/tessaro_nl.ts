@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Er is geen optie %1; zie --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Er is geen bestand %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Zet afbeeldingen om naar pdf-documenten.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Afbeeldingen die bij het openen van het venster in de lijst staan.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Deze hulp tonen en stoppen.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>De versie tonen en stoppen.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Beveiligingsopties: wachtwoorden en machtigingen 
+        <translation>Beveiligingsopties: wachtwoorden en machtigingen
 van de pdf:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Nie ma opcji %1; zobacz --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Nie ma pliku %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Zamienia obrazy na dokumenty PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Obrazy umieszczane na liście po otwarciu okna.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Wyświetla tę pomoc i kończy działanie.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Wyświetla wersję i kończy działanie.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opcje zabezpieczeń: hasła i uprawnienia 
+        <translation>Opcje zabezpieczeń: hasła i uprawnienia
 pliku PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Não existe a opção %1; veja --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Não existe o arquivo %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Converte imagens em documentos PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Imagens a listar quando a janela abrir.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Mostrar esta ajuda e sair.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Mostrar a versão e sair.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opções de segurança: senhas e permissões 
+        <translation>Opções de segurança: senhas e permissões
 do PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Nu există opțiunea %1; vedeți --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Nu există fișierul %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Transformă imagini în documente PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Imaginile care apar în listă la deschiderea ferestrei.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Afișează acest ajutor și încheie.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Afișează versiunea și încheie.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opțiuni de securitate: parolele și permisiunile 
+        <translation>Opțiuni de securitate: parolele și permisiunile
 PDF-ului:</translation>
     </message>
     <message>

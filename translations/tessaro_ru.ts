@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Параметра %1 нет; см. --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Файла %1 нет.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Преобразует изображения в документы PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Изображения, которые будут в списке при открытии окна.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Показать эту справку и завершить работу.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Показать версию и завершить работу.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Параметры защиты: пароли и разрешения 
+        <translation>Параметры защиты: пароли и разрешения
 для PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Flaggan %1 finns inte; se --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Filen %1 finns inte.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Gör PDF-dokument av bilder.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Bilder som ska finnas i listan när fönstret öppnas.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Visa denna hjälp och avsluta.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Visa versionen och avsluta.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Säkerhetsalternativ: lösenord och behörigheter 
+        <translation>Säkerhetsalternativ: lösenord och behörigheter
 för PDF-filen:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>%1 seçeneği yok; --help ile bakın.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>%1 dosyası yok.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Görüntüleri PDF belgelerine dönüştürür.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Pencere açıldığında listelenecek görüntüler.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Bu yardımı göster ve çık.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Sürümü göster ve çık.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Güvenlik seçenekleri: PDF parolaları 
+        <translation>Güvenlik seçenekleri: PDF parolaları
 ve izinleri:</translation>
     </message>
     <message>

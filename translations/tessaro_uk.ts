@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Параметра %1 немає; див. --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Файлу %1 немає.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Перетворює зображення на документи PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Зображення, які будуть у списку після відкриття вікна.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Показати цю довідку й завершити роботу.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Показати версію й завершити роботу.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Параметри захисту: паролі та дозволи 
+        <translation>Параметри захисту: паролі та дозволи
 для PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>Không có tùy chọn %1; xem --help.</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Không có tệp %1.</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>Chuyển ảnh thành tài liệu PDF.</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>Các ảnh được liệt kê khi cửa sổ mở.</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>Hiện trợ giúp này rồi thoát.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Hiện phiên bản rồi thoát.</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
@@ -275,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Tùy chọn bảo mật: mật khẩu và quyền 
+        <translation>Tùy chọn bảo mật: mật khẩu và quyền
 của PDF:</translation>
     </message>
     <message>

@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>没有选项 %1；请参阅 --help。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>没有文件 %1。</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>将图像转换为 PDF 文档。</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>打开窗口时列出的图像。</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>显示此帮助并退出。</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>显示版本并退出。</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>

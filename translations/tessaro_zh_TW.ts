@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option %1; see --help.</source>
+        <translation>沒有選項 %1；請參閱 --help。</translation>
+    </message>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>沒有檔案 %1。</translation>
+    </message>
+    <message>
+        <source>Turns images into PDF documents.</source>
+        <translation>將影像轉換為 PDF 文件。</translation>
+    </message>
+    <message>
+        <source>Images to list when the window opens.</source>
+        <translation>開啟視窗時列出的影像。</translation>
+    </message>
+    <message>
+        <source>Show this help and end.</source>
+        <translation>顯示此說明並結束。</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>顯示版本並結束。</translation>
+    </message>
+</context>
+<context>
     <name>HexSpinBox</name>
     <message>
         <source>pt</source>
