@@ -1,11 +1,13 @@
 #include "look.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QToolTip>
 
 namespace {
 
@@ -48,6 +50,25 @@ private:
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(rect.adjusted(2, 2, -2, -2), 5, 5);
         painter.restore();
+    }
+};
+
+/// Shows each tip for its window. Qt gives a tip the style sheets that hold for the widget it is
+/// shown for, and some of those are for that widget alone: the file list's transparent ground is
+/// black in a window of its own.
+class ToolTips : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *target, QEvent *event) override
+    {
+        auto *widget = qobject_cast<QWidget *>(target);
+        if (event->type() != QEvent::ToolTip || !widget || widget->toolTip().isEmpty())
+            return false;
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), widget->toolTip(),
+                           widget->window(), {}, widget->toolTipDuration());
+        return true;
     }
 };
 
@@ -101,4 +122,6 @@ void applyLook(QApplication &application)
 {
     application.setStyle(new Style); // the application owns it
     application.setPalette(lightPalette());
+    QToolTip::setPalette(lightPalette()); // a theme may have brought one for tips alone
+    application.installEventFilter(new ToolTips(&application));
 }

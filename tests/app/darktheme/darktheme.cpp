@@ -21,10 +21,8 @@ QPalette darkPalette()
 class DarkTheme : public QPlatformTheme
 {
 public:
-    const QPalette *palette(Palette type) const override
-    {
-        return type == SystemPalette ? &colours : nullptr;
-    }
+    // For every kind of widget one of its own, as the desktops' themes have for some.
+    const QPalette *palette(Palette /*type*/) const override { return &colours; }
 
 private:
     QPalette colours = darkPalette();
