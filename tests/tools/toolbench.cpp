@@ -91,11 +91,23 @@ void makeImage(const QString &path, QSize size)
 ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool)
 {
     QDir().mkpath(contents() + "/MacOS");
-    QDir().mkpath(contents() + "/Resources");
+    for (const char *policy : {"limits", "rights/ImageMagick"}) {
+        const QString folder = "/Resources/magick/" + QString(policy);
+        QDir().mkpath(contents() + folder);
+        QFile::copy(bundleContents() + folder + "/policy.xml", contents() + folder + "/policy.xml");
+    }
     for (const char *name : {"convert", "pdftk"})
         QFile::copy(bundledTool(name), tool(name));
     writeContent(contents() + "/Resources/convert.tool", convertTool.join('\n').toUtf8());
     writeContent(contents() + "/Resources/pdftk.tool", pdftkTool.join('\n').toUtf8());
+}
+
+RunResult runInShell(const QString &setting, const QString &program, const QStringList &arguments,
+                     const QString &folder, const Variables &variables)
+{
+    return runProgram("/bin/sh",
+                      QStringList{"-c", setting + "\nexec \"$0\" \"$@\"", program} + arguments,
+                      folder, variables);
 }
 
 QStringList shellTool(const QString &script)

@@ -30,6 +30,9 @@ RunResult runProgram(const QString &program, const QStringList &arguments, const
                      const Variables &variables = {});
 RunResult runBundled(const QString &name, const QStringList &arguments, const QString &folder,
                      const Variables &variables = {});
+/// Runs a program from a shell that has made its `setting` first: a limit, a mask, a trap.
+RunResult runInShell(const QString &setting, const QString &program, const QStringList &arguments,
+                     const QString &folder, const Variables &variables = {});
 /// packaging/assemble-tools for the bundle with this Contents.
 RunResult assembleTools(const QString &contents, const Variables &variables = {});
 

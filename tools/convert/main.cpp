@@ -32,7 +32,7 @@ unsigned long long bytesIn(const std::vector<std::string> &files)
 // MAGICK_CONFIGURE_PATH, then /etc, then XDG_CONFIG_HOME, then HOME (6.9.11 and 7.1).
 ChildSpec specFor(const ConvertLimits &limits, const std::string &pixels)
 {
-    const std::string configuration = resourcesFolder() + "/magick";
+    const std::string configuration = policyFolder();
     std::vector<std::string> variables = limitVariables(limits);
     variables.push_back("MAGICK_CONFIGURE_PATH=" + configuration + "/limits");
     variables.push_back("XDG_CONFIG_HOME=" + configuration + "/rights");
@@ -84,7 +84,6 @@ Outcome run(const Arguments &arguments)
 
 int main(int argc, char **argv)
 {
-    holdSignals();
-    return runProgram({"convert", run, [](const Arguments &arguments) { return arguments; }},
-                      {argv + 1, argv + argc});
+    return runProgram({"convert", run, [](const Arguments &arguments) { return arguments; }}, argc,
+                      argv);
 }

@@ -10,27 +10,12 @@
 
 namespace {
 
-// Arguments are readable by every user of the machine for as long as the process lives, so they
-// are gone as soon as they are read.
-Arguments takeArguments(int argc, char **argv)
-{
-    Arguments arguments(argv + 1, argv + argc);
-    const Arguments masked = maskedPdftkArguments(arguments);
-    for (size_t i = 0; i < arguments.size(); ++i) {
-        if (masked[i] != arguments[i])
-            memset(argv[i + 1], '*', arguments[i].size());
-    }
-    return arguments;
-}
-
 ChildSpec realTool()
 {
     ChildSpec spec;
     spec.command = realCommand("pdftk");
     // The JVM decodes file names and its standard input by the locale.
     spec.environment = environmentWith({"LC_ALL=C.UTF-8"});
-    // A dump of its memory would hold the passwords.
-    spec.limits = {{RLIMIT_CORE, 0}};
     return spec;
 }
 
@@ -45,6 +30,9 @@ std::string infoWord(Job &job, const PdftkCall &call, const std::string &charset
 
 Outcome finish(const PdftkCall &call, const std::string &charset)
 {
+    requireRegularFile(call.input);
+    if (!call.infoFile.empty())
+        requireRegularFile(call.infoFile);
     Job job(call.output);
     ChildSpec spec = realTool();
     spec.prompts = call.passwords;
@@ -71,7 +59,5 @@ Outcome run(const Arguments &arguments)
 
 int main(int argc, char **argv)
 {
-    const Arguments arguments = takeArguments(argc, argv);
-    holdSignals();
-    return runProgram({"pdftk", run, maskedPdftkArguments}, arguments);
+    return runProgram({"pdftk", run, maskedPdftkArguments}, argc, argv);
 }

@@ -37,6 +37,22 @@ std::string resourcesFolder()
     return folderOf(programs) + "/Resources";
 }
 
+std::string policyFolder()
+{
+    std::string folder = resourcesFolder() + "/magick";
+    // ImageMagick takes its folders as a list that colons separate.
+    if (folder.find(':') != std::string::npos)
+        throw ToolError("cannot work below a folder with a colon in its name, '" + folder + "'");
+    for (const char *file : {"/limits/policy.xml", "/rights/ImageMagick/policy.xml"}) {
+        struct stat status = {};
+        const std::string path = folder + file;
+        if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size == 0 ||
+            access(path.c_str(), R_OK) != 0)
+            throw ToolError("cannot read '" + path + "'; run packaging/assemble-tools again");
+    }
+    return folder;
+}
+
 std::vector<std::string> realCommand(const std::string &name)
 {
     static const std::string placeholder = "@Resources@";
@@ -45,8 +61,8 @@ std::vector<std::string> realCommand(const std::string &name)
     std::vector<std::string> words;
     std::string content;
     readFile(file, content);
-    replaceAll(content, placeholder, resources);
-    for (const std::string &line : linesOf(content)) {
+    for (std::string &line : linesOf(content)) {
+        replaceAll(line, placeholder, resources);
         if (std::optional<std::string> word = wordOf(line))
             words.push_back(std::move(*word));
     }

@@ -7,6 +7,11 @@
 /// link to it, or a moved or copied bundle, finds the folder that belongs to the program.
 std::string resourcesFolder();
 
+/// Where the image policy lies, as limits/policy.xml and rights/ImageMagick/policy.xml. Throws
+/// ToolError when a part of it is missing or ImageMagick could not find it: without it everything
+/// would be allowed.
+std::string policyFolder();
+
 /// The words that start the real tool `name`, one per line of Resources/<name>.tool, where
 /// "@Resources@" stands for the folder itself. A line of three fields, separated by tabs, holds a
 /// word, a file and a size: the word counts only while the file has that many bytes. Written by

@@ -13,9 +13,10 @@ int ChildResult::exitStatus() const
 
 void holdSignals()
 {
-    // A caller that ignores these would hide the child's end, or end us with a half-written
-    // message.
+    // A caller that ignores these would hide the child's end, or keep it from ending with us.
     signal(SIGCHLD, SIG_DFL);
+    signal(SIGTERM, SIG_DFL);
+    // A reader that has gone would end us with work left behind.
     signal(SIGPIPE, SIG_IGN);
     const sigset_t held = ChildPool::heldSignals();
     sigprocmask(SIG_BLOCK, &held, nullptr);

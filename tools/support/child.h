@@ -33,6 +33,8 @@ struct ChildSpec
     std::vector<std::string> environment;
     /// Descriptor of the folder to work in; -1 stays in ours.
     int folder = -1;
+    /// What the child's new files are not allowed: for the user alone, as they may be private.
+    mode_t mask = 077;
     /// Sent to the child by the kernel when this process dies, however it dies.
     int signalOnOurDeath = SIGKILL;
     /// The child is ended when it has taken longer; zero is no limit.
@@ -57,10 +59,11 @@ struct ChildResult
     int exitStatus() const;
 };
 
-/// To be called first of all: from now on SIGTERM, SIGINT, SIGHUP and SIGCHLD wait for whoever runs
-/// a child.
+/// From now on SIGCHLD, SIGTERM, SIGINT, SIGHUP and SIGQUIT wait for whoever runs a child. Of the
+/// last three, those that this process was told to ignore, by nohup perhaps, stay ignored by it and
+/// by its children.
 void holdSignals();
 
-/// Runs the child to its end, passing SIGTERM, SIGINT and SIGHUP on to it; one that has not ended
-/// some seconds after such a signal is killed. Throws ToolError when it cannot be started.
+/// Runs the child to its end, passing those signals on to it; one that has not ended some seconds
+/// after the first of them is killed. Throws ToolError when it cannot be started.
 ChildResult runChild(const ChildSpec &spec);

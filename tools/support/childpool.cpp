@@ -9,6 +9,16 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+namespace {
+
+bool isIgnored(int signal)
+{
+    struct sigaction action = {};
+    return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+} // namespace
+
 ChildPool::ChildPool()
 {
     const sigset_t held = heldSignals();
@@ -28,8 +38,10 @@ sigset_t ChildPool::heldSignals()
 {
     sigset_t set;
     sigemptyset(&set);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGCHLD})
-        sigaddset(&set, signal);
+    for (const int signal : {SIGCHLD, SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+        if (!isIgnored(signal))
+            sigaddset(&set, signal);
+    }
     return set;
 }
 

@@ -8,7 +8,7 @@
 
 class ChildProcess;
 
-/// Children at work side by side. SIGTERM, SIGINT and SIGHUP are passed on to all of them.
+/// Children at work side by side. SIGTERM, SIGINT, SIGHUP and SIGQUIT are passed on to all of them.
 class ChildPool
 {
 public:

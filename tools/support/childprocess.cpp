@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -96,8 +97,8 @@ void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environmen
         const rlimit value = {limit.value, limit.value};
         setrlimit(limit.resource, &value);
     }
-    for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGPIPE})
-        signal(number, SIG_DFL);
+    umask(m_spec.mask);
+    signal(SIGPIPE, SIG_DFL);
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -1,5 +1,6 @@
 #include "filedescriptor.h"
 
+#include <cerrno>
 #include <utility>
 
 #include <unistd.h>
@@ -23,5 +24,25 @@ FileDescriptor::~FileDescriptor()
 void FileDescriptor::close()
 {
     if (valid())
-        ::close(std::exchange(m_descriptor, -1));
+        ::close(release());
+}
+
+int FileDescriptor::release()
+{
+    return std::exchange(m_descriptor, -1);
+}
+
+bool writeAll(int file, std::string_view data)
+{
+    while (!data.empty()) {
+        const ssize_t count = write(file, data.data(), data.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            errno = count == 0 ? ENOSPC : errno;
+            return false;
+        }
+        data.remove_prefix(static_cast<size_t>(count));
+    }
+    return true;
 }

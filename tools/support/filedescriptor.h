@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 /// Owns a file descriptor; -1 is none.
 class FileDescriptor
 {
@@ -17,7 +19,12 @@ public:
     int get() const { return m_descriptor; }
     bool valid() const { return m_descriptor >= 0; }
     void close();
+    /// Leaves the descriptor to the caller.
+    int release();
 
 private:
     int m_descriptor;
 };
+
+/// Writes all of `data` to `file`; false, with errno set, when not all of it could be written.
+bool writeAll(int file, std::string_view data);

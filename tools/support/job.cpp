@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <string_view>
 
 #include <fcntl.h>
@@ -39,28 +38,69 @@ bool isWholePdf(int file)
 Job::Job(const std::string &target)
     : m_target(target)
     , m_resultName(safeFileName(fileNameOf(target)))
-    , m_folder(folderOf(target))
+    , m_folder(folderOf(m_target.path()))
+    , m_places(temporaryFolders())
 {
 }
 
 std::string Job::addInput(const std::string &path, const std::string &name)
 {
-    std::string origin = absolutePath(path);
-    if (symlinkat(origin.c_str(), m_folder.descriptor(), name.c_str()) == 0) {
-        m_inputs.emplace_back(name, path);
+    std::string word = makeKnown(absolutePath(path), name);
+    m_originalNames.emplace(word, path);
+    return word;
+}
+
+// vfat and exFAT know no links. A hard link or a copy never stands for anything but the file.
+std::string Job::makeKnown(const std::string &origin, const std::string &name)
+{
+    if (symlinkat(origin.c_str(), m_folder.descriptor(), name.c_str()) == 0)
         return name;
+    if (std::string word = linkElsewhere(origin, name); !word.empty())
+        return word;
+    if (linkat(AT_FDCWD, origin.c_str(), m_folder.descriptor(), name.c_str(), AT_SYMLINK_FOLLOW) !=
+        0)
+        copy(origin, name);
+    return name;
+}
+
+// "" when no place takes a link.
+std::string Job::linkElsewhere(const std::string &origin, const std::string &name)
+{
+    for (; !m_places.empty(); m_places.erase(m_places.begin())) {
+        try {
+            if (!m_elsewhere)
+                m_elsewhere.emplace(m_places.front());
+        } catch (const ToolError &) {
+            continue;
+        }
+        if (symlinkat(origin.c_str(), m_elsewhere->descriptor(), name.c_str()) == 0)
+            return m_elsewhere->plainPath() + "/" + name;
+        m_elsewhere.reset();
     }
-    if (errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS)
-        return origin;
-    throw systemError("cannot prepare", path);
+    return "";
+}
+
+void Job::copy(const std::string &origin, const std::string &name) const
+{
+    const FileDescriptor from(open(origin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor to(
+        openat(m_folder.descriptor(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    std::array<char, 65536> buffer{};
+    ssize_t count = -1;
+    while (from.valid() && to.valid() &&
+           (count = read(from.get(), buffer.data(), buffer.size())) > 0) {
+        if (!writeAll(to.get(), {buffer.data(), static_cast<size_t>(count)}))
+            break;
+    }
+    if (count != 0)
+        throw systemError("cannot prepare", origin);
 }
 
 std::string Job::addFile(const std::string &name, const std::string &content)
 {
     const FileDescriptor file(
         openat(m_folder.descriptor(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-    if (!file.valid() ||
-        write(file.get(), content.data(), content.size()) != static_cast<ssize_t>(content.size()))
+    if (!file.valid() || !writeAll(file.get(), content))
         throw systemError("cannot write", m_folder.path() + "/" + name);
     return name;
 }
@@ -71,22 +111,13 @@ Outcome Job::run(ChildSpec spec, const std::function<void(int file)> &polish)
     const ChildResult result = runChild(spec);
     if (result.succeeded())
         return deliver(polish);
-    Outcome outcome = {result.exitStatus(), withOriginalNames(result.output),
-                       withOriginalNames(result.errors)};
+    Outcome outcome = {result.exitStatus(), replaced(result.output, m_originalNames),
+                       replaced(result.errors, m_originalNames)};
     if (result.timedOut)
         outcome.errors += "gave up after " + std::to_string(spec.deadline.count()) + " seconds\n";
     else if (WIFSIGNALED(result.waitStatus))
         outcome.errors += "ended by signal " + std::to_string(WTERMSIG(result.waitStatus)) + "\n";
     return outcome;
-}
-
-std::string Job::withOriginalNames(std::string messages) const
-{
-    if (messages.empty())
-        return messages;
-    for (const auto &[name, path] : m_inputs)
-        replaceAll(messages, name, path);
-    return messages;
 }
 
 Outcome Job::deliver(const std::function<void(int file)> &polish) const
@@ -97,8 +128,7 @@ Outcome Job::deliver(const std::function<void(int file)> &polish) const
         return {1, "", "the tool reported success but left no whole PDF\n"};
     if (polish)
         polish(file.get());
-    if (renameat(m_folder.descriptor(), m_resultName.c_str(), AT_FDCWD, m_target.c_str()) != 0)
-        throw systemError("cannot replace", m_target);
+    m_target.replaceBy(m_folder.descriptor(), m_resultName, file.get());
     return {};
 }
 

@@ -3,10 +3,12 @@
 #include "child.h"
 #include "outcome.h"
 #include "privatefolder.h"
+#include "target.h"
+#include "words.h"
 
 #include <functional>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 /// A run of a real tool that makes one PDF. The tool works in a private folder beside the target,
@@ -18,8 +20,10 @@ public:
     /// Throws ToolError when nothing can be written beside `target`.
     explicit Job(const std::string &target);
 
-    /// Makes the file at `path` known to the tool as `name`, and returns the word for its command
-    /// line: `name`, or the absolute path where the file system knows no symbolic links.
+    /// Makes the file at `path` known to the tool by a plain path that ends in `name`, and returns
+    /// that path, which is the word for the tool's command line. Where the target's folder takes no
+    /// links, they stand in another private folder; where none does, the file is copied. Throws
+    /// ToolError when that fails too.
     std::string addInput(const std::string &path, const std::string &name);
 
     /// Puts a file of `content` into the private folder as `name`, which is returned.
@@ -33,13 +37,18 @@ public:
     Outcome run(ChildSpec spec, const std::function<void(int file)> &polish = {});
 
 private:
-    std::string withOriginalNames(std::string messages) const;
+    std::string makeKnown(const std::string &origin, const std::string &name);
+    std::string linkElsewhere(const std::string &origin, const std::string &name);
+    void copy(const std::string &origin, const std::string &name) const;
     Outcome deliver(const std::function<void(int file)> &polish) const;
 
-    std::string m_target;
+    Target m_target;
     std::string m_resultName;
     PrivateFolder m_folder;
-    std::vector<std::pair<std::string, std::string>> m_inputs;
+    /// Places for links that have not been tried yet, beginning with that of m_elsewhere.
+    std::vector<std::string> m_places;
+    std::optional<PrivateFolder> m_elsewhere;
+    Replacements m_originalNames;
 };
 
 /// Throws ToolError, naming `path`, unless a regular file that may be read is there. Opening

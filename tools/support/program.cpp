@@ -2,22 +2,28 @@
 
 #include "calllog.h"
 #include "diagnosis.h"
+#include "filedescriptor.h"
+#include "process.h"
 #include "text.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cstring>
+#include <exception>
+#include <new>
 #include <utility>
 
 #include <unistd.h>
 
 namespace {
 
-void show(int stream, const std::string &text)
+// Arguments are readable by every user of the machine for as long as the process lives, so they
+// are gone as soon as they are read.
+void wipe(char **words, const Arguments &arguments, const Arguments &masked)
 {
-    for (size_t done = 0; done < text.size();) {
-        const ssize_t count = write(stream, text.data() + done, text.size() - done);
-        if (count <= 0)
-            return;
-        done += static_cast<size_t>(count);
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        if (masked[i] != arguments[i])
+            memset(words[i], '*', arguments[i].size());
     }
 }
 
@@ -33,24 +39,31 @@ void maskMessages(Outcome &outcome, const Arguments &arguments, const Arguments 
     }
 }
 
-} // namespace
+Outcome outcomeOf(const Program &program, const Arguments &arguments)
+{
+    try {
+        return program.run(arguments);
+    } catch (const std::bad_alloc &) {
+        return {1, "", program.name + ": not enough memory\n"};
+    } catch (const std::exception &error) {
+        return {1, "", program.name + ": " + error.what() + "\n"};
+    }
+}
 
-int runProgram(const Program &program, const Arguments &arguments)
+int runGuarded(const Program &program, int argc, char **argv)
 {
     const auto start = std::chrono::steady_clock::now();
-    Outcome outcome;
-    try {
-        outcome = program.run(arguments);
-    } catch (const ToolError &error) {
-        outcome = {1, "", program.name + ": " + error.what() + "\n"};
-    }
+    const Arguments arguments(argv + std::min(argc, 1), argv + argc);
+    const Arguments masked = program.masked(arguments);
+    wipe(argv + 1, arguments, masked);
+    prepareProcess();
+    Outcome outcome = outcomeOf(program, arguments);
     if (outcome.status != 0) {
-        show(STDOUT_FILENO, outcome.output);
-        show(STDERR_FILENO, outcome.errors);
+        writeAll(STDOUT_FILENO, outcome.output);
+        writeAll(STDERR_FILENO, outcome.errors);
     }
     if (isLogging()) {
         const auto taken = std::chrono::steady_clock::now() - start;
-        const Arguments masked = program.masked(arguments);
         maskMessages(outcome, arguments, masked);
         appendToLog({program.name, masked, outcome,
                      std::chrono::duration_cast<std::chrono::milliseconds>(taken)});
@@ -58,11 +71,26 @@ int runProgram(const Program &program, const Arguments &arguments)
     return outcome.status;
 }
 
+} // namespace
+
+int runProgram(const Program &program, int argc, char **argv)
+{
+    forbidCoreDumps();
+    try {
+        return runGuarded(program, argc, argv);
+    } catch (const std::exception &error) {
+        for (const char *part : {program.name.c_str(), ": ", error.what(), "\n"})
+            writeAll(STDERR_FILENO, part);
+    }
+    return 1;
+}
+
 Outcome handOver(ChildSpec spec)
 {
     spec.capture = isLogging() ? Capture::Errors : Capture::Nothing;
+    spec.mask = userMask();
     ChildResult result = runChild(spec);
     if (result.succeeded())
-        show(STDERR_FILENO, result.errors);
+        writeAll(STDERR_FILENO, result.errors);
     return {result.exitStatus(), "", std::move(result.errors)};
 }

@@ -19,9 +19,10 @@ struct Program
     Arguments (*masked)(const Arguments &);
 };
 
-/// Runs one call and returns the exit status for main(): quiet on success, the messages shown on
-/// failure, and the whole of it logged when that is wished.
-int runProgram(const Program &program, const Arguments &arguments);
+/// All of main(): runs one call and returns the exit status. Quiet on success, the messages shown
+/// on failure, one sentence for whatever cannot be done, and the whole of it logged when that is
+/// wished. Arguments that `program` masks are wiped from `argv` first of all.
+int runProgram(const Program &program, int argc, char **argv);
 
 /// Hands a call that is not of the application's shape to the real tool: `spec`, with the standard
 /// streams passed through; only the errors take the way round by us, and only for the log.

@@ -1,0 +1,210 @@
+#include "toolbench.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// What a new PDF takes over from the one that it replaces, and what is never replaced.
+class ToolTargets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void modeIsKept_data();
+    void modeIsKept();
+    void newFileFollowsTheUmask_data();
+    void newFileFollowsTheUmask();
+    void groupIsKept();
+    void linkLeadsToTheTarget_data();
+    void linkLeadsToTheTarget();
+    void linksWithoutEndAreRefused();
+    void anotherUsersLinkInASharedFolderIsRefused();
+    void otherKindsOfFilesAreRefused_data();
+    void otherKindsOfFilesAreRefused();
+    void inputsOfOtherKindsAreRefused_data();
+    void inputsOfOtherKindsAreRefused();
+};
+
+namespace {
+
+const QByteArray newPdf = "%PDF-1.4\n%%EOF\n";
+
+// Writes newPdf to its result, which is called "o.pdf" or "link.pdf".
+QStringList goodTool()
+{
+    return shellTool("printf '%%PDF-1.4\\n%%%%EOF\\n' >\"${3#./}\"");
+}
+
+unsigned modeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : 0;
+}
+
+RunResult finish(const QString &folder, const QString &output, const QString &setting = ":")
+{
+    const ToolBundle bundle(goodTool(), goodTool());
+    writeContent(folder + "/in.pdf", "in");
+    return runInShell(setting, bundle.tool("pdftk"), {"in.pdf", "output", output}, folder);
+}
+
+} // namespace
+
+void ToolTargets::modeIsKept_data()
+{
+    QTest::addColumn<unsigned>("mode");
+    QTest::newRow("for the user alone") << 0600U;
+    QTest::newRow("for the group") << 0640U;
+    QTest::newRow("for all") << 0666U;
+    QTest::newRow("read-only") << 0444U;
+}
+
+void ToolTargets::modeIsKept()
+{
+    QFETCH(unsigned, mode);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("o.pdf"), "older");
+    QCOMPARE(chmod(QFile::encodeName(folder.filePath("o.pdf")).constData(), mode), 0);
+    QCOMPARE(finish(folder.path(), "o.pdf").errors, QByteArray());
+    QCOMPARE(modeOf(folder.filePath("o.pdf")), mode);
+    QCOMPARE(contentOf(folder.filePath("o.pdf")), newPdf);
+}
+
+void ToolTargets::newFileFollowsTheUmask_data()
+{
+    QTest::addColumn<QString>("mask");
+    QTest::addColumn<unsigned>("mode");
+    QTest::newRow("usual") << "umask 022" << 0644U;
+    QTest::newRow("shared with a group") << "umask 002" << 0664U;
+    QTest::newRow("private") << "umask 077" << 0600U;
+    QTest::newRow("for nobody") << "umask 0777" << 0U;
+}
+
+void ToolTargets::newFileFollowsTheUmask()
+{
+    QFETCH(QString, mask);
+    QFETCH(unsigned, mode);
+    const QTemporaryDir folder;
+    QCOMPARE(finish(folder.path(), "o.pdf", mask).errors, QByteArray());
+    QVERIFY(QFile::exists(folder.filePath("o.pdf")));
+    QCOMPARE(modeOf(folder.filePath("o.pdf")), mode);
+}
+
+void ToolTargets::groupIsKept()
+{
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("o.pdf"), "older");
+    const QByteArray path = QFile::encodeName(folder.filePath("o.pdf"));
+    const gid_t group = geteuid() == 0 ? 65534 : getegid();
+    QCOMPARE(chown(path.constData(), static_cast<uid_t>(-1), group), 0);
+    QCOMPARE(finish(folder.path(), "o.pdf").errors, QByteArray());
+    struct stat status = {};
+    QCOMPARE(stat(path.constData(), &status), 0);
+    QCOMPARE(status.st_gid, group);
+    QCOMPARE(contentOf(folder.filePath("o.pdf")), newPdf);
+}
+
+void ToolTargets::linkLeadsToTheTarget_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("present");
+    QTest::newRow("in the same folder") << "o.pdf" << true;
+    QTest::newRow("in another folder") << "sub/o.pdf" << true;
+    QTest::newRow("by an absolute path") << "/sub/o.pdf" << true;
+    QTest::newRow("that is not there yet") << "sub/o.pdf" << false;
+}
+
+void ToolTargets::linkLeadsToTheTarget()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, present);
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("sub"));
+    const QString file = folder.filePath(target.startsWith('/') ? target.mid(1) : target);
+    const QByteArray content = QFile::encodeName(target.startsWith('/') ? file : target);
+    if (present)
+        writeContent(file, "older");
+    const QString link = folder.filePath("link.pdf");
+    QCOMPARE(symlink(content.constData(), QFile::encodeName(link).constData()), 0);
+    QCOMPARE(finish(folder.path(), "link.pdf").errors, QByteArray());
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(!QFileInfo(file).isSymLink());
+    QCOMPARE(contentOf(file), newPdf);
+}
+
+void ToolTargets::linksWithoutEndAreRefused()
+{
+    const QTemporaryDir folder;
+    QFile::link(folder.filePath("b.pdf"), folder.filePath("a.pdf"));
+    QFile::link(folder.filePath("a.pdf"), folder.filePath("b.pdf"));
+    const RunResult result = finish(folder.path(), "a.pdf");
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains("Too many levels of symbolic links"),
+             result.errors.constData());
+}
+
+void ToolTargets::anotherUsersLinkInASharedFolderIsRefused()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can make another user's link");
+    const QTemporaryDir folder;
+    QCOMPARE(chmod(QFile::encodeName(folder.path()).constData(), 01777), 0);
+    writeContent(folder.filePath("precious"), "older");
+    const QString link = folder.filePath("link.pdf");
+    QFile::link(folder.filePath("precious"), link);
+    QCOMPARE(lchown(QFile::encodeName(link).constData(), 65534, 65534), 0);
+    const RunResult result = finish(folder.path(), "link.pdf");
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors,
+             QByteArray("pdftk: cannot replace 'link.pdf': a link of another user\n"));
+    QCOMPARE(contentOf(folder.filePath("precious")), QByteArray("older"));
+}
+
+void ToolTargets::otherKindsOfFilesAreRefused_data()
+{
+    QTest::addColumn<QString>("making");
+    QTest::newRow("a pipe") << "mkfifo o.pdf";
+    QTest::newRow("a folder") << "mkdir o.pdf";
+    QTest::newRow("a link to a device") << "ln -s /dev/null o.pdf";
+    QTest::newRow("a link to a pipe") << "mkfifo pipe; ln -s pipe o.pdf";
+}
+
+void ToolTargets::otherKindsOfFilesAreRefused()
+{
+    QFETCH(QString, making);
+    const QTemporaryDir folder;
+    const RunResult result = finish(folder.path(), "o.pdf", making);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.endsWith("not a regular file\n"), result.errors.constData());
+    QVERIFY(!QFileInfo(folder.filePath("o.pdf")).isFile());
+}
+
+void ToolTargets::inputsOfOtherKindsAreRefused_data()
+{
+    QTest::addColumn<QStringList>("call");
+    QTest::newRow("a pipe as PDF") << QStringList{"pipe", "output", "o.pdf"};
+    QTest::newRow("a device as PDF") << QStringList{"/dev/zero", "output", "o.pdf"};
+    QTest::newRow("a pipe as info file")
+        << QStringList{"in.pdf", "update_info", "pipe", "output", "o.pdf"};
+    QTest::newRow("a device as info file")
+        << QStringList{"in.pdf", "update_info", "/dev/zero", "output", "o.pdf"};
+    QTest::newRow("a folder as PDF") << QStringList{".", "output", "o.pdf"};
+}
+
+void ToolTargets::inputsOfOtherKindsAreRefused()
+{
+    QFETCH(QStringList, call);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("in.pdf"), "in");
+    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath("pipe")).constData(), 0600), 0);
+    const ToolBundle bundle(goodTool(), goodTool());
+    const RunResult result = runProgram(bundle.tool("pdftk"), call, folder.path());
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.endsWith("not a regular file\n"), result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "pipe"}));
+}
+
+QTEST_GUILESS_MAIN(ToolTargets)
+#include "tooltargets_test.moc"

@@ -1,0 +1,51 @@
+#include "process.h"
+
+#include "child.h"
+#include "diagnosis.h"
+
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr mode_t forUserAlone = 077;
+
+mode_t maskAtStart = 022;
+
+void openStandardStreams()
+{
+    int stream = 0;
+    while (stream >= 0 && stream <= STDERR_FILENO)
+        stream = open("/dev/null", O_RDWR);
+    if (stream < 0)
+        throw systemError("cannot open", "/dev/null");
+    close(stream);
+}
+
+} // namespace
+
+// Linux takes a limit of one byte as "never", for dumps to a file and to a program alike; a limit
+// of zero does not concern a program that collects dumps.
+void forbidCoreDumps()
+{
+    prctl(PR_SET_DUMPABLE, 0);
+    const rlimit never = {1, 1};
+    const rlimit zero = {0, 0};
+    if (setrlimit(RLIMIT_CORE, &never) != 0)
+        setrlimit(RLIMIT_CORE, &zero);
+}
+
+void prepareProcess()
+{
+    openStandardStreams();
+    maskAtStart = umask(forUserAlone);
+    holdSignals();
+}
+
+mode_t userMask()
+{
+    return maskAtStart;
+}

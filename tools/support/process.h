@@ -1,0 +1,15 @@
+#pragma once
+
+#include <sys/types.h>
+
+/// To be called first of all: nobody may look into the memory of this process, which holds
+/// passwords, and no core dump of it or of its children is made.
+void forbidCoreDumps();
+
+/// The standard streams are open from now on (on /dev/null if need be, so that no file of ours
+/// takes their place), new files are for the user alone, and signals wait for runChild(). Throws
+/// ToolError.
+void prepareProcess();
+
+/// The umask that this process was started with, for the files that the user gets.
+mode_t userMask();
