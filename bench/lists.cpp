@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize windowSize(552, 484);
@@ -63,7 +65,7 @@ public:
 
     double removeAll()
     {
-        auto *button = window.findChild<QPushButton *>(QStringLiteral("removeallButton"));
+        auto *button = window.findChild<QPushButton *>(u"removeallButton"_s);
         return measured([button] { button->click(); });
     }
 

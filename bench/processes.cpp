@@ -19,11 +19,13 @@
 #include <cstdio>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString imagePath(const QString &folder, int number)
 {
-    return folder + QStringLiteral("/image-%1.png").arg(number, 5, 10, QLatin1Char('0'));
+    return folder + u"/image-%1.png"_s.arg(number, 5, 10, QLatin1Char('0'));
 }
 
 QList<QUrl> images(const QString &folder, int count)
@@ -51,8 +53,8 @@ void runInWindow(const QString &folder, int count)
     Process window;
     window.show();
     setField(window, "outputfolderEdit", folder);
-    setField(window, "lineEdit_title", QStringLiteral("A"));
-    setField(window, "lineEdit_ownerpwd", QStringLiteral("b"));
+    setField(window, "lineEdit_title", u"A"_s);
+    setField(window, "lineEdit_ownerpwd", u"b"_s);
     drop(window, images(folder, count));
     printGrowth(count, [&window] { convertAll(window); });
 }
@@ -69,13 +71,13 @@ void finish(const QString &command)
 /// The same two command lines for each image, started by nobody but a loop.
 void runBare(const QString &folder, int count)
 {
-    const QString tool = QStringLiteral("\"") + QCoreApplication::applicationDirPath();
-    const QString info = QDir::currentPath() + QStringLiteral("/pdfa.txt");
+    const QString tool = u"\""_s + QCoreApplication::applicationDirPath();
+    const QString info = QDir::currentPath() + u"/pdfa.txt"_s;
     printGrowth(count, [&] {
         for (int number = 0; number < count; ++number) {
             const QString image = imagePath(folder, number);
             const QString base = image.left(image.lastIndexOf(QLatin1Char('.')));
-            finish(QStringLiteral("%1/convert\" \"%2\" \"%3.pdf\"").arg(tool, image, base));
+            finish(u"%1/convert\" \"%2\" \"%3.pdf\""_s.arg(tool, image, base));
             finish(QStringLiteral("%1/pdftk\" \"%2.pdf\" update_info \"%3\" output \"%2-1.pdf\" "
                                   "owner_pw b")
                        .arg(tool, base, info));

@@ -18,15 +18,16 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runTimeout = 300000; // ms
 
-const QString title = QStringLiteral("M\u00fcller & S\u00f6hne \u2014 Fotos \u20ac");
-const QString subject =
-    QStringLiteral("  \u0397\u03bc\u03b5\u03c1\u03bf\u03bb\u03cc\u03b3\u03b9\u03bf  ");
-const QString keywords = QStringLiteral("scan, &amp;, \u0444\u043e\u0442\u043e");
-const QString author = QStringLiteral("Zo\u00eb \U0001F600");
+const QString title = u"M\u00fcller & S\u00f6hne \u2014 Fotos \u20ac"_s;
+const QString subject = u"  \u0397\u03bc\u03b5\u03c1\u03bf\u03bb\u03cc\u03b3\u03b9\u03bf  "_s;
+const QString keywords = u"scan, &amp;, \u0444\u043e\u0442\u043e"_s;
+const QString author = u"Zo\u00eb \U0001F600"_s;
 const QByteArray ownerPassword = "0wner";
 
 QTextStream &out()
@@ -47,19 +48,14 @@ void require(bool done, const QString &step)
 QString describe(const PdfFacts &pdf)
 {
     if (!pdf.readable)
-        return QStringLiteral("not a PDF");
+        return u"not a PDF"_s;
     const QSizeF size = pdf.pageSizes.value(0);
-    QString text = QStringLiteral("%1 page(s), %2 x %3 pt")
-                       .arg(pdf.pages)
-                       .arg(size.width())
-                       .arg(size.height());
-    text += QStringLiteral(", title \"") + pdf.title + QStringLiteral("\", subject \"") +
-            pdf.subject + QStringLiteral("\", keywords \"") + pdf.keywords +
-            QStringLiteral("\", author \"") + pdf.author + QLatin1Char('"');
+    QString text = u"%1 page(s), %2 x %3 pt"_s.arg(pdf.pages).arg(size.width()).arg(size.height());
+    text += u", title \""_s + pdf.title + u"\", subject \""_s + pdf.subject + u"\", keywords \""_s +
+            pdf.keywords + u"\", author \""_s + pdf.author + QLatin1Char('"');
     if (!pdf.encrypted)
-        return text + QStringLiteral(", not encrypted");
-    return text + QStringLiteral(", encrypted (print %1, modify %2, copy %3, annotate %4)")
-                      .arg(pdf.mayPrint)
+        return text + u", not encrypted"_s;
+    return text + u", encrypted (print %1, modify %2, copy %3, annotate %4)"_s.arg(pdf.mayPrint)
                       .arg(pdf.mayModify)
                       .arg(pdf.mayCopy)
                       .arg(pdf.mayAnnotate);
@@ -102,50 +98,50 @@ bool report(const QString &path, const PdfFacts &pdf, bool asAsked)
 void fillPages(WindowDriver &driver, const QDir &folder)
 {
     const auto screenshot = [&](const QString &page) {
-        require(driver.saveScreenshot(folder.filePath(page)), QStringLiteral("save ") + page);
+        require(driver.saveScreenshot(folder.filePath(page)), u"save "_s + page);
     };
-    screenshot(QStringLiteral("page-1-files.png"));
-    require(driver.click("pushButton_ImageSetting"), QStringLiteral("open the appearance page"));
-    require(driver.choose("comboBox_pagesize", 5), QStringLiteral("choose A4"));
-    require(driver.choose("comboBox_compresstype", 5), QStringLiteral("choose JPEG"));
-    screenshot(QStringLiteral("page-2-appearance.png"));
-    require(driver.click("pushButton_PDFSetting"), QStringLiteral("open the description page"));
+    screenshot(u"page-1-files.png"_s);
+    require(driver.click("pushButton_ImageSetting"), u"open the appearance page"_s);
+    require(driver.choose("comboBox_pagesize", 5), u"choose A4"_s);
+    require(driver.choose("comboBox_compresstype", 5), u"choose JPEG"_s);
+    screenshot(u"page-2-appearance.png"_s);
+    require(driver.click("pushButton_PDFSetting"), u"open the description page"_s);
     require(driver.type("lineEdit_title", title) && driver.type("lineEdit_subject", subject) &&
                 driver.type("lineEdit_keywords", keywords) &&
                 driver.type("lineEdit_author", author),
-            QStringLiteral("type the description"));
-    screenshot(QStringLiteral("page-3-description.png"));
-    require(driver.click("pushButton_Security"), QStringLiteral("open the security page"));
+            u"type the description"_s);
+    screenshot(u"page-3-description.png"_s);
+    require(driver.click("pushButton_Security"), u"open the security page"_s);
     require(driver.type("lineEdit_ownerpwd", QString::fromLatin1(ownerPassword)) &&
                 driver.tick("checkBox_allowprint"),
-            QStringLiteral("set the owner password"));
-    screenshot(QStringLiteral("page-4-security.png"));
+            u"set the owner password"_s);
+    screenshot(u"page-4-security.png"_s);
 }
 
 void clearPages(WindowDriver &driver)
 {
     require(driver.type("lineEdit_ownerpwd", {}) && driver.tick("checkBox_allowprint", false),
-            QStringLiteral("clear the security page"));
-    require(driver.click("pushButton_PDFSetting"), QStringLiteral("open the description page"));
+            u"clear the security page"_s);
+    require(driver.click("pushButton_PDFSetting"), u"open the description page"_s);
     for (const char *field :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"})
-        require(driver.type(field, {}), QStringLiteral("clear the description"));
+        require(driver.type(field, {}), u"clear the description"_s);
 }
 
 bool oneByOne(WindowDriver &driver, const QStringList &images, const QDir &folder)
 {
-    const QDir output(folder.filePath(QStringLiteral("one-by-one")));
-    require(driver.openFiles(images), QStringLiteral("open the sample images"));
-    require(driver.clickRow(0), QStringLiteral("click on a row"));
+    const QDir output(folder.filePath(u"one-by-one"_s));
+    require(driver.openFiles(images), u"open the sample images"_s);
+    require(driver.clickRow(0), u"click on a row"_s);
     QTest::qWait(700); // the preview comes 300 ms after the click
     fillPages(driver, folder);
-    require(driver.click("pushButton_Inout"), QStringLiteral("go back to the files"));
-    require(driver.chooseFolder(output.path()), QStringLiteral("choose the output folder"));
-    require(driver.convert(runTimeout), QStringLiteral("convert one by one in time"));
+    require(driver.click("pushButton_Inout"), u"go back to the files"_s);
+    require(driver.chooseFolder(output.path()), u"choose the output folder"_s);
+    require(driver.convert(runTimeout), u"convert one by one in time"_s);
 
     bool asAsked = true;
     for (const QString &image : images) {
-        const QString path = output.filePath(QFileInfo(image).baseName() + QStringLiteral(".pdf"));
+        const QString path = output.filePath(QFileInfo(image).baseName() + u".pdf"_s);
         const PdfFacts pdf = readPdf(path);
         asAsked &= report(path, pdf, isAsAskedOneByOne(pdf, image));
     }
@@ -154,16 +150,15 @@ bool oneByOne(WindowDriver &driver, const QStringList &images, const QDir &folde
 
 bool merged(WindowDriver &driver, const QStringList &images, const QDir &folder)
 {
-    const QDir output(folder.filePath(QStringLiteral("merged")));
-    require(driver.click("pushButton_Security"), QStringLiteral("open the security page"));
+    const QDir output(folder.filePath(u"merged"_s));
+    require(driver.click("pushButton_Security"), u"open the security page"_s);
     clearPages(driver);
-    require(driver.click("pushButton_Inout"), QStringLiteral("go back to the files"));
-    require(driver.chooseFolder(output.path()), QStringLiteral("choose the output folder"));
-    require(driver.tick("checkBox_joinpdf"), QStringLiteral("tick the merge box"));
-    require(driver.convert(runTimeout), QStringLiteral("merge in time"));
+    require(driver.click("pushButton_Inout"), u"go back to the files"_s);
+    require(driver.chooseFolder(output.path()), u"choose the output folder"_s);
+    require(driver.tick("checkBox_joinpdf"), u"tick the merge box"_s);
+    require(driver.convert(runTimeout), u"merge in time"_s);
 
-    const QString path =
-        output.filePath(QFileInfo(images.first()).baseName() + QStringLiteral(".pdf"));
+    const QString path = output.filePath(QFileInfo(images.first()).baseName() + u".pdf"_s);
     const PdfFacts pdf = readPdf(path);
     return report(path, pdf, isAsAskedMerged(pdf, images.size()));
 }
@@ -171,9 +166,9 @@ bool merged(WindowDriver &driver, const QStringList &images, const QDir &folder)
 QStringList sampleImages(const QDir &samples)
 {
     QStringList images;
-    const auto files = samples.entryInfoList(
-        {"*.bmp", "*.gif", "*.jpg", "*.pbm", "*.pcx", "*.png", "*.ppm", "*.tif"}, QDir::Files,
-        QDir::Name);
+    const auto files = samples.entryInfoList({u"*.bmp"_s, u"*.gif"_s, u"*.jpg"_s, u"*.pbm"_s,
+                                              u"*.pcx"_s, u"*.png"_s, u"*.ppm"_s, u"*.tif"_s},
+                                             QDir::Files, QDir::Name);
     for (const QFileInfo &file : files)
         images << file.absoluteFilePath();
     return images;
@@ -186,18 +181,18 @@ int main(int argc, char *argv[])
     raiseArgumentLimit();
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    require(arguments.size() == 3, QStringLiteral("start: usage is tessaro-demo SAMPLES FOLDER"));
+    require(arguments.size() == 3, u"start: usage is tessaro-demo SAMPLES FOLDER"_s);
     const QStringList images = sampleImages(QDir(QDir(arguments[1]).absolutePath()));
     const QDir folder(QDir(arguments[2]).absolutePath());
-    require(images.size() == 8, QStringLiteral("find eight sample images"));
+    require(images.size() == 8, u"find eight sample images"_s);
     for (const char *name : {"one-by-one", "merged"}) {
         QDir(folder.filePath(QLatin1String(name))).removeRecursively();
-        require(folder.mkpath(QLatin1String(name)), QStringLiteral("write to ") + folder.path());
+        require(folder.mkpath(QLatin1String(name)), u"write to "_s + folder.path());
     }
 
     prepare(application);
     WindowDriver driver;
-    require(driver.show(), QStringLiteral("show the window"));
+    require(driver.show(), u"show the window"_s);
     const bool first = oneByOne(driver, images, folder);
     const bool second = merged(driver, images, folder);
     out() << "Screenshots and PDFs are in " << folder.path() << '\n';

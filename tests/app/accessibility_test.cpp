@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString accessibleName(QWidget *widget)
@@ -92,7 +94,7 @@ void AccessibilityTest::labelsAreBuddiesOfTheirFields_data()
         {"label_28", "lineEdit_userpwd"},
     };
     for (const auto &[label, field] : rows)
-        QTest::addRow("%s", field) << QString(label) << QString(field);
+        QTest::addRow("%s", field) << QString::fromUtf8(label) << QString::fromUtf8(field);
 }
 
 void AccessibilityTest::labelsAreBuddiesOfTheirFields()
@@ -138,10 +140,10 @@ void AccessibilityTest::tabLeavesTheFileList()
     WindowFixture fixture;
     fixture.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.find<QTableWidget>("inputfiletableWidget")->setFocus();
     press(Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("openfileButton"));
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"openfileButton"_s);
 }
 
 void AccessibilityTest::emptyListTakesNoFocus()
@@ -149,7 +151,7 @@ void AccessibilityTest::emptyListTakesNoFocus()
     WindowFixture fixture;
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     QCOMPARE(table->focusPolicy(), Qt::NoFocus);
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     QCOMPARE(table->focusPolicy(), Qt::StrongFocus);
     fixture.click("removeallButton");
     QCOMPARE(table->focusPolicy(), Qt::NoFocus);
@@ -161,11 +163,11 @@ void AccessibilityTest::wholeJobByKeyboard()
     WindowFixture fixture;
     fixture.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
-    const QString image = fixture.makeFile("a.jpg");
+    const QString image = fixture.makeFile(u"a.jpg"_s);
 
     QVERIFY(tabTo(fixture, "openfileButton"));
     ModalAnswer choose([&image](QWidget *dialog) {
-        auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
+        auto *name = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
         QTest::sendKeyEvent(QTest::Click, name, Qt::Key_unknown, image, Qt::NoModifier);
         QTest::keyClick(name, Qt::Key_Return);
     });
@@ -188,11 +190,11 @@ void AccessibilityTest::wholeJobByKeyboard()
     QVERIFY(tabTo(fixture, "pushButton_PDFSetting"));
     press(Qt::Key_Space);
     QVERIFY(tabTo(fixture, "lineEdit_title"));
-    typeHere("Holiday");
+    typeHere(u"Holiday"_s);
     QVERIFY(tabTo(fixture, "pushButton_Security"));
     press(Qt::Key_Space);
     QVERIFY(tabTo(fixture, "lineEdit_ownerpwd"));
-    typeHere("abc");
+    typeHere(u"abc"_s);
     QVERIFY(tabTo(fixture, "checkBox_allowprint"));
     press(Qt::Key_Space);
     QVERIFY(tabTo(fixture, "pushButton_Inout"));
@@ -203,10 +205,12 @@ void AccessibilityTest::wholeJobByKeyboard()
     QVERIFY(fixture.waitUntilQuiet());
     const auto calls = fixture.calls();
     QCOMPARE(calls.size(), 2);
-    QCOMPARE(calls[0].arguments, QStringList({"-resize", "2380x3368", "-rotate", "90",
-                                              "-monochrome", image, fixture.outputPath("a.pdf")}));
-    QCOMPARE(calls[1].arguments.mid(3), QStringList({"output", fixture.outputPath("a-1.pdf"),
-                                                     "owner_pw", "abc", "allow", "printing"}));
+    QCOMPARE(calls[0].arguments,
+             QStringList({u"-resize"_s, u"2380x3368"_s, u"-rotate"_s, u"90"_s, u"-monochrome"_s,
+                          image, fixture.outputPath(u"a.pdf"_s)}));
+    QCOMPARE(calls[1].arguments.mid(3),
+             QStringList({u"output"_s, fixture.outputPath(u"a-1.pdf"_s), u"owner_pw"_s, u"abc"_s,
+                          u"allow"_s, u"printing"_s}));
 }
 
 QTEST_MAIN(AccessibilityTest)

@@ -10,6 +10,8 @@
 #include <QProgressBar>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "convert a.jpg a.pdf": the call without the folders, to be read at a glance.
@@ -61,26 +63,28 @@ void ConversionTest::eachRunStartsTheStepsOfItsMode_data()
     QTest::addColumn<QStringList>("files");
 
     QTest::newRow("one by one without options: convert after convert")
-        << false << "" << false << QStringList{"convert a.jpg a.pdf", "convert b.png b.pdf"}
-        << QStringList{"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"};
+        << false << "" << false << QStringList{u"convert a.jpg a.pdf"_s, u"convert b.png b.pdf"_s}
+        << QStringList{u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s};
     QTest::newRow("one by one with a title: pdftk after each convert")
         << false << "T" << false
-        << QStringList{"convert a.jpg a.pdf", "pdftk a.pdf update_info pdfa.txt output a-1.pdf",
-                       "convert b.png b.pdf", "pdftk b.pdf update_info pdfa.txt output b-1.pdf"}
-        << QStringList{"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"};
+        << QStringList{u"convert a.jpg a.pdf"_s,
+                       u"pdftk a.pdf update_info pdfa.txt output a-1.pdf"_s,
+                       u"convert b.png b.pdf"_s,
+                       u"pdftk b.pdf update_info pdfa.txt output b-1.pdf"_s}
+        << QStringList{u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s};
     QTest::newRow("one by one with a permission alone: pdftk after each convert")
         << false << "" << true
-        << QStringList{"convert a.jpg a.pdf", "pdftk a.pdf output a-1.pdf allow printing",
-                       "convert b.png b.pdf", "pdftk b.pdf output b-1.pdf allow printing"}
-        << QStringList{"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"};
+        << QStringList{u"convert a.jpg a.pdf"_s, u"pdftk a.pdf output a-1.pdf allow printing"_s,
+                       u"convert b.png b.pdf"_s, u"pdftk b.pdf output b-1.pdf allow printing"_s}
+        << QStringList{u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s};
     QTest::newRow("merged without options: one convert, nothing follows")
-        << true << "" << false << QStringList{"convert a.jpg b.png a.pdf"}
-        << QStringList{"a.pdf: convert(a.jpg|b.png)"};
+        << true << "" << false << QStringList{u"convert a.jpg b.png a.pdf"_s}
+        << QStringList{u"a.pdf: convert(a.jpg|b.png)"_s};
     QTest::newRow("merged with options: one convert, one pdftk, the files swapped")
         << true << "T" << true
-        << QStringList{"convert a.jpg b.png a.pdf",
-                       "pdftk a.pdf update_info pdfa.txt output a-1.pdf allow printing"}
-        << QStringList{"a.pdf: pdftk(convert(a.jpg|b.png))"};
+        << QStringList{u"convert a.jpg b.png a.pdf"_s,
+                       u"pdftk a.pdf update_info pdfa.txt output a-1.pdf allow printing"_s}
+        << QStringList{u"a.pdf: pdftk(convert(a.jpg|b.png))"_s};
 }
 
 void ConversionTest::eachRunStartsTheStepsOfItsMode()
@@ -89,7 +93,7 @@ void ConversionTest::eachRunStartsTheStepsOfItsMode()
     QFETCH(QString, title);
     QFETCH(bool, printing);
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.png"});
+    fixture.addImages({u"a.jpg"_s, u"b.png"_s});
     fixture.setOutputFolder();
     fixture.check("checkBox_joinpdf", merged);
     fixture.check("checkBox_allowprint", printing);
@@ -107,7 +111,7 @@ void ConversionTest::progressCountsStartedImages()
     WindowFixture fixture;
     auto *bar = fixture.find<QProgressBar>("progressBar");
     QCOMPARE(bar->value(), 0);
-    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
@@ -126,12 +130,12 @@ void ConversionTest::progressCountsStartedImages()
 void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.check("checkBox_joinpdf");
     fixture.click("runButton");
     QCOMPARE(ProcessProbe::tempFiles(fixture.window),
-             QStringList({fixture.inputPath("a.jpg"), fixture.inputPath("b.jpg")}));
+             QStringList({fixture.inputPath(u"a.jpg"_s), fixture.inputPath(u"b.jpg"_s)}));
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 2);
     QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
@@ -149,16 +153,16 @@ void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
 void ConversionTest::laterRunsDeleteTheLastFinishedPdfAgain()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", "T");
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: pdftk(convert(a.jpg))"}));
-    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), fixture.outputPath("a.pdf"));
-    QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), fixture.outputPath("a-1.pdf"));
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
+    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), fixture.outputPath(u"a.pdf"_s));
+    QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), fixture.outputPath(u"a-1.pdf"_s));
 
-    fixture.type("lineEdit_title", "");
+    fixture.type("lineEdit_title", u""_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 3); // a.pdf was written anew, and deleted at the run's end
@@ -168,9 +172,9 @@ void ConversionTest::laterRunsDeleteTheLastFinishedPdfAgain()
 void ConversionTest::mergedRunWithOptionsClearsTheFinishedNames()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", "T");
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.check("checkBox_joinpdf");
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
@@ -182,7 +186,7 @@ void ConversionTest::mergedRunWithOptionsClearsTheFinishedNames()
 void ConversionTest::intermediateNamesAreSetOnlyWhenPdftkFollows()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.1.jpg"});
+    fixture.addImages({u"a.1.jpg"_s});
     fixture.setOutputFolder();
     fixture.click("runButton");
     QCOMPARE(ProcessProbe::pdftkIn(fixture.window), QString());
@@ -191,8 +195,8 @@ void ConversionTest::intermediateNamesAreSetOnlyWhenPdftkFollows()
     fixture.check("checkBox_allowcopy");
     fixture.click("runButton");
     QCOMPARE(ProcessProbe::pdftkIn(fixture.window),
-             QLatin1Char('"') + fixture.outputPath("a.pdf") + QLatin1Char('"'));
-    QCOMPARE(ProcessProbe::pdftkOut(fixture.window), fixture.outputPath("a-1.pdf"));
+             QLatin1Char('"') + fixture.outputPath(u"a.pdf"_s) + QLatin1Char('"'));
+    QCOMPARE(ProcessProbe::pdftkOut(fixture.window), fixture.outputPath(u"a-1.pdf"_s));
     QVERIFY(fixture.waitUntilQuiet());
 }
 
@@ -202,10 +206,10 @@ void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds_data()
     QTest::addColumn<int>("calls");
     QTest::addColumn<QStringList>("files");
     QTest::newRow("ticked during a one-by-one run: it ends as a merged one")
-        << false << 2 << QStringList{"a.pdf: pdftk(convert(a.jpg))"};
+        << false << 2 << QStringList{u"a.pdf: pdftk(convert(a.jpg))"_s};
     // The step after pdftk finds the file index at the row count, so it only ends the run.
     QTest::newRow("cleared during a merged run: it ends as a one-by-one run")
-        << true << 2 << QStringList{"a.pdf: pdftk(convert(a.jpg|b.jpg))"};
+        << true << 2 << QStringList{u"a.pdf: pdftk(convert(a.jpg|b.jpg))"_s};
 }
 
 void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds()
@@ -213,9 +217,9 @@ void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds()
     QFETCH(bool, mergedFirst);
     QFETCH(int, calls);
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", "T");
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.check("checkBox_joinpdf", mergedFirst);
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
@@ -230,21 +234,21 @@ void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds()
 void ConversionTest::rowsAddedMidRunAreConvertedToo()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
-    fixture.addImages({"b.jpg"});
+    fixture.addImages({u"b.jpg"_s});
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
-             QStringList({"a.pdf: convert(a.jpg)", "b.pdf: convert(b.jpg)"}));
+             QStringList({u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.jpg)"_s}));
 }
 
 void ConversionTest::rowsRemovedMidRunEndTheRun()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
@@ -252,7 +256,7 @@ void ConversionTest::rowsRemovedMidRunEndTheRun()
     fixture.click("removeButton");
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
     QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
 }
@@ -260,18 +264,18 @@ void ConversionTest::rowsRemovedMidRunEndTheRun()
 void ConversionTest::namesThatAgreeOverwriteEachOther()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.1.jpg", "a.2.jpg", "scan.jpg", "scan.png"});
+    fixture.addImages({u"a.1.jpg"_s, u"a.2.jpg"_s, u"scan.jpg"_s, u"scan.png"_s});
     fixture.setOutputFolder();
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
-             QStringList({"a.pdf: convert(a.2.jpg)", "scan.pdf: convert(scan.png)"}));
+             QStringList({u"a.pdf: convert(a.2.jpg)"_s, u"scan.pdf: convert(scan.png)"_s}));
 }
 
 void ConversionTest::secondPressStartsASecondChain()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
@@ -291,10 +295,10 @@ void ConversionTest::secondPressStartsASecondChain()
 void ConversionTest::failedToolsDoNotStopTheRun()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert("output=none exit=1");
-    fixture.type("lineEdit_title", "T");
+    fixture.tellConvert(u"output=none exit=1"_s);
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 4);
@@ -304,10 +308,10 @@ void ConversionTest::failedToolsDoNotStopTheRun()
 
 void ConversionTest::toolThatCannotBeStartedStopsTheRunThere()
 {
-    const QString tool = QCoreApplication::applicationDirPath() + QStringLiteral("/convert");
-    const QString aside = tool + QStringLiteral(".aside");
+    const QString tool = QCoreApplication::applicationDirPath() + u"/convert"_s;
+    const QString aside = tool + u".aside"_s;
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     QVERIFY(QFile::rename(tool, aside));
     fixture.click("runButton");
@@ -319,7 +323,7 @@ void ConversionTest::toolThatCannotBeStartedStopsTheRunThere()
 
     fixture.click("runButton"); // goes on with the row after
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outputFiles(), QStringList({"b.pdf: convert(b.jpg)"}));
+    QCOMPARE(fixture.outputFiles(), QStringList({u"b.pdf: convert(b.jpg)"_s}));
 }
 
 void ConversionTest::childProcessesBelongToNobody()
@@ -328,9 +332,9 @@ void ConversionTest::childProcessesBelongToNobody()
     QVERIFY(!ProcessProbe::process(fixture.window)->parent());
     QCOMPARE(ProcessProbe::process(fixture.window)->processChannelMode(),
              QProcess::SeparateChannels);
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", "T");
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.window.findChildren<QProcess *>().isEmpty());

@@ -11,9 +11,11 @@
 #include <QMimeData>
 #include <QProcess>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString childWord = QStringLiteral("--close-during-a-run");
+const QString childWord = u"--close-during-a-run"_s;
 
 /// A fake tool, held back by a gate, has been called.
 bool toolWorks()
@@ -30,16 +32,16 @@ int closeDuringARun(int argc, char *argv[])
     QDir::setCurrent(folder.path());
     Process window;
     window.show();
-    window.findChild<QLineEdit *>("outputfolderEdit")->setText(folder.path());
-    window.findChild<QLineEdit *>("lineEdit_title")->setText(arguments.at(2));
-    window.findChild<QCheckBox *>("checkBox_joinpdf")
+    window.findChild<QLineEdit *>(u"outputfolderEdit"_s)->setText(folder.path());
+    window.findChild<QLineEdit *>(u"lineEdit_title"_s)->setText(arguments.at(2));
+    window.findChild<QCheckBox *>(u"checkBox_joinpdf"_s)
         ->setChecked(arguments.at(1) == QLatin1String("merged"));
     QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(folder.filePath("a.jpg")),
-                  QUrl::fromLocalFile(folder.filePath("b.jpg"))});
+    data.setUrls({QUrl::fromLocalFile(folder.filePath(u"a.jpg"_s)),
+                  QUrl::fromLocalFile(folder.filePath(u"b.jpg"_s))});
     QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     window.dropEvent(&drop);
-    window.findChild<QPushButton *>("runButton")->click();
+    window.findChild<QPushButton *>(u"runButton"_s)->click();
 
     QTimer watcher;
     QObject::connect(&watcher, &QTimer::timeout, &window, [&window] {
@@ -93,10 +95,10 @@ void FaultsCloseTest::programEndsCleanlyAndTheToolByItself()
     QFETCH(QString, kind);
     QFETCH(QString, title);
     const QTemporaryDir folder;
-    const QString gate = folder.filePath("gate");
+    const QString gate = folder.filePath(u"gate"_s);
     for (const char *name : {"gate", "a.jpg", "b.jpg"})
         touch(folder.filePath(QLatin1String(name)));
-    qputenv("TESSARO_FAKE_LOG", folder.filePath("calls").toUtf8());
+    qputenv("TESSARO_FAKE_LOG", folder.filePath(u"calls"_s).toUtf8());
     qputenv("TESSARO_FAKE_CONVERT", "outlive gate=" + gate.toUtf8());
 
     QProcess program;
@@ -107,20 +109,21 @@ void FaultsCloseTest::programEndsCleanlyAndTheToolByItself()
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QVERIFY2(program.exitCode() == 0, messages.constData());
 
-    QVERIFY(!QFile::exists(folder.filePath("a.pdf")));
+    QVERIFY(!QFile::exists(folder.filePath(u"a.pdf"_s)));
     QVERIFY(QFile::remove(gate));
-    const QString images = kind == QLatin1String("merged")
-                               ? folder.filePath("a.jpg") + '|' + folder.filePath("b.jpg")
-                               : folder.filePath("a.jpg");
-    QTRY_COMPARE_WITH_TIMEOUT(QString::fromUtf8(contentOf(folder.filePath("a.pdf"))),
-                              QStringLiteral("convert(%1)").arg(images), 60000);
+    const QString images =
+        kind == QLatin1String("merged")
+            ? folder.filePath(u"a.jpg"_s) + QLatin1Char('|') + folder.filePath(u"b.jpg"_s)
+            : folder.filePath(u"a.jpg"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(QString::fromUtf8(contentOf(folder.filePath(u"a.pdf"_s))),
+                              u"convert(%1)"_s.arg(images), 60000);
     // Nobody is left who would start another step.
-    QCOMPARE(contentOf(folder.filePath("calls")).count('\n'), 1);
+    QCOMPARE(contentOf(folder.filePath(u"calls"_s)).count('\n'), 1);
 }
 
 int main(int argc, char *argv[])
 {
-    if (argc > 1 && argv[1] == childWord)
+    if (argc > 1 && QString::fromUtf8(argv[1]) == childWord)
         return closeDuringARun(argc, argv);
     QApplication application(argc, argv);
     FaultsCloseTest test;

@@ -13,12 +13,14 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Ended and not yet reaped, or gone.
 bool hasEnded(qint64 pid)
 {
-    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
+    QFile status(u"/proc/%1/stat"_s.arg(pid));
     if (!status.open(QIODevice::ReadOnly))
         return true;
     const QByteArray text = status.readAll();
@@ -45,12 +47,12 @@ const QList<Mode> &allModes()
 QStringList Outcome::tellTale() const
 {
     return QStringList{
-        QStringLiteral("calls: ") + calls,
-        QStringLiteral("files: ") + files.join(QStringLiteral(", ")),
-        QStringLiteral("file index: %1").arg(fileIndex),
-        QStringLiteral("progress: ") + bar,
-        QStringLiteral("pdftk run: %1 from %2").arg(lastIn, lastOut),
-        QStringLiteral("boxes: ") + boxes.join(QStringLiteral(", ")),
+        u"calls: "_s + calls,
+        u"files: "_s + files.join(u", "_s),
+        u"file index: %1"_s.arg(fileIndex),
+        u"progress: "_s + bar,
+        u"pdftk run: %1 from %2"_s.arg(lastIn, lastOut),
+        u"boxes: "_s + boxes.join(u", "_s),
     };
 }
 
@@ -70,13 +72,13 @@ FaultFixture::FaultFixture(const Mode &mode)
         }
     });
     watcher.start(5);
-    addImages({"a.jpg", "b.png"});
+    addImages({u"a.jpg"_s, u"b.png"_s});
     setOutputFolder();
     check("checkBox_joinpdf", mode.merged);
     if (mode.title)
-        type("lineEdit_title", "Holiday");
+        type("lineEdit_title", u"Holiday"_s);
     if (mode.security) {
-        type("lineEdit_ownerpwd", "abc");
+        type("lineEdit_ownerpwd", u"abc"_s);
         check("checkBox_allowprint");
     }
 }
@@ -102,7 +104,7 @@ Outcome FaultFixture::outcome()
         .calls = callLetters,
         .files = outputFiles(),
         .fileIndex = ProcessProbe::fileIndex(window),
-        .bar = QStringLiteral("%1/%2").arg(bar->value()).arg(bar->maximum()),
+        .bar = u"%1/%2"_s.arg(bar->value()).arg(bar->maximum()),
         .lastIn = shortened(ProcessProbe::lastPdftkIn(window)),
         .lastOut = shortened(ProcessProbe::lastPdftkOut(window)),
         .boxes = boxes,
@@ -166,7 +168,7 @@ void FaultFixture::setFolderWritable(bool writable)
 
 ToolPlace::ToolPlace(const QString &tool, Kind kind)
     : place(QCoreApplication::applicationDirPath() + QLatin1Char('/') + tool)
-    , aside(place + QStringLiteral(".aside"))
+    , aside(place + u".aside"_s)
 {
     if (!QFile::rename(place, aside))
         qFatal("cannot move %s aside", qPrintable(place));

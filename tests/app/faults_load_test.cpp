@@ -5,23 +5,23 @@
 #include <QDir>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QList<Mode> plainAndFull{allModes().at(0), allModes().at(3), allModes().at(4),
                                allModes().at(7)};
 
 const ExpectedOutcomes oneImageDone{
-    Outcome{"c", {"a.pdf: convert(a.jpg)"}, 0, "0/1"},
-    Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/1", "a.pdf", "a-1.pdf"},
-    Outcome{"c", {"a.pdf: convert(a.jpg)"}, 1, "0/100"},
-    Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg))"}, 1, "0/100"}};
+    Outcome{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/1"_s},
+    Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/1"_s, u"a.pdf"_s, u"a-1.pdf"_s},
+    Outcome{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 1, u"0/100"_s},
+    Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 1, u"0/100"_s}};
 
 /// Open file descriptors of this process.
 qsizetype descriptors()
 {
-    return QDir(QStringLiteral("/proc/self/fd"))
-        .entryList(QDir::NoDotAndDotDot | QDir::System)
-        .size();
+    return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::System).size();
 }
 
 } // namespace
@@ -43,9 +43,11 @@ void FaultsLoadTest::windowAnswersWhileAToolTakesLongOrTalksMuch_data()
     QTest::addColumn<Mode>("mode");
     for (const char *words : {"delay=5000", "noise=50000000"}) {
         for (const Mode &mode : plainAndFull) {
-            QTest::addRow("convert %s, %s", words, mode.name) << QString(words) << "" << mode;
+            QTest::addRow("convert %s, %s", words, mode.name)
+                << QString::fromUtf8(words) << u""_s << mode;
             if (mode.hasOptions())
-                QTest::addRow("pdftk %s, %s", words, mode.name) << "" << QString(words) << mode;
+                QTest::addRow("pdftk %s, %s", words, mode.name)
+                    << u""_s << QString::fromUtf8(words) << mode;
         }
     }
 }
@@ -71,11 +73,11 @@ void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()
 {
     FaultFixture fixture(allModes().at(3));
     QStringList names;
-    QStringList pdfs{"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"};
+    QStringList pdfs{u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s};
     for (int i = 0; i < 58; ++i) {
-        const QString name = QStringLiteral("image-%1").arg(i, 2, 10, QLatin1Char('0'));
-        names << name + ".jpg";
-        pdfs << QStringLiteral("%1.pdf: pdftk(convert(%1.jpg))").arg(name);
+        const QString name = u"image-%1"_s.arg(i, 2, 10, QLatin1Char('0'));
+        names << name + u".jpg"_s;
+        pdfs << u"%1.pdf: pdftk(convert(%1.jpg))"_s.arg(name);
     }
     fixture.addImages(names);
     const qsizetype before = descriptors();
@@ -83,7 +85,7 @@ void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()
     QVERIFY(fixture.runUntilQuiet());
     QCOMPARE(descriptors(), before);
     QCOMPARE(fixture.outputFiles(), pdfs);
-    QCOMPARE(fixture.outcome().calls, QStringLiteral("cp").repeated(60));
+    QCOMPARE(fixture.outcome().calls, u"cp"_s.repeated(60));
 }
 
 QTEST_MAIN(FaultsLoadTest)

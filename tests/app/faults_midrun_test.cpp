@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum Moment { WhileConverting, WhileFinishing };
@@ -14,7 +16,7 @@ using Action = std::function<void(FaultFixture &)>;
 
 void addRow(FaultFixture &fixture)
 {
-    fixture.addImages({"c.gif"});
+    fixture.addImages({u"c.gif"_s});
 }
 
 void removeRow(FaultFixture &fixture, int row)
@@ -49,12 +51,13 @@ void toggleMerging(FaultFixture &fixture)
     box->setChecked(!box->isChecked());
 }
 
-const Outcome allDone{"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"};
-const Outcome onlyFirst{"c", {"a.pdf: convert(a.jpg)"}, 0, "0/2"};
-const Outcome onlyFirstFinished{"cp",     {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "a.pdf",
-                                "a-1.pdf"};
-const Outcome mergedDone{"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"};
-const Outcome mergedFinished{"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"};
+const Outcome allDone{
+    u"cc"_s, {u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s};
+const Outcome onlyFirst{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/2"_s};
+const Outcome onlyFirstFinished{
+    u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/2"_s, u"a.pdf"_s, u"a-1.pdf"_s};
+const Outcome mergedDone{u"c"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s};
+const Outcome mergedFinished{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s}, 2, u"0/100"_s};
 
 struct Change
 {
@@ -69,17 +72,17 @@ const QList<Change> changes{
     {"row added while converting",
      WhileConverting,
      addRow,
-     {Outcome{"ccc",
-              {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)", "c.pdf: convert(c.gif)"},
+     {Outcome{u"ccc"_s,
+              {u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s, u"c.pdf: convert(c.gif)"_s},
               0,
-              "0/3"},
-      Outcome{"cpcpcp",
-              {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))",
-               "c.pdf: pdftk(convert(c.gif))"},
+              u"0/3"_s},
+      Outcome{u"cpcpcp"_s,
+              {u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s,
+               u"c.pdf: pdftk(convert(c.gif))"_s},
               0,
-              "0/3",
-              "c.pdf",
-              "c-1.pdf"},
+              u"0/3"_s,
+              u"c.pdf"_s,
+              u"c-1.pdf"_s},
       mergedDone, mergedFinished}},
     // The rows behind move up, so the count passes over the second image.
     {"row of the image at work removed",
@@ -94,29 +97,43 @@ const QList<Change> changes{
     {"list emptied",
      WhileConverting,
      emptyList,
-     {Outcome{"c", {"a.pdf: convert(a.jpg)"}, 1, "1/2", {}, {}, {"Empty input"}},
-      Outcome{
-          "cp", {"a.pdf: pdftk(convert(a.jpg))"}, 1, "1/2", "a.pdf", "a-1.pdf", {"Empty input"}},
+     {Outcome{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 1, u"1/2"_s, {}, {}, {u"Empty input"_s}},
+      Outcome{u"cp"_s,
+              {u"a.pdf: pdftk(convert(a.jpg))"_s},
+              1,
+              u"1/2"_s,
+              u"a.pdf"_s,
+              u"a-1.pdf"_s,
+              {u"Empty input"_s}},
       mergedDone, mergedFinished}},
     // The rows change places: the image at work comes twice, the other one never.
     {"list sorted the other way round",
      WhileConverting,
      sortBackwards,
-     {Outcome{"cc", {"a.pdf: convert(a.jpg)"}, 0, "0/2"},
-      Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "a.pdf", "a-1.pdf"}, mergedDone,
-      mergedFinished}},
+     {Outcome{u"cc"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/2"_s},
+      Outcome{
+          u"cpcp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/2"_s, u"a.pdf"_s, u"a-1.pdf"_s},
+      mergedDone, mergedFinished}},
 
     // The box is read at each entry, and once more when convert ends.
     {"merge box toggled while converting",
      WhileConverting,
      toggleMerging,
-     {Outcome{"cc", {"a.pdf: convert(a.jpg|b.png)"}, 2, "1/2"},
-      Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg))"}, 1, "1/2"}, mergedDone,
-      Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 0, "0/100", "a.pdf", "a-1.pdf"}}},
+     {Outcome{u"cc"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"1/2"_s},
+      Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 1, u"1/2"_s}, mergedDone,
+      Outcome{u"cp"_s,
+              {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s},
+              0,
+              u"0/100"_s,
+              u"a.pdf"_s,
+              u"a-1.pdf"_s}}},
     {"merge box toggled while finishing",
      WhileFinishing,
      toggleMerging,
-     {{}, Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "1/2"}, {}, mergedFinished}},
+     {{},
+      Outcome{u"cpcp"_s, {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s}, 2, u"1/2"_s},
+      {},
+      mergedFinished}},
 };
 
 struct Presses
@@ -127,24 +144,28 @@ struct Presses
 };
 
 const Outcome allFinishedTwice{
-    "ccppcpcp", {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"}, 0, "0/2", "b.pdf",
-    "b-1.pdf"};
+    u"ccppcpcp"_s,
+    {u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s},
+    0,
+    u"0/2"_s,
+    u"b.pdf"_s,
+    u"b-1.pdf"_s};
 
 // Two chains work through one count. Whichever passes the end first starts it over, and the other
 // one goes through all rows again.
 const QList<Presses> presses{
     {"pressed twice",
      2,
-     {Outcome{"cccc", allDone.files, 0, "0/2"}, allFinishedTwice,
-      Outcome{"cc", mergedDone.files, 2, "0/100"},
-      Outcome{"ccpp", mergedFinished.files, 2, "0/100"}}},
+     {Outcome{u"cccc"_s, allDone.files, 0, u"0/2"_s}, allFinishedTwice,
+      Outcome{u"cc"_s, mergedDone.files, 2, u"0/100"_s},
+      Outcome{u"ccpp"_s, mergedFinished.files, 2, u"0/100"_s}}},
     // The third press finds the count at the end and starts it over for both chains.
     {"pressed three times",
      3,
-     {Outcome{"cccccc", allDone.files, 0, "0/2"},
+     {Outcome{u"cccccc"_s, allDone.files, 0, u"0/2"_s},
       {},
-      Outcome{"ccc", mergedDone.files, 2, "0/100"},
-      Outcome{"cccppp", mergedFinished.files, 2, "0/100"}}},
+      Outcome{u"ccc"_s, mergedDone.files, 2, u"0/100"_s},
+      Outcome{u"cccppp"_s, mergedFinished.files, 2, u"0/100"_s}}},
 };
 
 } // namespace
@@ -257,7 +278,7 @@ void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
     Outcome outcome = fixture.outcome();
     std::ranges::sort(outcome.calls);
     Outcome expected = allFinishedTwice;
-    expected.calls = QStringLiteral("ccccccpppppp");
+    expected.calls = u"ccccccpppppp"_s;
     QCOMPARE(outcome.tellTale(), expected.tellTale());
 }
 
@@ -267,11 +288,11 @@ void FaultsMidrunTest::nextRunDeletesTheLastPdfOfTheOneBefore()
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     fixture.click("removeallButton");
-    fixture.addImages({"c.gif"});
+    fixture.addImages({u"c.gif"_s});
     fixture.click("runButton"); // other images, with options all the same
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
-             QStringList({"a.pdf: pdftk(convert(a.jpg))", "c.pdf: pdftk(convert(c.gif))"}));
+             QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s, u"c.pdf: pdftk(convert(c.gif))"_s}));
 }
 
 void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles()
@@ -289,8 +310,8 @@ void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles(
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
-             QStringList({"a.pdf: pdftk(convert(a.jpg|b.png))", "b-1.pdf: pdftk(convert(b.png))",
-                          "b.pdf: convert(b.png)"}));
+             QStringList({u"a.pdf: pdftk(convert(a.jpg|b.png))"_s,
+                          u"b-1.pdf: pdftk(convert(b.png))"_s, u"b.pdf: convert(b.png)"_s}));
 }
 
 QTEST_MAIN(FaultsMidrunTest)

@@ -6,12 +6,14 @@
 #include <QFile>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Action = std::function<void(FaultFixture &)>;
 
-const Outcome noneFinished{"cpcp", {}, 0, "0/2", "b.pdf", "b-1.pdf"};
-const Outcome refused{"", {}, 0, "0/100", {}, {}, {"Invalid order"}};
+const Outcome noneFinished{u"cpcp"_s, {}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s};
+const Outcome refused{u""_s, {}, 0, u"0/100"_s, {}, {}, {u"Invalid order"_s}};
 
 void removeOutput(FaultFixture &fixture)
 {
@@ -25,24 +27,24 @@ void closeOutput(FaultFixture &fixture)
 
 void removeSecondImage(FaultFixture &fixture)
 {
-    QFile::remove(fixture.inputPath("b.png"));
+    QFile::remove(fixture.inputPath(u"b.png"_s));
 }
 
 void removeFirstImage(FaultFixture &fixture)
 {
-    QFile::remove(fixture.inputPath("a.jpg"));
+    QFile::remove(fixture.inputPath(u"a.jpg"_s));
 }
 
 void replaceSecondImage(FaultFixture &fixture)
 {
     removeSecondImage(fixture);
-    fixture.makeFile("b.png", "another image");
+    fixture.makeFile(u"b.png"_s, "another image");
 }
 
 void replaceSecondImageByAFolder(FaultFixture &fixture)
 {
     removeSecondImage(fixture);
-    QDir().mkdir(fixture.inputPath("b.png"));
+    QDir().mkdir(fixture.inputPath(u"b.png"_s));
 }
 
 struct PlaceFault
@@ -56,13 +58,14 @@ const QList<PlaceFault> beforeTheRun{
     {"output folder removed", removeOutput, {refused, refused, refused, refused}},
     {"output folder read-only",
      closeOutput,
-     {Outcome{"cc", {}, 0, "0/2"}, noneFinished, Outcome{"c", {}, 2, "0/100"},
-      Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"cc"_s, {}, 0, u"0/2"_s}, noneFinished, Outcome{u"c"_s, {}, 2, u"0/100"_s},
+      Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
     {"first image removed",
      removeFirstImage,
-     {Outcome{"cc", {"b.pdf: convert(b.png)"}, 0, "0/2"},
-      Outcome{"cpcp", {"b.pdf: pdftk(convert(b.png))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
-      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"cc"_s, {u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s},
+      Outcome{
+          u"cpcp"_s, {u"b.pdf: pdftk(convert(b.png))"_s}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s},
+      Outcome{u"c"_s, {}, 2, u"0/100"_s}, Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
 };
 
 // While the first call of convert is held back.
@@ -71,35 +74,37 @@ const QList<PlaceFault> duringTheRun{
     // has no next entry.
     {"output folder removed",
      removeOutput,
-     {Outcome{"c", {}, 1, "1/2", {}, {}, {"Invalid order"}},
-      Outcome{"cp", {}, 1, "1/2", "a.pdf", "a-1.pdf", {"Invalid order"}},
-      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"c"_s, {}, 1, u"1/2"_s, {}, {}, {u"Invalid order"_s}},
+      Outcome{u"cp"_s, {}, 1, u"1/2"_s, u"a.pdf"_s, u"a-1.pdf"_s, {u"Invalid order"_s}},
+      Outcome{u"c"_s, {}, 2, u"0/100"_s}, Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
     {"output folder made read-only",
      closeOutput,
-     {Outcome{"cc", {}, 0, "0/2"}, noneFinished, Outcome{"c", {}, 2, "0/100"},
-      Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"cc"_s, {}, 0, u"0/2"_s}, noneFinished, Outcome{u"c"_s, {}, 2, u"0/100"_s},
+      Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
     {"second image removed",
      removeSecondImage,
-     {Outcome{"cc", {"a.pdf: convert(a.jpg)"}, 0, "0/2"},
-      Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
-      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"cc"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/2"_s},
+      Outcome{
+          u"cpcp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s},
+      Outcome{u"c"_s, {}, 2, u"0/100"_s}, Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
     // The window holds names and nothing of the images: a tool reads what is there at its turn.
     {"second image replaced",
      replaceSecondImage,
-     {Outcome{"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"},
-      Outcome{"cpcp",
-              {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"},
+     {Outcome{u"cc"_s, {u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s},
+      Outcome{u"cpcp"_s,
+              {u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s},
               0,
-              "0/2",
-              "b.pdf",
-              "b-1.pdf"},
-      Outcome{"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"},
-      Outcome{"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"}}},
+              u"0/2"_s,
+              u"b.pdf"_s,
+              u"b-1.pdf"_s},
+      Outcome{u"c"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s},
+      Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s}, 2, u"0/100"_s}}},
     {"second image replaced by a folder",
      replaceSecondImageByAFolder,
-     {Outcome{"cc", {"a.pdf: convert(a.jpg)"}, 0, "0/2"},
-      Outcome{"cpcp", {"a.pdf: pdftk(convert(a.jpg))"}, 0, "0/2", "b.pdf", "b-1.pdf"},
-      Outcome{"c", {}, 2, "0/100"}, Outcome{"cp", {}, 2, "0/100"}}},
+     {Outcome{u"cc"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/2"_s},
+      Outcome{
+          u"cpcp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s},
+      Outcome{u"c"_s, {}, 2, u"0/100"_s}, Outcome{u"cp"_s, {}, 2, u"0/100"_s}}},
 };
 
 void addPlaceFaults(const QList<PlaceFault> &faults)
@@ -126,7 +131,7 @@ public:
     ~InfoFileInTheWay() { QDir().rmdir(name); }
 
 private:
-    const QString name = QStringLiteral("pdfa.txt");
+    const QString name = u"pdfa.txt"_s;
 };
 
 } // namespace
@@ -195,19 +200,19 @@ void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile_data()
     QTest::addColumn<Mode>("mode");
     QTest::addColumn<Outcome>("expected");
     const QList<Outcome> outcomes{
-        {"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"},
+        {u"cc"_s, {u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s},
         noneFinished,
-        {"cpcp",
-         {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"},
+        {u"cpcp"_s,
+         {u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s},
          0,
-         "0/2",
-         "b.pdf",
-         "b-1.pdf"},
+         u"0/2"_s,
+         u"b.pdf"_s,
+         u"b-1.pdf"_s},
         noneFinished,
-        {"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"},
-        {"cp", {}, 2, "0/100"},
-        {"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"},
-        {"cp", {}, 2, "0/100"},
+        {u"c"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s},
+        {u"cp"_s, {}, 2, u"0/100"_s},
+        {u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s}, 2, u"0/100"_s},
+        {u"cp"_s, {}, 2, u"0/100"_s},
     };
     QCOMPARE(outcomes.size(), allModes().size());
     for (qsizetype i = 0; i < outcomes.size(); ++i)
@@ -225,7 +230,7 @@ void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile()
     QVERIFY(fixture.answers());
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
     if (mode.title)
-        QCOMPARE(fixture.calls().at(1).arguments.first(), fixture.outputPath("a.pdf111"));
+        QCOMPARE(fixture.calls().at(1).arguments.first(), fixture.outputPath(u"a.pdf111"_s));
 }
 
 void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed_data()
@@ -234,15 +239,15 @@ void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed_data()
     QTest::addColumn<QString>("pdftk");
     QTest::addColumn<QStringList>("files");
     QTest::newRow("left alone without options")
-        << allModes().at(0) << "" << QStringList{"a.pdf: older"};
+        << allModes().at(0) << "" << QStringList{u"a.pdf: older"_s};
     QTest::newRow("finished with options")
-        << allModes().at(3) << "" << QStringList{"a.pdf: pdftk(older)"};
+        << allModes().at(3) << "" << QStringList{u"a.pdf: pdftk(older)"_s};
     QTest::newRow("lost when it cannot be finished")
         << allModes().at(3) << "output=none exit=1" << QStringList{};
     QTest::newRow("left alone without options, merged")
-        << allModes().at(4) << "" << QStringList{"a.pdf: older"};
+        << allModes().at(4) << "" << QStringList{u"a.pdf: older"_s};
     QTest::newRow("finished with options, merged")
-        << allModes().at(7) << "" << QStringList{"a.pdf: pdftk(older)"};
+        << allModes().at(7) << "" << QStringList{u"a.pdf: pdftk(older)"_s};
 }
 
 void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed()
@@ -250,10 +255,10 @@ void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed()
     QFETCH(Mode, mode);
     QFETCH(QString, pdftk);
     FaultFixture fixture(mode);
-    QFile older(fixture.outputPath("a.pdf"));
+    QFile older(fixture.outputPath(u"a.pdf"_s));
     QVERIFY(older.open(QIODevice::WriteOnly) && older.write("older") > 0);
     older.close();
-    fixture.tellConvert("output=none exit=1");
+    fixture.tellConvert(u"output=none exit=1"_s);
     fixture.tellPdftk(pdftk);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());

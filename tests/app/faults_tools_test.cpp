@@ -6,42 +6,49 @@
 #include <csignal>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Shared ends of a run of a.jpg and b.png.
 
-const Outcome allDone{"cc", {"a.pdf: convert(a.jpg)", "b.pdf: convert(b.png)"}, 0, "0/2"};
-const Outcome allFinished{"cpcp",  {"a.pdf: pdftk(convert(a.jpg))", "b.pdf: pdftk(convert(b.png))"},
-                          0,       "0/2",
-                          "b.pdf", "b-1.pdf"};
-const Outcome mergedDone{"c", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100"};
-const Outcome mergedFinished{"cp", {"a.pdf: pdftk(convert(a.jpg|b.png))"}, 2, "0/100"};
+const Outcome allDone{
+    u"cc"_s, {u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s};
+const Outcome allFinished{
+    u"cpcp"_s,  {u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s},
+    0,          u"0/2"_s,
+    u"b.pdf"_s, u"b-1.pdf"_s};
+const Outcome mergedDone{u"c"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s};
+const Outcome mergedFinished{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg|b.png))"_s}, 2, u"0/100"_s};
 
-const Outcome noneDone{"cc", {}, 0, "0/2"};
-const Outcome noneFinished{"cpcp", {}, 0, "0/2", "b.pdf", "b-1.pdf"};
-const Outcome noMerged{"c", {}, 2, "0/100"};
-const Outcome noMergedFinished{"cp", {}, 2, "0/100"};
+const Outcome noneDone{u"cc"_s, {}, 0, u"0/2"_s};
+const Outcome noneFinished{u"cpcp"_s, {}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s};
+const Outcome noMerged{u"c"_s, {}, 2, u"0/100"_s};
+const Outcome noMergedFinished{u"cp"_s, {}, 2, u"0/100"_s};
 
-const Outcome stoppedAtFirst{"", {}, 1, "1/2"};
-const Outcome mergedNotStarted{"", {}, 2, "0/100"};
-const Outcome hangsAtFirst{"c", {}, 1, "1/2"};
+const Outcome stoppedAtFirst{u""_s, {}, 1, u"1/2"_s};
+const Outcome mergedNotStarted{u""_s, {}, 2, u"0/100"_s};
+const Outcome hangsAtFirst{u"c"_s, {}, 1, u"1/2"_s};
 
 // The names of a pdftk run that never ends are kept as they went into its command line.
-const Outcome firstNotFinished{"c", {"a.pdf: convert(a.jpg)"}, 1, "1/2", "\"a.pdf\"", "a-1.pdf"};
-const Outcome mergedNotFinished{"c",      {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100", "\"a.pdf\"",
-                                "a-1.pdf"};
-const Outcome hangsAtFirstFinish{"cp", {"a.pdf: convert(a.jpg)"}, 1, "1/2", "\"a.pdf\"", "a-1.pdf"};
+const Outcome firstNotFinished{
+    u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 1, u"1/2"_s, u"\"a.pdf\""_s, u"a-1.pdf"_s};
+const Outcome mergedNotFinished{
+    u"c"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s, u"\"a.pdf\""_s, u"a-1.pdf"_s};
+const Outcome hangsAtFirstFinish{
+    u"cp"_s, {u"a.pdf: convert(a.jpg)"_s}, 1, u"1/2"_s, u"\"a.pdf\""_s, u"a-1.pdf"_s};
 const Outcome hangsAtMergedFinish{
-    "cp", {"a.pdf: convert(a.jpg|b.png)"}, 2, "0/100", "\"a.pdf\"", "a-1.pdf"};
+    u"cp"_s, {u"a.pdf: convert(a.jpg|b.png)"_s}, 2, u"0/100"_s, u"\"a.pdf\""_s, u"a-1.pdf"_s};
 
-const Outcome partialDone{"cc", {"a.pdf: partial", "b.pdf: partial"}, 0, "0/2"};
+const Outcome partialDone{u"cc"_s, {u"a.pdf: partial"_s, u"b.pdf: partial"_s}, 0, u"0/2"_s};
 const Outcome partialThenFinished{
-    "cpcp", {"a.pdf: pdftk(partial)", "b.pdf: pdftk(partial)"}, 0, "0/2", "b.pdf", "b-1.pdf"};
-const Outcome partialMerged{"c", {"a.pdf: partial"}, 2, "0/100"};
-const Outcome partialMergedThenFinished{"cp", {"a.pdf: pdftk(partial)"}, 2, "0/100"};
-const Outcome partialFinish{"cpcp",   {"a.pdf: partial", "b.pdf: partial"}, 0, "0/2", "b.pdf",
-                            "b-1.pdf"};
-const Outcome partialMergedFinish{"cp", {"a.pdf: partial"}, 2, "0/100"};
+    u"cpcp"_s,   {u"a.pdf: pdftk(partial)"_s, u"b.pdf: pdftk(partial)"_s}, 0, u"0/2"_s, u"b.pdf"_s,
+    u"b-1.pdf"_s};
+const Outcome partialMerged{u"c"_s, {u"a.pdf: partial"_s}, 2, u"0/100"_s};
+const Outcome partialMergedThenFinished{u"cp"_s, {u"a.pdf: pdftk(partial)"_s}, 2, u"0/100"_s};
+const Outcome partialFinish{
+    u"cpcp"_s, {u"a.pdf: partial"_s, u"b.pdf: partial"_s}, 0, u"0/2"_s, u"b.pdf"_s, u"b-1.pdf"_s};
+const Outcome partialMergedFinish{u"cp"_s, {u"a.pdf: partial"_s}, 2, u"0/100"_s};
 
 struct ToolFault
 {
@@ -129,7 +136,8 @@ void FaultsToolsTest::everyFaultEndsAsTheModeSays_data()
         for (const Mode &mode : allModes()) {
             if (const auto &outcome = fault.outcomes.of(mode))
                 QTest::addRow("%s, %s", fault.name, mode.name)
-                    << QString(fault.convert) << QString(fault.pdftk) << mode << *outcome;
+                    << QString::fromUtf8(fault.convert) << QString::fromUtf8(fault.pdftk) << mode
+                    << *outcome;
         }
     }
 }
@@ -140,8 +148,8 @@ void FaultsToolsTest::everyFaultEndsAsTheModeSays()
     QFETCH(QString, pdftk);
     QFETCH(Mode, mode);
     QFETCH(Outcome, expected);
-    const auto convertAway = absentTool(QStringLiteral("convert"), convert);
-    const auto pdftkAway = absentTool(QStringLiteral("pdftk"), pdftk);
+    const auto convertAway = absentTool(u"convert"_s, convert);
+    const auto pdftkAway = absentTool(u"pdftk"_s, pdftk);
     FaultFixture fixture(mode);
     fixture.tellConvert(convert);
     fixture.tellPdftk(pdftk);
@@ -163,10 +171,12 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool_data()
     QTest::addColumn<Outcome>("expected");
     QTest::newRow("convert was missing: the first image stays without a PDF")
         << "convert"
-        << Outcome{"cp", {"b.pdf: pdftk(convert(b.png))"}, 0, "0/2", "b.pdf", "b-1.pdf"};
+        << Outcome{u"cp"_s,     {u"b.pdf: pdftk(convert(b.png))"_s}, 0, u"0/2"_s, u"b.pdf"_s,
+                   u"b-1.pdf"_s};
     QTest::newRow("pdftk was missing: the first PDF is deleted at the next entry")
         << "pdftk"
-        << Outcome{"ccp", {"b.pdf: pdftk(convert(b.png))"}, 0, "0/2", "b.pdf", "b-1.pdf"};
+        << Outcome{u"ccp"_s,    {u"b.pdf: pdftk(convert(b.png))"_s}, 0, u"0/2"_s, u"b.pdf"_s,
+                   u"b-1.pdf"_s};
 }
 
 void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
@@ -186,13 +196,13 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
 void FaultsToolsTest::killedToolLetsTheRunGoOn()
 {
     FaultFixture fixture(allModes().at(0));
-    fixture.tellConvert("hang");
+    fixture.tellConvert(u"hang"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitForCalls(1));
     fixture.tellConvert({});
     kill(static_cast<pid_t>(fixture.calls().first().pid), SIGKILL);
     QVERIFY(fixture.waitUntilQuiet());
-    const Outcome expected{"cc", {"b.pdf: convert(b.png)"}, 0, "0/2"};
+    const Outcome expected{u"cc"_s, {u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s};
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
 }
 

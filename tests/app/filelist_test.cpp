@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 gibibyte = qint64(1024) * 1024 * 1024;
@@ -59,7 +61,7 @@ FileDialogFacts openFiles(WindowFixture &fixture, const QStringList &paths)
 
 QByteArray settingsFile()
 {
-    QFile file(QStringLiteral("setting.ini"));
+    QFile file(u"setting.ini"_s);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
@@ -97,19 +99,20 @@ private slots:
 void FileListTest::init()
 {
     WindowFixture fixture; // goes to the bundle's folder
-    QFile::remove(QStringLiteral("setting.ini"));
+    QFile::remove(u"setting.ini"_s);
 }
 
 void FileListTest::openDialogAsksForImages()
 {
     WindowFixture fixture;
     const FileDialogFacts dialog = openFiles(fixture, {});
-    QCOMPARE(dialog.caption, QStringLiteral("Choose files to convert"));
-    QCOMPARE(dialog.filters,
-             QStringList({"All Supported Formats(*.bmp *.gif *.jpg *.pbm *.pcx *.png *.ppm *.tif)",
-                          "BMP File(*.bmp)", "GIF File(*.gif)", "JPEG File(*.jpg;*.jpeg)",
-                          "PBM File(*.pbm)", "PCX File(*.pcx)", "PNG File(*.png)",
-                          "PPM File(*.ppm)", "TIF File(*.tif;*.tiff)", "ALL files(*.*)"}));
+    QCOMPARE(dialog.caption, u"Choose files to convert"_s);
+    QCOMPARE(
+        dialog.filters,
+        QStringList({u"All Supported Formats(*.bmp *.gif *.jpg *.pbm *.pcx *.png *.ppm *.tif)"_s,
+                     u"BMP File(*.bmp)"_s, u"GIF File(*.gif)"_s, u"JPEG File(*.jpg;*.jpeg)"_s,
+                     u"PBM File(*.pbm)"_s, u"PCX File(*.pcx)"_s, u"PNG File(*.png)"_s,
+                     u"PPM File(*.ppm)"_s, u"TIF File(*.tif;*.tiff)"_s, u"ALL files(*.*)"_s}));
     QCOMPARE(dialog.folder, QDir::currentPath());
     QCOMPARE(dialog.fileMode, QFileDialog::ExistingFiles);
     QCOMPARE(dialog.options, QFileDialog::Options());
@@ -119,37 +122,36 @@ void FileListTest::openDialogAsksForImages()
 void FileListTest::chosenFilesAreListedInTheirOrder()
 {
     WindowFixture fixture;
-    fixture.addImages({"z.jpg"});
-    openFiles(fixture, {fixture.makeFile("c.jpg"), fixture.makeFile("my a.png"),
-                        fixture.makeFile("b.gif", "")});
-    QCOMPARE(rowsOf(fixture), QStringList({"z.jpg|         0.005KB", "c.jpg|         0.005KB",
-                                           "my a.png|         0.005KB", "b.gif"}));
+    fixture.addImages({u"z.jpg"_s});
+    openFiles(fixture, {fixture.makeFile(u"c.jpg"_s), fixture.makeFile(u"my a.png"_s),
+                        fixture.makeFile(u"b.gif"_s, "")});
+    QCOMPARE(rowsOf(fixture), QStringList({u"z.jpg|         0.005KB"_s, u"c.jpg|         0.005KB"_s,
+                                           u"my a.png|         0.005KB"_s, u"b.gif"_s}));
 }
 
 void FileListTest::cancelledDialogChangesNothing()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     openFiles(fixture, {});
-    QCOMPARE(rowsOf(fixture), QStringList({"a.jpg|         0.005KB"}));
+    QCOMPARE(rowsOf(fixture), QStringList({u"a.jpg|         0.005KB"_s}));
     QCOMPARE(selectedRows(fixture), QList<int>());
     QCOMPARE(settingsFile(), QByteArray("none"));
 }
 
 void FileListTest::folderOfTheFirstFileIsRemembered()
 {
-    const QString kept = QStringLiteral("/");
+    const QString kept = u"/"_s;
     QTemporaryDir other;
-    QFile file(other.filePath("b.jpg"));
+    QFile file(other.filePath(u"b.jpg"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
     QString folder;
     {
-        QSettings(QStringLiteral("setting.ini"), QSettings::IniFormat)
-            .setValue(QStringLiteral("dir/output"), kept);
+        QSettings(u"setting.ini"_s, QSettings::IniFormat).setValue(u"dir/output"_s, kept);
         WindowFixture fixture;
-        folder = QFileInfo(fixture.inputPath("a.jpg")).absolutePath();
-        openFiles(fixture, {fixture.makeFile("a.jpg"), file.fileName()});
+        folder = QFileInfo(fixture.inputPath(u"a.jpg"_s)).absolutePath();
+        openFiles(fixture, {fixture.makeFile(u"a.jpg"_s), file.fileName()});
         QCOMPARE(settingsFile(),
                  QByteArray("[dir]\ninput=") + folder.toUtf8() + QByteArray("\noutput=/\n"));
         WindowFixture next; // another run of the program, while the folder still stands
@@ -160,10 +162,10 @@ void FileListTest::folderOfTheFirstFileIsRemembered()
 void FileListTest::firstRowBecomesCurrentAndSelectedToo()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->selectRow(1);
-    openFiles(fixture, {fixture.makeFile("d.jpg")});
+    openFiles(fixture, {fixture.makeFile(u"d.jpg"_s)});
     QCOMPARE(table->currentRow(), 0);
     QCOMPARE(selectedRows(fixture), QList<int>({0, 1}));
     QVERIFY(ProcessProbe::previewTimer(fixture.window)->isActive());
@@ -187,7 +189,7 @@ void FileListTest::sizeColumnShowsTheLowBitsOfTheSize()
     QFETCH(qint64, bytes);
     QFETCH(QString, row);
     WindowFixture fixture;
-    const QString path = fixture.makeFile("f.png");
+    const QString path = fixture.makeFile(u"f.png"_s);
     QVERIFY(QFile::resize(path, bytes)); // sparse
     fixture.drop(localUrls({path}));
     openFiles(fixture, {path});
@@ -197,7 +199,7 @@ void FileListTest::sizeColumnShowsTheLowBitsOfTheSize()
 void FileListTest::itemsArePlainTexts()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     for (int column = 0; column < 2; ++column) {
         const QTableWidgetItem *item = table->item(0, column);
@@ -207,7 +209,7 @@ void FileListTest::itemsArePlainTexts()
         QVERIFY(!item->data(Qt::UserRole).isValid());
         QVERIFY(!item->data(Qt::CheckStateRole).isValid());
     }
-    QCOMPARE(table->item(0, 0)->text(), fixture.inputPath("a.jpg"));
+    QCOMPARE(table->item(0, 0)->text(), fixture.inputPath(u"a.jpg"_s));
 }
 
 void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal_data()
@@ -215,19 +217,19 @@ void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal_data()
     QTest::addColumn<QList<QUrl>>("urls");
     QTest::addColumn<QStringList>("rows");
 
-    const QUrl remote(QStringLiteral("http://example.org/b.jpg"));
+    const QUrl remote(u"http://example.org/b.jpg"_s);
     QTest::newRow("none") << QList<QUrl>{} << QStringList{};
-    QTest::newRow("three files") << localUrls({"/n/c.jpg", "/n/a.jpg", "/n/b.jpg"})
-                                 << QStringList{"/n/c.jpg", "/n/a.jpg", "/n/b.jpg"};
+    QTest::newRow("three files") << localUrls({u"/n/c.jpg"_s, u"/n/a.jpg"_s, u"/n/b.jpg"_s})
+                                 << QStringList{u"/n/c.jpg"_s, u"/n/a.jpg"_s, u"/n/b.jpg"_s};
     QTest::newRow("the second of three is not local")
-        << localUrls({"/n/a.jpg"}) + QList<QUrl>{remote} + localUrls({"/n/c.jpg"})
-        << QStringList{"/n/a.jpg"};
+        << localUrls({u"/n/a.jpg"_s}) + QList<QUrl>{remote} + localUrls({u"/n/c.jpg"_s})
+        << QStringList{u"/n/a.jpg"_s};
     QTest::newRow("the first is not local")
-        << QList<QUrl>{remote} + localUrls({"/n/c.jpg"}) << QStringList{};
+        << QList<QUrl>{remote} + localUrls({u"/n/c.jpg"_s}) << QStringList{};
     QTest::newRow("the same file twice")
-        << localUrls({"/n/a.jpg", "/n/a.jpg"}) << QStringList{"/n/a.jpg", "/n/a.jpg"};
+        << localUrls({u"/n/a.jpg"_s, u"/n/a.jpg"_s}) << QStringList{u"/n/a.jpg"_s, u"/n/a.jpg"_s};
     QTest::newRow("what is no image")
-        << localUrls({"/n/letter.txt"}) << QStringList{"/n/letter.txt"};
+        << localUrls({u"/n/letter.txt"_s}) << QStringList{u"/n/letter.txt"_s};
     QTest::newRow("blanks, per cent signs and letters outside ASCII")
         << localUrls({QString::fromUtf8("/n/100% \u00fcber.jpg")})
         << QStringList{QString::fromUtf8("/n/100% \u00fcber.jpg")};
@@ -244,7 +246,7 @@ void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal()
 void FileListTest::dropLeavesSelectionAndSettingsAlone()
 {
     WindowFixture fixture;
-    const QStringList paths = fixture.addImages({"a.jpg", "b.jpg"});
+    const QStringList paths = fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.drop(localUrls({QFileInfo(paths.first()).absolutePath()}));
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     QCOMPARE(table->rowCount(), 3); // a folder is listed like a file

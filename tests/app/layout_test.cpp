@@ -19,6 +19,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The form on a bare widget.
@@ -34,19 +36,19 @@ struct Form
 
 QIcon picture(const QString &name)
 {
-    return QIcon(QStringLiteral(":/iconoption/icons/") + name);
+    return QIcon(u":/iconoption/icons/"_s + name);
 }
 
 QString nameWhenSame(const QPixmap &shown, const QPixmap &expected, const QString &name)
 {
     const bool same = !shown.isNull() && shown.toImage() == expected.toImage();
-    return same ? name : QStringLiteral("another picture");
+    return same ? name : u"another picture"_s;
 }
 
 QString alignmentInWords(int alignment)
 {
-    const QString across = alignment & Qt::AlignRight ? "AlignRight" : "AlignLeft";
-    return across + (alignment & Qt::AlignVCenter ? "|AlignVCenter" : "");
+    const QString across = alignment & Qt::AlignRight ? u"AlignRight"_s : u"AlignLeft"_s;
+    return across + (alignment & Qt::AlignVCenter ? u"|AlignVCenter"_s : u""_s);
 }
 
 /// The value of the property that `setting` names, as the layout table writes it.
@@ -61,7 +63,7 @@ QString valueInWords(const QWidget *widget, const QString &property, const QStri
     if (property == QLatin1String("pixmap"))
         return nameWhenSame(value.value<QPixmap>(), picture(expected).pixmap(32, 32), expected);
     if (property == QLatin1String("iconSize"))
-        return QStringLiteral("%1x%2").arg(value.toSize().width()).arg(value.toSize().height());
+        return u"%1x%2"_s.arg(value.toSize().width()).arg(value.toSize().height());
     if (property == QLatin1String("alignment"))
         return alignmentInWords(value.toInt());
     return value.toString();
@@ -113,11 +115,11 @@ private slots:
 void LayoutTest::formHasItsSizeNameAndIcon()
 {
     Form form;
-    QCOMPARE(form.window.objectName(), QStringLiteral("process"));
+    QCOMPARE(form.window.objectName(), u"process"_s);
     QVERIFY(form.window.isEnabled());
     QCOMPARE(form.window.size(), QSize(552, 484));
     QCOMPARE(form.window.windowIcon().pixmap(32, 32).toImage(),
-             picture("picturelog.ico").pixmap(32, 32).toImage());
+             picture(u"picturelog.ico"_s).pixmap(32, 32).toImage());
     QCOMPARE(form.window.windowTitle(), QString());
 }
 
@@ -139,10 +141,9 @@ void LayoutTest::objectIsAsTheTableSays()
     if (row->geometry.isValid())
         QCOMPARE(widget->geometry(), row->geometry);
     // A semicolon that belongs to a value is written "\;".
-    QStringList expected =
-        QString::fromLatin1(row->settings)
-            .split(QRegularExpression(QStringLiteral("(?<!\\\\);")), Qt::SkipEmptyParts);
-    expected.replaceInStrings(QStringLiteral("\\;"), QStringLiteral(";"));
+    QStringList expected = QString::fromLatin1(row->settings)
+                               .split(QRegularExpression(u"(?<!\\\\);"_s), Qt::SkipEmptyParts);
+    expected.replaceInStrings(u"\\;"_s, u";"_s);
     QCOMPARE(settingsOf(widget, expected), expected);
 }
 
@@ -153,7 +154,7 @@ void LayoutTest::thereIsNoObjectBesideTheTable()
     const auto widgets = form.window.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         // Compound widgets of Qt have unnamed parts and parts named "qt_...".
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_s))
             names << widget->objectName();
     }
     QStringList expected;
@@ -184,21 +185,21 @@ void LayoutTest::fileButtonsShareARow()
     Form form;
     auto *row = qobject_cast<QHBoxLayout *>(form.ui.layoutWidget->layout());
     QVERIFY(row);
-    QCOMPARE(row->objectName(), QStringLiteral("horizontalLayout"));
+    QCOMPARE(row->objectName(), u"horizontalLayout"_s);
     QCOMPARE(row->spacing(), 6);
     QCOMPARE(row->contentsMargins(), QMargins());
     QStringList names;
     for (int i = 0; i < row->count(); ++i)
         names << row->itemAt(i)->widget()->objectName();
-    QCOMPARE(names, QStringList({"openfileButton", "removeButton", "removeallButton"}));
+    QCOMPARE(names, QStringList({u"openfileButton"_s, u"removeButton"_s, u"removeallButton"_s}));
 }
 
 void LayoutTest::fileTableHasItsHeaders()
 {
     Form form;
     const QTableWidget *table = form.ui.inputfiletableWidget;
-    QCOMPARE(table->horizontalHeaderItem(0)->text(), QStringLiteral("Image File"));
-    QCOMPARE(table->horizontalHeaderItem(1)->text(), QStringLiteral("File Size"));
+    QCOMPARE(table->horizontalHeaderItem(0)->text(), u"Image File"_s);
+    QCOMPARE(table->horizontalHeaderItem(1)->text(), u"File Size"_s);
     QCOMPARE(table->horizontalHeader()->defaultSectionSize(), 165);
     QCOMPARE(table->horizontalHeader()->minimumSectionSize(), 40);
     QVERIFY(table->horizontalHeader()->stretchLastSection());
@@ -219,7 +220,7 @@ void LayoutTest::rowsStayAsAddedAlthoughSortingIsEnabled()
     }
     for (int row = 0; row < 3; ++row)
         texts << table->item(row, 0)->text();
-    QCOMPARE(texts, QStringList({"b", "c", "a"}));
+    QCOMPARE(texts, QStringList({u"b"_s, u"c"_s, u"a"_s}));
 }
 
 void LayoutTest::progressBarFontIsNotStruckOut()
@@ -233,33 +234,40 @@ void LayoutTest::comboBoxesHaveTheirItems_data()
     QTest::addColumn<QString>("box");
     QTest::addColumn<QStringList>("items");
 
-    QTest::newRow("rotation") << "comboBox_rotate" << QStringList{"0", "90", "180", "270"};
+    QTest::newRow("rotation") << "comboBox_rotate"
+                              << QStringList{u"0"_s, u"90"_s, u"180"_s, u"270"_s};
     QTest::newRow("page size") << "comboBox_pagesize"
-                               << QStringList{"",
-                                              "A0 (841x1189 mm)",
-                                              "A1 (594x841 mm)",
-                                              "A2 (420x594 mm)",
-                                              "A3 (297x420 mm)",
-                                              "A4 (210x297 mm)",
-                                              "A5 (148x210 mm)",
-                                              "A6 (105x148 mm)",
-                                              "A7 (74x105 mm)",
-                                              "A8 (52x74 mm)",
-                                              "A9 (37x52 mm)",
-                                              "ArchA (229x305 mm)",
-                                              "ArchB (305x457 mm)",
-                                              "ArchC (457x610 mm)",
-                                              "ArchD (610x914 mm)",
-                                              "ArchE (914x1219 mm)",
-                                              "Ledger (431.8x279. 4mm)",
-                                              "Legal (215.9x355.6 mm)",
-                                              "Letter (215.9x279.4 mm)",
-                                              "Tabloid (279.4x431.8 mm)"};
-    QTest::newRow("compression")
-        << "comboBox_compresstype"
-        << QStringList{"",     "None",     "Bzip",     "CCITT Group 3",    "CCITT Group 4",
-                       "JPEG", "JPEG2000", "Lossless", "Lempel-Ziv-Welch", "Run-length encoding",
-                       "Zip"};
+                               << QStringList{u""_s,
+                                              u"A0 (841x1189 mm)"_s,
+                                              u"A1 (594x841 mm)"_s,
+                                              u"A2 (420x594 mm)"_s,
+                                              u"A3 (297x420 mm)"_s,
+                                              u"A4 (210x297 mm)"_s,
+                                              u"A5 (148x210 mm)"_s,
+                                              u"A6 (105x148 mm)"_s,
+                                              u"A7 (74x105 mm)"_s,
+                                              u"A8 (52x74 mm)"_s,
+                                              u"A9 (37x52 mm)"_s,
+                                              u"ArchA (229x305 mm)"_s,
+                                              u"ArchB (305x457 mm)"_s,
+                                              u"ArchC (457x610 mm)"_s,
+                                              u"ArchD (610x914 mm)"_s,
+                                              u"ArchE (914x1219 mm)"_s,
+                                              u"Ledger (431.8x279. 4mm)"_s,
+                                              u"Legal (215.9x355.6 mm)"_s,
+                                              u"Letter (215.9x279.4 mm)"_s,
+                                              u"Tabloid (279.4x431.8 mm)"_s};
+    QTest::newRow("compression") << "comboBox_compresstype" << QStringList{u""_s,
+                                                                           u"None"_s,
+                                                                           u"Bzip"_s,
+                                                                           u"CCITT Group 3"_s,
+                                                                           u"CCITT Group 4"_s,
+                                                                           u"JPEG"_s,
+                                                                           u"JPEG2000"_s,
+                                                                           u"Lossless"_s,
+                                                                           u"Lempel-Ziv-Welch"_s,
+                                                                           u"Run-length encoding"_s,
+                                                                           u"Zip"_s};
 }
 
 void LayoutTest::comboBoxesHaveTheirItems()
@@ -297,8 +305,8 @@ void LayoutTest::retranslatingBringsEveryTextBack()
     };
     const QStringList before = texts();
     for (auto *button : form.window.findChildren<QAbstractButton *>())
-        button->setText(QStringLiteral("x"));
-    form.ui.label->setText(QStringLiteral("x"));
+        button->setText(u"x"_s);
+    form.ui.label->setText(u"x"_s);
     QVERIFY(texts() != before);
     form.ui.retranslateUi(&form.window);
     QCOMPARE(texts(), before);
@@ -323,9 +331,9 @@ void LayoutTest::focusGoesInTabOrder()
 void LayoutTest::givenNameOfTheWindowIsKept()
 {
     QWidget window;
-    window.setObjectName(QStringLiteral("own"));
+    window.setObjectName(u"own"_s);
     Ui_process().setupUi(&window);
-    QCOMPARE(window.objectName(), QStringLiteral("own"));
+    QCOMPARE(window.objectName(), u"own"_s);
 }
 
 QTEST_MAIN(LayoutTest)

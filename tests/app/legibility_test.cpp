@@ -15,6 +15,8 @@
 #include <QStyle>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 class LegibilityTest : public QObject
 {
     Q_OBJECT
@@ -79,9 +81,8 @@ void LegibilityTest::addFonts()
     QTest::addColumn<qreal>("points");
     for (const char *family : {"DejaVu Sans", "Cantarell", "Liberation Sans", "Noto Sans"}) {
         for (const qreal points : {9.0, 10.0, 11.0, 1.25 * 9, 1.25 * 11})
-            QTest::newRow(qPrintable(
-                QStringLiteral("%1 at %2 points").arg(QLatin1String(family)).arg(points)))
-                << QString(family) << points;
+            QTest::newRow(qPrintable(u"%1 at %2 points"_s.arg(QLatin1String(family)).arg(points)))
+                << QString::fromUtf8(family) << points;
     }
 }
 
@@ -132,8 +133,7 @@ void LegibilityTest::textsFitTheirPlaces()
         }
         ++seen;
         QVERIFY2(needed.width() <= room.width() && needed.height() <= room.height(),
-                 qPrintable(QStringLiteral("%1 needs %2x%3 of %4x%5")
-                                .arg(widget->objectName())
+                 qPrintable(u"%1 needs %2x%3 of %4x%5"_s.arg(widget->objectName())
                                 .arg(needed.width())
                                 .arg(needed.height())
                                 .arg(room.width())
@@ -167,7 +167,7 @@ void LegibilityTest::textsDoNotRunIntoEachOther()
                     continue;
                 const QRect place(field->mapTo(&fixture.window, QPoint()), field->size());
                 QVERIFY2(!inkOf(*label).intersects(place),
-                         qPrintable(label->text() + QStringLiteral(" on ") + field->objectName()));
+                         qPrintable(label->text() + u" on "_s + field->objectName()));
             }
         }
     }

@@ -16,6 +16,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How light a part of the screen is: its darkest, middle and lightest pixel, 0 to 255.
@@ -138,7 +140,7 @@ void LookTest::everyTextOnEveryPageIsDarkOnLight()
 void LookTest::rowsAndHeaderAreDarkOnLight()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg", "c.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     for (int row = 0; row < 3; ++row) {
         const Tones tones = tonesOf(table->viewport(), table->visualItemRect(table->item(row, 1)));
@@ -152,7 +154,7 @@ void LookTest::rowsAndHeaderAreDarkOnLight()
 void LookTest::selectedRowStandsOut()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->selectRow(0);
     const Tones tones = tonesOf(table->viewport(), table->visualItemRect(table->item(0, 1)));
@@ -163,7 +165,7 @@ void LookTest::selectedRowStandsOut()
 void LookTest::typedTextIsDarkOnLight()
 {
     WindowFixture fixture;
-    fixture.type("outputfolderEdit", "/home/me/results");
+    fixture.type("outputfolderEdit", u"/home/me/results"_s);
     QVERIFY(isReadable(fixture.find<QLineEdit>("outputfolderEdit")));
 }
 
@@ -172,7 +174,7 @@ void LookTest::messageBoxIsDarkOnLight()
     WindowFixture fixture;
     bool readable = false;
     ModalAnswer answer([&readable](QWidget *box) {
-        readable = isReadable(box->findChild<QLabel *>("qt_msgbox_label"));
+        readable = isReadable(box->findChild<QLabel *>(u"qt_msgbox_label"_s));
     });
     fixture.click("runButton");
     QVERIFY(answer.happened());

@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Title and text of the box; nothing when it is no box of that kind with a single OK button.
@@ -40,7 +42,7 @@ void MessagesTest::emptyListIsWarnedAboutAndNothingElseChanges()
         [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Warning); });
     fixture.click("runButton");
     QVERIFY(answer.happened());
-    QCOMPARE(shown, QStringList({"Empty input", "Please choose files to convert."}));
+    QCOMPARE(shown, QStringList({u"Empty input"_s, u"Please choose files to convert."_s}));
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
     QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), fixture.outputPath());
     QVERIFY(fixture.calls().isEmpty());
@@ -58,14 +60,14 @@ void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
 {
     QFETCH(QString, folder);
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.type("outputfolderEdit", folder);
     QStringList shown;
     ModalAnswer answer(
         [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Information); });
     fixture.click("runButton");
     QVERIFY(answer.happened());
-    QCOMPARE(shown, QStringList({"Invalid order", "Please specify an output folder."}));
+    QCOMPARE(shown, QStringList({u"Invalid order"_s, u"Please specify an output folder."_s}));
     QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
     QVERIFY(fixture.calls().isEmpty());
@@ -74,7 +76,7 @@ void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
 void MessagesTest::emptyingTheListMidRunEndsItWithTheWarning()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
@@ -83,25 +85,25 @@ void MessagesTest::emptyingTheListMidRunEndsItWithTheWarning()
     ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
     fixture.openGate();
     QTRY_VERIFY(answer.happened());
-    QCOMPARE(title, QStringLiteral("Empty input"));
+    QCOMPARE(title, u"Empty input"_s);
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
-    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
 }
 
 void MessagesTest::losingTheOutputFolderMidRunEndsIt()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg", "b.jpg"});
+    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
-    fixture.type("outputfolderEdit", "/nowhere");
+    fixture.type("outputfolderEdit", u"/nowhere"_s);
     QString title;
     ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
     fixture.openGate();
     QTRY_VERIFY(answer.happened());
-    QCOMPARE(title, QStringLiteral("Invalid order"));
+    QCOMPARE(title, u"Invalid order"_s);
     QTRY_COMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
     QCOMPARE(fixture.calls().size(), 1);
 }

@@ -5,6 +5,8 @@
 
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 class NamesTest : public QObject
 {
     Q_OBJECT
@@ -36,7 +38,7 @@ void NamesTest::oddNamesReachTheToolWhole_data()
                              << "png:x.pdf";
     QTest::newRow("characters of the shell") << "$(a)&;*?'`\\.jpg"
                                              << "$(a)&;*?'`\\.pdf";
-    QTest::newRow("two hundred characters") << longName + ".jpg" << longName + ".pdf";
+    QTest::newRow("two hundred characters") << longName + u".jpg"_s << longName + u".pdf"_s;
     QTest::newRow("a hidden file") << ".hidden.jpg"
                                    << ".pdf";
 }
@@ -48,24 +50,24 @@ void NamesTest::oddNamesReachTheToolWhole()
     WindowFixture fixture;
     fixture.addImages({name});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", "T");
+    fixture.type("lineEdit_title", u"T"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 2);
     QCOMPARE(fixture.calls().first().arguments,
              QStringList({fixture.inputPath(name), fixture.outputPath(output)}));
-    QCOMPARE(fixture.outputFiles(), QStringList({output + ": pdftk(convert(" + name + "))"}));
+    QCOMPARE(fixture.outputFiles(), QStringList({output + u": pdftk(convert("_s + name + u"))"_s}));
 }
 
 void NamesTest::nameWithADoubleQuoteDoesNotReachTheTool()
 {
     WindowFixture fixture;
-    fixture.addImages({"a\"b.jpg"});
+    fixture.addImages({u"a\"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 1);
-    QVERIFY(!fixture.calls().first().arguments.contains(fixture.inputPath("a\"b.jpg")));
+    QVERIFY(!fixture.calls().first().arguments.contains(fixture.inputPath(u"a\"b.jpg"_s)));
     QCOMPARE(fixture.outputFiles(), QStringList());
 }
 
@@ -75,7 +77,7 @@ void NamesTest::thousandsOfRowsReachTheToolInOneCall()
     WindowFixture fixture;
     QStringList names;
     for (int i = 0; i < 3000; ++i)
-        names << QStringLiteral("%1.jpg").arg(i, 196, 10, QLatin1Char('0'));
+        names << u"%1.jpg"_s.arg(i, 196, 10, QLatin1Char('0'));
     const QStringList paths = fixture.addImages(names);
     QCOMPARE(fixture.find<QTableWidget>("inputfiletableWidget")->rowCount(), 3000);
     fixture.setOutputFolder();
@@ -83,7 +85,7 @@ void NamesTest::thousandsOfRowsReachTheToolInOneCall()
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
 
-    const QString output = fixture.outputPath(names.first().replace(".jpg", ".pdf"));
+    const QString output = fixture.outputPath(names.first().replace(u".jpg"_s, u".pdf"_s));
     QCOMPARE(fixture.calls().size(), 1);
     QCOMPARE(fixture.calls().first().arguments, paths + QStringList{output});
 }

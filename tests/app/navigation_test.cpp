@@ -4,6 +4,8 @@
 
 #include <QStackedWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "page 1, disabled ImageSetting, index 1"
@@ -14,9 +16,9 @@ QString stateOf(WindowFixture &fixture)
         if (!fixture.find<QPushButton>(QByteArray("pushButton_") + name)->isEnabled())
             disabled << QLatin1String(name);
     }
-    return QStringLiteral("page %1, disabled %2, index %3")
+    return u"page %1, disabled %2, index %3"_s
         .arg(fixture.find<QStackedWidget>("stackedWidget_dialog")->currentIndex())
-        .arg(disabled.isEmpty() ? QStringLiteral("none") : disabled.join(QStringLiteral(" and ")))
+        .arg(disabled.isEmpty() ? u"none"_s : disabled.join(u" and "_s))
         .arg(ProcessProbe::pageIndex(fixture.window));
 }
 
@@ -65,13 +67,13 @@ void NavigationTest::slotsLeadToTheirPages_data()
     QTest::addColumn<QStringList>("path"); // slots in turn
     QTest::addColumn<QString>("state");
 
-    const QString files = "on_pushButton_Inout_clicked";
-    const QString image = "on_pushButton_ImageSetting_clicked";
-    const QString description = "on_pushButton_PDFSetting_clicked";
-    const QString security = "on_pushButton_Security_clicked";
-    const QString left = "on_pushButton_left_clicked";
-    const QString right = "on_pushButton_right_clicked";
-    const QString enable = "setpushenable";
+    const QString files = u"on_pushButton_Inout_clicked"_s;
+    const QString image = u"on_pushButton_ImageSetting_clicked"_s;
+    const QString description = u"on_pushButton_PDFSetting_clicked"_s;
+    const QString security = u"on_pushButton_Security_clicked"_s;
+    const QString left = u"on_pushButton_left_clicked"_s;
+    const QString right = u"on_pushButton_right_clicked"_s;
+    const QString enable = u"setpushenable"_s;
 
     QTest::newRow("start") << QStringList{} << "page 0, disabled Inout, index 0";
     QTest::newRow("image") << QStringList{image} << "page 1, disabled ImageSetting, index 1";
@@ -155,7 +157,7 @@ void NavigationTest::disabledButtonCannotBeClicked()
     connect(button, &QPushButton::clicked, this, [&clicks] { ++clicks; });
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(clicks, 0);
-    QCOMPARE(stateOf(fixture), QStringLiteral("page 1, disabled ImageSetting, index 1"));
+    QCOMPARE(stateOf(fixture), u"page 1, disabled ImageSetting, index 1"_s);
 }
 
 void NavigationTest::imageButtonStaysUncheckable()
@@ -187,15 +189,15 @@ void NavigationTest::pageIsShownBeforeItsButtonChanges()
             [&changes](int index) { changes << QStringLiteral("page %1").arg(index); });
     pushButton->setCheckable(true); // or being checked would not show
     pushButton->setChecked(false);
-    connect(pushButton, &QPushButton::toggled, this, [&changes] { changes << "checked"; });
-    EventLog disabling(pushButton, QEvent::EnabledChange, [&changes] { changes << "disabled"; });
+    connect(pushButton, &QPushButton::toggled, this, [&changes] { changes << u"checked"_s; });
+    EventLog disabling(pushButton, QEvent::EnabledChange, [&changes] { changes << u"disabled"_s; });
 
     const QByteArray slot = "on_pushButton_" + button + "_clicked";
     QVERIFY(QMetaObject::invokeMethod(&fixture.window, slot.constData()));
     QStringList expected{QStringLiteral("page %1").arg(page)};
     if (button == "ImageSetting")
-        expected << "checked";
-    QCOMPARE(changes, expected << "disabled");
+        expected << u"checked"_s;
+    QCOMPARE(changes, expected << u"disabled"_s);
 }
 
 QTEST_MAIN(NavigationTest)

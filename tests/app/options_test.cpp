@@ -8,11 +8,13 @@
 #include <QFile>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray infoFileContent()
 {
-    QFile file(QStringLiteral("pdfa.txt"));
+    QFile file(u"pdfa.txt"_s);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
@@ -25,7 +27,7 @@ QByteArray withTitle(const QByteArray &title)
 
 QString updateInfo()
 {
-    return QStringLiteral(" update_info \"") + QDir::currentPath() + QStringLiteral("/pdfa.txt\"");
+    return u" update_info \""_s + QDir::currentPath() + u"/pdfa.txt\""_s;
 }
 
 } // namespace
@@ -56,15 +58,15 @@ private:
 
 void OptionsTest::initTestCase()
 {
-    QVERIFY(locales.add("en_US", "ISO-8859-1"));
+    QVERIFY(locales.add(u"en_US"_s, u"ISO-8859-1"_s));
 }
 
 void OptionsTest::init()
 {
     locales.use("C.UTF-8");
     WindowFixture fixture; // goes to the bundle's folder
-    QFile::remove(QStringLiteral("pdfa.txt"));
-    QDir().rmdir(QStringLiteral("pdfa.txt"));
+    QFile::remove(u"pdfa.txt"_s);
+    QDir().rmdir(u"pdfa.txt"_s);
 }
 
 void OptionsTest::imageOptionsStandInTheirOrder_data()
@@ -103,8 +105,8 @@ void OptionsTest::pageSizeOptionIsThatOfTheIndex()
 {
     WindowFixture fixture;
     QCOMPARE(fixture.window.getresize(0), QString());
-    QCOMPARE(fixture.window.getresize(1), QStringLiteral(" -resize 2380x3368"));
-    QCOMPARE(fixture.window.getresize(19), QStringLiteral(" -resize 792x1224"));
+    QCOMPARE(fixture.window.getresize(1), u" -resize 2380x3368"_s);
+    QCOMPARE(fixture.window.getresize(19), u" -resize 792x1224"_s);
     QCOMPARE(fixture.window.getresize(20), QString());
     QCOMPARE(fixture.window.getresize(-1), QString());
 }
@@ -115,16 +117,16 @@ void OptionsTest::descriptionIsWrittenWithAllItsLines_data()
     QTest::addColumn<QByteArray>("file");
 
     QTest::newRow("all fields")
-        << QStringList{"T", "S", "K1, K2", "A"}
+        << QStringList{u"T"_s, u"S"_s, u"K1, K2"_s, u"A"_s}
         << QByteArray("InfoKey:Title\nInfoValue:T\nInfoKey:Subject\nInfoValue:S\n"
                       "InfoKey:Keywords\nInfoValue:K1, K2\nInfoKey:Author\nInfoValue:A\n");
     QTest::newRow("an author alone")
-        << QStringList{"", "", "", "A"}
+        << QStringList{u""_s, u""_s, u""_s, u"A"_s}
         << QByteArray("InfoKey:Title\nInfoValue:\nInfoKey:Subject\nInfoValue:\n"
                       "InfoKey:Keywords\nInfoValue:\nInfoKey:Author\nInfoValue:A\n");
     QTest::newRow("blanks around and within")
-        << QStringList{"  a  b ", "", "", ""} << withTitle("  a  b ");
-    QTest::newRow("a tab alone") << QStringList{"\t", "", "", ""} << withTitle("\t");
+        << QStringList{u"  a  b "_s, u""_s, u""_s, u""_s} << withTitle("  a  b ");
+    QTest::newRow("a tab alone") << QStringList{u"\t"_s, u""_s, u""_s, u""_s} << withTitle("\t");
 }
 
 void OptionsTest::descriptionIsWrittenWithAllItsLines()
@@ -144,7 +146,7 @@ void OptionsTest::blankDescriptionTouchesNoFile()
     WindowFixture fixture;
     for (const char *field :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"})
-        fixture.type(field, QStringLiteral("  "));
+        fixture.type(field, u"  "_s);
     QCOMPARE(fixture.window.getPdftkoption(), QString());
     QCOMPARE(infoFileContent(), QByteArray("none"));
 }
@@ -173,31 +175,31 @@ void OptionsTest::infoFileIsInTheLocalesCharset()
 void OptionsTest::infoFileStaysAfterTheRun()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", QStringLiteral("A long first title"));
+    fixture.type("lineEdit_title", u"A long first title"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(infoFileContent(), withTitle("A long first title"));
-    fixture.type("lineEdit_title", QStringLiteral("Short"));
+    fixture.type("lineEdit_title", u"Short"_s);
     fixture.window.getPdftkoption();
     QCOMPARE(infoFileContent(), withTitle("Short"));
 }
 
 void OptionsTest::infoFileThatCannotBeWrittenIsPassedOn()
 {
-    QVERIFY(QDir().mkdir(QStringLiteral("pdfa.txt"))); // a folder cannot be written, even by root
+    QVERIFY(QDir().mkdir(u"pdfa.txt"_s)); // a folder cannot be written, even by root
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", QStringLiteral("T"));
-    QCOMPARE(fixture.window.getPdftkoption(), QStringLiteral("111"));
+    fixture.type("lineEdit_title", u"T"_s);
+    QCOMPARE(fixture.window.getPdftkoption(), u"111"_s);
 
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(
-        fixture.calls().last().arguments,
-        QStringList({fixture.outputPath("a.pdf111"), "output", fixture.outputPath("a-1.pdf")}));
+    QCOMPARE(fixture.calls().last().arguments,
+             QStringList({fixture.outputPath(u"a.pdf111"_s), u"output"_s,
+                          fixture.outputPath(u"a-1.pdf"_s)}));
     QCOMPARE(fixture.outputFiles(), QStringList()); // the PDF is lost
 }
 

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Presses the folder button and chooses `folder`; "" stands for a cancelled dialog.
@@ -31,7 +33,7 @@ QString folderField(WindowFixture &fixture)
 
 QByteArray settingsFile()
 {
-    QFile file(QStringLiteral("setting.ini"));
+    QFile file(u"setting.ini"_s);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
@@ -54,14 +56,14 @@ private slots:
 void OutputFolderTest::init()
 {
     WindowFixture fixture; // goes to the bundle's folder
-    QFile::remove(QStringLiteral("setting.ini"));
+    QFile::remove(u"setting.ini"_s);
 }
 
 void OutputFolderTest::dialogAsksForAFolderBesideTheBundleAtFirst()
 {
     WindowFixture fixture;
     const FileDialogFacts dialog = browse(fixture, {});
-    QCOMPARE(dialog.caption, QStringLiteral("Browse a floder to save the converted files."));
+    QCOMPARE(dialog.caption, u"Browse a floder to save the converted files."_s);
     QCOMPARE(dialog.folder, QDir::currentPath());
     QCOMPARE(dialog.fileMode, QFileDialog::Directory);
     QCOMPARE(dialog.options, QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
@@ -97,17 +99,17 @@ void OutputFolderTest::cancelEmptiesTheFieldAndStoresNothingChosen()
 void OutputFolderTest::typedFolderIsUsedButNotStored()
 {
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     QTest::keyClicks(fixture.find<QLineEdit>("outputfolderEdit"), fixture.outputPath());
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outputFiles(), QStringList({"a.pdf: convert(a.jpg)"}));
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
     QCOMPARE(settingsFile(), QByteArray("none"));
 }
 
 void OutputFolderTest::inputFolderIsKept()
 {
-    QFile file(QStringLiteral("setting.ini"));
+    QFile file(u"setting.ini"_s);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[dir]\ninput=/\n");
     file.close();

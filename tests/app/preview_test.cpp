@@ -13,6 +13,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QFrame *frameOf(WindowFixture &fixture)
@@ -88,7 +90,7 @@ void PreviewTest::emptyListShowsTheDefaultPicture()
     WindowFixture fixture;
     QCOMPARE(frameOf(fixture)->geometry(), QRect(400, 42, 151, 151));
     QVERIFY(frameOf(fixture)->autoFillBackground());
-    const QImage expected = QImage(QStringLiteral(":/iconoption/icons/whle.png"))
+    const QImage expected = QImage(u":/iconoption/icons/whle.png"_s)
                                 .scaled(151, 151, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const auto format = QImage::Format_ARGB32_Premultiplied;
     QCOMPARE(pictureOf(fixture).convertToFormat(format), expected.convertToFormat(format));
@@ -109,7 +111,7 @@ void PreviewTest::frameTakesThePicturesShape()
     QFETCH(QSize, picture);
     QFETCH(QSize, frame);
     WindowFixture fixture;
-    preview(fixture, savePicture(fixture, "p.png", picture, Qt::red));
+    preview(fixture, savePicture(fixture, u"p.png"_s, picture, Qt::red));
     QCOMPARE(frameOf(fixture)->geometry(), QRect(QPoint(400, 42), frame));
     // Keeping the picture's own shape may cost it up to two pixels against the frame's.
     const QSize shown = pictureOf(fixture).size();
@@ -121,7 +123,7 @@ void PreviewTest::frameTakesThePicturesShape()
 void PreviewTest::pictureFillsTheFrame()
 {
     WindowFixture fixture;
-    preview(fixture, savePicture(fixture, "p.png", {302, 374}, Qt::blue));
+    preview(fixture, savePicture(fixture, u"p.png"_s, {302, 374}, Qt::blue));
     const QFrame *frame = frameOf(fixture);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         QCOMPARE(frame->palette().brush(group, frame->backgroundRole()).style(),
@@ -167,15 +169,15 @@ void PreviewTest::transparentPlacesAreCutOutOfTheFrame()
         for (int x = 0; x < 100; ++x)
             image.setPixelColor(x, y, Qt::green);
     }
-    QVERIFY(image.save(fixture.inputPath("t.png")));
-    preview(fixture, fixture.inputPath("t.png"));
+    QVERIFY(image.save(fixture.inputPath(u"t.png"_s)));
+    preview(fixture, fixture.inputPath(u"t.png"_s));
     QFrame *frame = frameOf(fixture);
     QVERIFY(frame->mask().contains(QPoint(20, 90)));
     QVERIFY(!frame->mask().contains(QPoint(120, 90)));
     QCOMPARE(fixture.window.childAt(frame->mapTo(&fixture.window, QPoint(20, 90))), frame);
     QVERIFY(fixture.window.childAt(frame->mapTo(&fixture.window, QPoint(120, 90))) != frame);
 
-    preview(fixture, savePicture(fixture, "o.png", {302, 374}, Qt::red));
+    preview(fixture, savePicture(fixture, u"o.png"_s, {302, 374}, Qt::red));
     QVERIFY(frame->mask().isEmpty()); // an opaque picture takes the mask away
 }
 
@@ -191,19 +193,19 @@ void PreviewTest::unreadableFileBlanksThePictureAndKeepsTheSize()
 {
     QFETCH(QString, kind);
     WindowFixture fixture;
-    const QString picture = savePicture(fixture, "p.png", {1000, 100}, Qt::red);
+    const QString picture = savePicture(fixture, u"p.png"_s, {1000, 100}, Qt::red);
     preview(fixture, picture);
-    QString path = fixture.inputPath("unreadable.png");
+    QString path = fixture.inputPath(u"unreadable.png"_s);
     if (kind == QLatin1String("text"))
-        fixture.makeFile("unreadable.png", "no picture");
+        fixture.makeFile(u"unreadable.png"_s, "no picture");
     else if (kind == QLatin1String("empty file"))
-        fixture.makeFile("unreadable.png", "");
+        fixture.makeFile(u"unreadable.png"_s, "");
     else if (kind == QLatin1String("truncated picture"))
         QVERIFY(QFile::copy(picture, path) && QFile::resize(path, 30));
     else if (kind == QLatin1String("FIFO"))
         QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     else if (kind == QLatin1String("endless device"))
-        path = QStringLiteral("/dev/zero");
+        path = u"/dev/zero"_s;
     else if (kind == QLatin1String("folder"))
         QVERIFY(QDir().mkdir(path));
     preview(fixture, path);
@@ -214,7 +216,7 @@ void PreviewTest::unreadableFileBlanksThePictureAndKeepsTheSize()
 void PreviewTest::pictureAboveTheAllocationLimitIsUnreadable()
 {
     WindowFixture fixture;
-    const QString path = savePicture(fixture, "bomb.png", {1000, 1000}, Qt::red);
+    const QString path = savePicture(fixture, u"bomb.png"_s, {1000, 1000}, Qt::red);
     const int limit = QImageReader::allocationLimit();
     QImageReader::setAllocationLimit(2); // megabytes; the picture takes four
     preview(fixture, path);
@@ -253,7 +255,7 @@ void PreviewTest::emptiedListKeepsTheDefaultPictureAtLaterFirings()
 {
     WindowFixture fixture;
     const QImage before = pictureOf(fixture);
-    preview(fixture, savePicture(fixture, "p.png", {1000, 100}, Qt::red));
+    preview(fixture, savePicture(fixture, u"p.png"_s, {1000, 100}, Qt::red));
     fixture.click("removeallButton");
     fixture.window.dopreview();
     QCOMPARE(frameOf(fixture)->size(), QSize(151, 151));
@@ -264,7 +266,7 @@ void PreviewTest::timerStartsAtTheFirstClickAndRepeats()
 {
     WindowFixture fixture;
     QTimer *timer = ProcessProbe::previewTimer(fixture.window);
-    makeCurrent(fixture, fixture.makeFile("a.jpg"));
+    makeCurrent(fixture, fixture.makeFile(u"a.jpg"_s));
     QVERIFY(!timer->isActive());
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -282,8 +284,8 @@ void PreviewTest::timerStartsAtTheFirstClickAndRepeats()
 void PreviewTest::selectionShowsItsPictureWhenTheTimerFires()
 {
     WindowFixture fixture;
-    const QString red = savePicture(fixture, "red.png", {10, 10}, Qt::red);
-    const QString blue = savePicture(fixture, "blue.png", {10, 10}, Qt::blue);
+    const QString red = savePicture(fixture, u"red.png"_s, {10, 10}, Qt::red);
+    const QString blue = savePicture(fixture, u"blue.png"_s, {10, 10}, Qt::blue);
     fixture.drop({QUrl::fromLocalFile(red), QUrl::fromLocalFile(blue)});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->selectRow(1);
@@ -296,7 +298,7 @@ void PreviewTest::selectionShowsItsPictureWhenTheTimerFires()
 void PreviewTest::rewrittenFileShowsItsNewContent()
 {
     WindowFixture fixture;
-    const QString path = savePicture(fixture, "p.bmp", {20, 20}, Qt::red);
+    const QString path = savePicture(fixture, u"p.bmp"_s, {20, 20}, Qt::red);
     const auto rewind = [&path] {
         QFile file(path);
         return file.open(QIODevice::ReadWrite) &&
@@ -310,7 +312,7 @@ void PreviewTest::rewrittenFileShowsItsNewContent()
 
     // Same name, same size, same time of change: only the content tells.
     const qint64 size = QFileInfo(path).size();
-    savePicture(fixture, "p.bmp", {20, 20}, Qt::blue);
+    savePicture(fixture, u"p.bmp"_s, {20, 20}, Qt::blue);
     QVERIFY(rewind());
     QCOMPARE(QFileInfo(path).size(), size);
     QTRY_COMPARE(colourOf(fixture), QColor(Qt::blue));

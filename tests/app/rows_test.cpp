@@ -8,6 +8,8 @@
 #include <QProperty>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Opens a protected member for reading: how many connections an object's signal has.
@@ -53,7 +55,7 @@ void selectRows(WindowFixture &fixture, const QList<int> &rows)
 void act(WindowFixture &fixture, const QString &step)
 {
     if (step == QLatin1String("add"))
-        fixture.addImages({"a.jpg"});
+        fixture.addImages({u"a.jpg"_s});
     else if (step == QLatin1String("select"))
         selectRows(fixture, {0});
     else if (step == QLatin1String("remove"))
@@ -111,7 +113,7 @@ private:
 void RowsTest::selectedRowsAreRemovedFromTheBottomUp()
 {
     WindowFixture fixture;
-    fixture.addImages({"0.jpg", "1.jpg", "2.jpg", "3.jpg", "4.jpg"});
+    fixture.addImages({u"0.jpg"_s, u"1.jpg"_s, u"2.jpg"_s, u"3.jpg"_s, u"4.jpg"_s});
     selectRows(fixture, {1, 3});
     QList<int> removed;
     connect(fixture.find<QTableWidget>("inputfiletableWidget")->model(),
@@ -119,31 +121,33 @@ void RowsTest::selectedRowsAreRemovedFromTheBottomUp()
             [&removed](const QModelIndex &, int first) { removed << first; });
     fixture.click("removeButton");
     QCOMPARE(removed, QList<int>({3, 1}));
-    QCOMPARE(rowsOf(fixture), QStringList({"0.jpg", "2.jpg", "4.jpg"}));
+    QCOMPARE(rowsOf(fixture), QStringList({u"0.jpg"_s, u"2.jpg"_s, u"4.jpg"_s}));
 }
 
 void RowsTest::cellsOfARowCountOnce()
 {
     WindowFixture fixture;
-    fixture.addImages({"0.jpg", "1.jpg"});
+    fixture.addImages({u"0.jpg"_s, u"1.jpg"_s});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->setSelectionBehavior(QAbstractItemView::SelectItems);
     table->item(0, 0)->setSelected(true);
     table->item(0, 1)->setSelected(true);
     fixture.click("removeButton");
-    QCOMPARE(rowsOf(fixture), QStringList({"1.jpg"}));
+    QCOMPARE(rowsOf(fixture), QStringList({u"1.jpg"_s}));
 }
 
 void RowsTest::emptiedListShowsTheDefaultPreview_data()
 {
     QTest::addColumn<QStringList>("steps");
     QTest::addColumn<bool>("shown");
-    QTest::newRow("the last row removed") << QStringList{"add", "select", "remove"} << true;
-    QTest::newRow("all rows removed") << QStringList{"add", "add", "remove all"} << true;
-    QTest::newRow("removing from an empty list") << QStringList{"remove"} << true;
-    QTest::newRow("removing all of an empty list") << QStringList{"remove all"} << false;
-    QTest::newRow("nothing selected") << QStringList{"add", "remove"} << false;
-    QTest::newRow("a row is left") << QStringList{"add", "add", "select", "remove"} << false;
+    QTest::newRow("the last row removed")
+        << QStringList{u"add"_s, u"select"_s, u"remove"_s} << true;
+    QTest::newRow("all rows removed") << QStringList{u"add"_s, u"add"_s, u"remove all"_s} << true;
+    QTest::newRow("removing from an empty list") << QStringList{u"remove"_s} << true;
+    QTest::newRow("removing all of an empty list") << QStringList{u"remove all"_s} << false;
+    QTest::newRow("nothing selected") << QStringList{u"add"_s, u"remove"_s} << false;
+    QTest::newRow("a row is left")
+        << QStringList{u"add"_s, u"add"_s, u"select"_s, u"remove"_s} << false;
 }
 
 void RowsTest::emptiedListShowsTheDefaultPreview()
@@ -164,21 +168,22 @@ void RowsTest::selectionConnectionsComeAndGo_data()
     QTest::addColumn<int>("connections");
 
     QTest::newRow("the constructor makes one") << QStringList{} << 1;
-    QTest::newRow("a drop makes none") << QStringList{"add"} << 1;
-    QTest::newRow("a cancelled dialog makes one more") << QStringList{"cancelled open"} << 2;
-    QTest::newRow("each removal makes one more") << QStringList{"add", "remove", "remove"} << 3;
+    QTest::newRow("a drop makes none") << QStringList{u"add"_s} << 1;
+    QTest::newRow("a cancelled dialog makes one more") << QStringList{u"cancelled open"_s} << 2;
+    QTest::newRow("each removal makes one more")
+        << QStringList{u"add"_s, u"remove"_s, u"remove"_s} << 3;
     QTest::newRow("removing the last row breaks all of them")
-        << QStringList{"add", "cancelled open", "remove", "select", "remove"} << 0;
+        << QStringList{u"add"_s, u"cancelled open"_s, u"remove"_s, u"select"_s, u"remove"_s} << 0;
     QTest::newRow("removing from the emptied list makes one")
-        << QStringList{"add", "select", "remove", "remove"} << 1;
+        << QStringList{u"add"_s, u"select"_s, u"remove"_s, u"remove"_s} << 1;
     QTest::newRow("the dialog after that makes one more")
-        << QStringList{"add", "select", "remove", "cancelled open"} << 1;
+        << QStringList{u"add"_s, u"select"_s, u"remove"_s, u"cancelled open"_s} << 1;
     QTest::newRow("removing all leaves one")
-        << QStringList{"add", "remove", "cancelled open", "remove all"} << 1;
+        << QStringList{u"add"_s, u"remove"_s, u"cancelled open"_s, u"remove all"_s} << 1;
     QTest::newRow("removing all makes one after none were left")
-        << QStringList{"add", "select", "remove", "add", "remove all"} << 1;
+        << QStringList{u"add"_s, u"select"_s, u"remove"_s, u"add"_s, u"remove all"_s} << 1;
     QTest::newRow("removing all of an empty list changes nothing")
-        << QStringList{"cancelled open", "remove all"} << 2;
+        << QStringList{u"cancelled open"_s, u"remove all"_s} << 2;
 }
 
 void RowsTest::selectionConnectionsComeAndGo()
@@ -215,13 +220,13 @@ void RowsTest::clickStillAsksForAPreviewWithoutAConnection()
 void RowsTest::rowsStayAsAddedUntilAHeaderIsClicked()
 {
     WindowFixture fixture;
-    fixture.addImages({"c.jpg", "a.jpg"});
-    fixture.addImages({"b.jpg"});
-    QCOMPARE(rowsOf(fixture), QStringList({"c.jpg", "a.jpg", "b.jpg"}));
+    fixture.addImages({u"c.jpg"_s, u"a.jpg"_s});
+    fixture.addImages({u"b.jpg"_s});
+    QCOMPARE(rowsOf(fixture), QStringList({u"c.jpg"_s, u"a.jpg"_s, u"b.jpg"_s}));
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     clickHeader(table, 0);
     QCOMPARE(table->horizontalHeader()->sortIndicatorSection(), 0);
-    QVERIFY(rowsOf(fixture) != QStringList({"c.jpg", "a.jpg", "b.jpg"}));
+    QVERIFY(rowsOf(fixture) != QStringList({u"c.jpg"_s, u"a.jpg"_s, u"b.jpg"_s}));
 }
 
 void RowsTest::sizesStayWithTheirFilesWhenSorted_data()
@@ -230,8 +235,10 @@ void RowsTest::sizesStayWithTheirFilesWhenSorted_data()
     QTest::addColumn<Qt::SortOrder>("order");
     QTest::addColumn<QStringList>("rows");
 
-    const QStringList byName{"a.jpg 0.003KB", "b.jpg 0.001KB", "c.jpg 0.004KB", "d.jpg 0.002KB"};
-    const QStringList bySize{"b.jpg 0.001KB", "d.jpg 0.002KB", "a.jpg 0.003KB", "c.jpg 0.004KB"};
+    const QStringList byName{u"a.jpg 0.003KB"_s, u"b.jpg 0.001KB"_s, u"c.jpg 0.004KB"_s,
+                             u"d.jpg 0.002KB"_s};
+    const QStringList bySize{u"b.jpg 0.001KB"_s, u"d.jpg 0.002KB"_s, u"a.jpg 0.003KB"_s,
+                             u"c.jpg 0.004KB"_s};
     QTest::newRow("by name") << 0 << Qt::AscendingOrder << byName;
     QTest::newRow("by name, downwards")
         << 0 << Qt::DescendingOrder << QStringList(byName.rbegin(), byName.rend());
@@ -252,10 +259,10 @@ void RowsTest::sizesStayWithTheirFilesWhenSorted()
 
     QList<QUrl> files;
     for (const auto &[name, size] :
-         {std::pair("d.jpg", 2), std::pair("a.jpg", 3), std::pair("c.jpg", 4)})
+         {std::pair(u"d.jpg"_s, 2), std::pair(u"a.jpg"_s, 3), std::pair(u"c.jpg"_s, 4)})
         files << QUrl::fromLocalFile(fixture.makeFile(name, QByteArray(size, 'x')));
     fixture.drop(files);
-    fixture.drop({QUrl::fromLocalFile(fixture.makeFile("b.jpg", "x"))});
+    fixture.drop({QUrl::fromLocalFile(fixture.makeFile(u"b.jpg"_s, "x"))});
     QTEST(rowsOf(fixture, true), "rows");
     QVERIFY(table->isSortingEnabled());
 }
@@ -264,13 +271,13 @@ void RowsTest::doubleClickOpensTheFile()
 {
     WindowFixture fixture;
     const QString name = QString::fromUtf8("100% \u00fcber #1.jpg");
-    fixture.addImages({"a.jpg", name});
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
+    fixture.addImages({u"a.jpg"_s, name});
+    QDesktopServices::setUrlHandler(u"file"_s, this, "takeUrl");
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     const QPoint place = placeOfRow(table, 1);
     QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler(u"file"_s);
     QCOMPARE(urls, QList<QUrl>({QUrl::fromLocalFile(fixture.inputPath(name))}));
 }
 
@@ -290,9 +297,9 @@ void RowsTest::openingWithoutACurrentFileDoesNothing()
         table->insertRow(0);
         table->setCurrentCell(0, 0);
     }
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "takeUrl");
+    QDesktopServices::setUrlHandler(u"file"_s, this, "takeUrl");
     fixture.window.setopenselected();
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler(u"file"_s);
     QVERIFY(urls.isEmpty());
 }
 

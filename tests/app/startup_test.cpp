@@ -15,6 +15,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class StartupTest : public QObject
 {
     Q_OBJECT
@@ -37,20 +39,20 @@ void StartupTest::initTestCase()
     QPalette dark(QColor(0x20, 0x20, 0x20));
     QVERIFY(dark.color(QPalette::WindowText).lightness() > 128);
     QApplication::setPalette(dark);
-    QDir::setCurrent(QStringLiteral("/"));
+    QDir::setCurrent(u"/"_s);
     prepare(*qApp);
-    bundle = QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
+    bundle = QDir(QCoreApplication::applicationDirPath() + u"/../.."_s);
 }
 
 void StartupTest::pluginsAreTakenFromTheBundleAlone()
 {
     QCOMPARE(QCoreApplication::libraryPaths(),
-             QStringList({QDir::cleanPath(bundle.absoluteFilePath("Contents/Plugins"))}));
+             QStringList({QDir::cleanPath(bundle.absoluteFilePath(u"Contents/Plugins"_s))}));
 }
 
 void StartupTest::bundlesFolderIsTheCurrentOne()
 {
-    QCOMPARE(QDir::currentPath(), QDir::cleanPath(bundle.absoluteFilePath("..")));
+    QCOMPARE(QDir::currentPath(), QDir::cleanPath(bundle.absoluteFilePath(u".."_s)));
 }
 
 void StartupTest::imagesMayTakeAQuarterOfTheMemory()
@@ -75,7 +77,7 @@ void StartupTest::coloursAreLightOnADarkDesktop()
     QFETCH(QPalette::ColorRole, text);
     const Process window;
     for (const QPalette &colours :
-         {QApplication::palette(), window.findChild<QLabel *>("label_12")->palette()}) {
+         {QApplication::palette(), window.findChild<QLabel *>(u"label_12"_s)->palette()}) {
         QVERIFY(colours.color(ground).lightness() > 200);
         QVERIFY(colours.color(text).lightness() < 60);
     }

@@ -12,6 +12,8 @@
 #include <QStackedWidget>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 class WindowTest : public QObject
 {
     Q_OBJECT
@@ -38,7 +40,7 @@ private slots:
 void WindowTest::windowStartsOnTheInputPageWithNothingChosen()
 {
     WindowFixture fixture;
-    QCOMPARE(fixture.window.windowTitle(), QStringLiteral("Tessaro Image to PDF Converter"));
+    QCOMPARE(fixture.window.windowTitle(), u"Tessaro Image to PDF Converter"_s);
     QCOMPARE(fixture.find<QStackedWidget>("stackedWidget_dialog")->currentIndex(), 0);
     QCOMPARE(ProcessProbe::pageIndex(fixture.window), 0);
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
@@ -93,10 +95,11 @@ void WindowTest::fileTableIsStyledAndSelectsWholeRows()
 {
     WindowFixture fixture;
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
-    QCOMPARE(table->styleSheet(),
-             QString("background-color:transparent;border:1px solid #6c6c6c;border-radius: 5px;"));
-    const QString header = "QHeaderView::section {background-color:GhostWhite;color: black;"
-                           "padding-left: 1px;border: 0px solid #6c6c6c;}";
+    QCOMPARE(
+        table->styleSheet(),
+        QString(u"background-color:transparent;border:1px solid #6c6c6c;border-radius: 5px;"_s));
+    const QString header = u"QHeaderView::section {background-color:GhostWhite;color: black;"
+                           "padding-left: 1px;border: 0px solid #6c6c6c;}"_s;
     QCOMPARE(table->horizontalHeader()->styleSheet(), header);
     QCOMPARE(table->verticalHeader()->styleSheet(), header);
     QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
@@ -119,7 +122,7 @@ void WindowTest::windowShowsItsPicture()
 {
     WindowFixture fixture;
     QVERIFY(fixture.window.autoFillBackground());
-    const QImage picture = QImage(QStringLiteral(":/iconoption/icons/stock-ved.jpg"))
+    const QImage picture = QImage(u":/iconoption/icons/stock-ved.jpg"_s)
                                .scaled(552, 484, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const QBrush brush = fixture.window.palette().brush(group, QPalette::Window);
@@ -152,10 +155,10 @@ void WindowTest::tabKeyVisitsThePageInOrder()
         visited << fixture.window.focusWidget()->objectName();
         QTest::keyClick(fixture.window.focusWidget(), Qt::Key_Tab);
     } while (visited.last() != QLatin1String("runButton") && visited.size() < 30);
-    QCOMPARE(visited,
-             QStringList({"openfileButton", "removeButton", "removeallButton", "outputfolderEdit",
-                          "outputButton", "checkBox_joinpdf", "pushButton_ImageSetting",
-                          "pushButton_PDFSetting", "pushButton_Security", "runButton"}));
+    QCOMPARE(visited, QStringList({u"openfileButton"_s, u"removeButton"_s, u"removeallButton"_s,
+                                   u"outputfolderEdit"_s, u"outputButton"_s, u"checkBox_joinpdf"_s,
+                                   u"pushButton_ImageSetting"_s, u"pushButton_PDFSetting"_s,
+                                   u"pushButton_Security"_s, u"runButton"_s}));
 }
 
 void WindowTest::rotationMayBeTyped()
@@ -164,12 +167,12 @@ void WindowTest::rotationMayBeTyped()
     fixture.click("pushButton_ImageSetting");
     auto *box = fixture.find<QComboBox>("comboBox_rotate");
     box->lineEdit()->selectAll();
-    QTest::keyClicks(box->lineEdit(), QStringLiteral("45"));
-    QCOMPARE(box->currentText(), QStringLiteral("45"));
+    QTest::keyClicks(box->lineEdit(), u"45"_s);
+    QCOMPARE(box->currentText(), u"45"_s);
     // The tool's option follows the index, which typing alone leaves at the first item.
     QCOMPARE(fixture.window.gettheoption(), QString());
     QTest::keyClick(box->lineEdit(), Qt::Key_Return);
-    QCOMPARE(fixture.window.gettheoption(), QStringLiteral(" -rotate 45"));
+    QCOMPARE(fixture.window.gettheoption(), u" -rotate 45"_s);
 }
 
 void WindowTest::aboutButtonOpensTheAboutBox()
@@ -211,12 +214,12 @@ void WindowTest::emptySlotsDoNothing()
 {
     QFETCH(QByteArray, slot);
     WindowFixture fixture;
-    fixture.addImages({"a.jpg"});
+    fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
     QCoreApplication::processEvents();
     const QImage before = fixture.window.grab().toImage();
     QVERIFY(QMetaObject::invokeMethod(&fixture.window, slot));
-    QVERIFY(QMetaObject::invokeMethod(&fixture.window, "imageupdate", Q_ARG(QString, "x")));
+    QVERIFY(QMetaObject::invokeMethod(&fixture.window, "imageupdate", Q_ARG(QString, u"x"_s)));
     QCOMPARE(fixture.window.grab().toImage(), before);
     QVERIFY(!QApplication::activeModalWidget());
     QVERIFY(fixture.calls().isEmpty());

@@ -14,6 +14,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runTimeout = 120000; // ms
@@ -47,10 +49,7 @@ private slots:
 
 private:
     QString sample(const QString &name) const { return QStringLiteral(SAMPLES "/") + name; }
-    QString output(const QString &name) const
-    {
-        return folder->filePath(QStringLiteral("out/") + name);
-    }
+    QString output(const QString &name) const { return folder->filePath(u"out/"_s + name); }
     QString makeImage(const QString &name, QSize size = {40, 30}) const;
     QString makeFile(const QString &path, const QByteArray &content) const;
     QStringList outputFiles() const;
@@ -63,8 +62,8 @@ private:
 void ConversionE2eTest::init()
 {
     folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("out")));
-    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("in")));
+    QVERIFY(QDir(folder->path()).mkpath(u"out"_s));
+    QVERIFY(QDir(folder->path()).mkpath(u"in"_s));
     driver = std::make_unique<WindowDriver>();
     QVERIFY(driver->show());
     QVERIFY(driver->type("outputfolderEdit", output({})));
@@ -81,7 +80,7 @@ QString ConversionE2eTest::makeImage(const QString &name, QSize size) const
     image.fill(Qt::darkCyan);
     image.setDotsPerMeterX(2835); // 72 per inch: a pixel is a point
     image.setDotsPerMeterY(2835);
-    QString path = folder->filePath(QStringLiteral("in/") + name);
+    QString path = folder->filePath(u"in/"_s + name);
     if (!image.save(path, "PNG"))
         qFatal("cannot write %s", qPrintable(path));
     return path;
@@ -119,7 +118,7 @@ void ConversionE2eTest::everyFormatBecomesAPdf()
 {
     QFETCH(QString, name);
     convert({sample(name)});
-    const QString pdf = QFileInfo(name).baseName() + QStringLiteral(".pdf");
+    const QString pdf = QFileInfo(name).baseName() + u".pdf"_s;
     QCOMPARE(outputFiles(), QStringList(pdf));
     const PdfFacts facts = readPdf(output(pdf));
     QCOMPARE(facts.pages, 1);
@@ -129,11 +128,11 @@ void ConversionE2eTest::everyFormatBecomesAPdf()
 void ConversionE2eTest::mergedPagesStandInRowOrder()
 {
     QVERIFY(driver->tick("checkBox_joinpdf"));
-    convert(
-        {makeImage("b.png", {20, 10}), makeImage("c.png", {30, 10}), makeImage("a.png", {40, 10})});
-    QCOMPARE(outputFiles(), QStringList("b.pdf"));
+    convert({makeImage(u"b.png"_s, {20, 10}), makeImage(u"c.png"_s, {30, 10}),
+             makeImage(u"a.png"_s, {40, 10})});
+    QCOMPARE(outputFiles(), QStringList(u"b.pdf"_s));
     QList<QSize> pages;
-    const QList<QSizeF> pageSizes = readPdf(output("b.pdf")).pageSizes;
+    const QList<QSizeF> pageSizes = readPdf(output(u"b.pdf"_s)).pageSizes;
     for (const QSizeF &size : pageSizes)
         pages << size.toSize();
     QCOMPARE(pages, QList<QSize>({{20, 10}, {30, 10}, {40, 10}}));
@@ -152,8 +151,8 @@ void ConversionE2eTest::everyCompressionMakesAReadablePdf()
     QVERIFY(driver->click("pushButton_ImageSetting"));
     QVERIFY(driver->choose("comboBox_compresstype", index));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({sample("beach.jpg")});
-    QCOMPARE(readPdf(output("beach.pdf")).pageSizes, QList<QSizeF>({{640, 480}}));
+    convert({sample(u"beach.jpg"_s)});
+    QCOMPARE(readPdf(output(u"beach.pdf"_s)).pageSizes, QList<QSizeF>({{640, 480}}));
 }
 
 void ConversionE2eTest::pageSizeAndRotationShapeThePage_data()
@@ -181,11 +180,11 @@ void ConversionE2eTest::pageSizeAndRotationShapeThePage()
     QVERIFY(driver->choose("comboBox_rotate", rotation));
     QVERIFY(driver->tick("checkBox_monochrome", monochrome));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage("a.png")});
-    const QSizeF result = readPdf(output("a.pdf")).pageSizes.value(0);
+    convert({makeImage(u"a.png"_s)});
+    const QSizeF result = readPdf(output(u"a.pdf"_s)).pageSizes.value(0);
     QVERIFY2(qAbs(result.width() - page.width()) <= 1.0 &&
                  qAbs(result.height() - page.height()) <= 1.0,
-             qPrintable(QStringLiteral("%1 x %2").arg(result.width()).arg(result.height())));
+             qPrintable(u"%1 x %2"_s.arg(result.width()).arg(result.height())));
 }
 
 void ConversionE2eTest::securityReachesThePdf_data()
@@ -227,9 +226,9 @@ void ConversionE2eTest::securityReachesThePdf()
     QVERIFY(driver->type("lineEdit_userpwd", user));
     QVERIFY(driver->tick(qPrintable(box)));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage("a.png")});
-    QVERIFY(readPdf(output("a.pdf")).needsPassword);
-    const PdfFacts facts = readPdf(output("a.pdf"), user.toUtf8());
+    convert({makeImage(u"a.png"_s)});
+    QVERIFY(readPdf(output(u"a.pdf"_s)).needsPassword);
+    const PdfFacts facts = readPdf(output(u"a.pdf"_s), user.toUtf8());
     QVERIFY(facts.encrypted);
     QCOMPARE(facts.pages, 1);
     QCOMPARE(facts.mayPrint, granted == QLatin1String("print"));
@@ -241,30 +240,30 @@ void ConversionE2eTest::securityReachesThePdf()
 void ConversionE2eTest::descriptionArrivesAsTyped()
 {
     QVERIFY(driver->click("pushButton_PDFSetting"));
-    const QString title = QStringLiteral("  M\u00fcller & S\u00f6hne \u20ac \U0001F600  ");
+    const QString title = u"  M\u00fcller & S\u00f6hne \u20ac \U0001F600  "_s;
     QVERIFY(driver->type("lineEdit_title", title));
-    QVERIFY(driver->type("lineEdit_keywords", QStringLiteral("&amp; <b>")));
+    QVERIFY(driver->type("lineEdit_keywords", u"&amp; <b>"_s));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage("a.png")});
-    const PdfFacts facts = readPdf(output("a.pdf"));
+    convert({makeImage(u"a.png"_s)});
+    const PdfFacts facts = readPdf(output(u"a.pdf"_s));
     QCOMPARE(facts.title, title);
     QCOMPARE(facts.subject, QString());
-    QCOMPARE(facts.keywords, QStringLiteral("&amp; <b>"));
+    QCOMPARE(facts.keywords, u"&amp; <b>"_s);
     QCOMPARE(facts.author, QString());
-    QCOMPARE(outputFiles(), QStringList("a.pdf"));
+    QCOMPARE(outputFiles(), QStringList(u"a.pdf"_s));
 }
 
 void ConversionE2eTest::oddNamesWork_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("blanks") << "my holiday  photo.png";
-    QTest::newRow("letters beyond ASCII") << QStringLiteral("\u00dcbersicht \u65e5\u672c.png");
+    QTest::newRow("letters beyond ASCII") << u"\u00dcbersicht \u65e5\u672c.png"_s;
     QTest::newRow("leading dash") << "-resize.png";
     QTest::newRow("percent") << "100%d %s.png";
     QTest::newRow("brackets") << "scan[0].png";
     QTest::newRow("colon") << "png:a.png";
     QTest::newRow("at sign") << "@list.png";
-    QTest::newRow("200 characters") << QString(196, QLatin1Char('x')) + ".png";
+    QTest::newRow("200 characters") << QString(196, QLatin1Char('x')) + u".png"_s;
     QTest::newRow("no extension") << "scan";
 }
 
@@ -272,42 +271,42 @@ void ConversionE2eTest::oddNamesWork()
 {
     QFETCH(QString, name);
     QVERIFY(driver->click("pushButton_PDFSetting"));
-    QVERIFY(driver->type("lineEdit_title", "T"));
+    QVERIFY(driver->type("lineEdit_title", u"T"_s));
     QVERIFY(driver->click("pushButton_Inout"));
     convert({makeImage(name)});
-    const QString pdf = QFileInfo(name).baseName() + QStringLiteral(".pdf");
+    const QString pdf = QFileInfo(name).baseName() + u".pdf"_s;
     QCOMPARE(outputFiles(), QStringList(pdf));
-    QCOMPARE(readPdf(output(pdf)).title, QStringLiteral("T"));
+    QCOMPARE(readPdf(output(pdf)).title, u"T"_s);
 }
 
 void ConversionE2eTest::unreadableImageIsSkippedOneByOne()
 {
-    convert({makeImage("a.png"), makeFile(folder->filePath("in/b.png"), "no image"),
-             makeImage("c.png")});
-    QCOMPARE(outputFiles(), QStringList({"a.pdf", "c.pdf"}));
+    convert({makeImage(u"a.png"_s), makeFile(folder->filePath(u"in/b.png"_s), "no image"),
+             makeImage(u"c.png"_s)});
+    QCOMPARE(outputFiles(), QStringList({u"a.pdf"_s, u"c.pdf"_s}));
     QCOMPARE(driver->window.findChild<QProgressBar *>()->value(), 0);
 }
 
 void ConversionE2eTest::mergeWithAnUnreadableImageMakesNoPdf()
 {
     QVERIFY(driver->tick("checkBox_joinpdf"));
-    convert({makeImage("a.png"), makeFile(folder->filePath("in/b.png"), "no image")});
+    convert({makeImage(u"a.png"_s), makeFile(folder->filePath(u"in/b.png"_s), "no image")});
     QCOMPARE(outputFiles(), QStringList());
 }
 
 void ConversionE2eTest::passwordWithABlankLosesThePdf()
 {
     QVERIFY(driver->click("pushButton_Security"));
-    QVERIFY(driver->type("lineEdit_ownerpwd", "two words"));
+    QVERIFY(driver->type("lineEdit_ownerpwd", u"two words"_s));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage("a.png")});
+    convert({makeImage(u"a.png"_s)});
     QCOMPARE(outputFiles(), QStringList());
 }
 
 void ConversionE2eTest::olderPdfSurvivesAFailedConversion()
 {
-    const QString older = makeFile(output("b.pdf"), "an older result");
-    convert({makeFile(folder->filePath("in/b.png"), "no image")});
+    const QString older = makeFile(output(u"b.pdf"_s), "an older result");
+    convert({makeFile(folder->filePath(u"in/b.png"_s), "no image")});
     QFile file(older);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("an older result"));

@@ -16,6 +16,8 @@
 #include <QTableWidget>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runTimeout = 500000; // ms
@@ -34,7 +36,7 @@ QList<Call> readLog(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     static const QRegularExpression entry(
-        QStringLiteral(" exit status (\\d+) after (\\d+) ms\\n  argument: ([^\\n]*)"));
+        u" exit status (\\d+) after (\\d+) ms\\n  argument: ([^\\n]*)"_s);
     QList<Call> calls;
     auto matches = entry.globalMatch(QString::fromUtf8(file.readAll()));
     while (matches.hasNext()) {
@@ -74,8 +76,8 @@ void HostileConversionTest::initTestCase()
     QCOMPARE(files.make(), QString());
     for (const char *name : {"out", "pixels"})
         QVERIFY(QDir(folder.path()).mkdir(QLatin1String(name)));
-    qputenv("TMPDIR", place("pixels").toUtf8());
-    qputenv("TESSARO_TOOL_LOG", place("log").toUtf8());
+    qputenv("TMPDIR", place(u"pixels"_s).toUtf8());
+    qputenv("TESSARO_TOOL_LOG", place(u"log"_s).toUtf8());
 }
 
 void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls) const
@@ -84,7 +86,7 @@ void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls
     data.setUrls(urls);
     QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     driver.window.dropEvent(&drop);
-    driver.window.findChild<QLineEdit *>(QStringLiteral("outputfolderEdit"))->setText(place("out"));
+    driver.window.findChild<QLineEdit *>(u"outputfolderEdit"_s)->setText(place(u"out"_s));
 }
 
 void HostileConversionTest::everyFileIsConvertedOrRefused()
@@ -104,18 +106,18 @@ void HostileConversionTest::everyFileIsConvertedOrRefused()
     QCOMPARE(progress.size(), 201); // each image, and the end
     QCOMPARE(progress.last(), 0);
 
-    const QList<Call> calls = readLog(place("log"));
+    const QList<Call> calls = readLog(place(u"log"_s));
     QCOMPARE(calls.size(), 200);
     QStringList expected;
     for (const Call &call : calls) {
         QVERIFY2(call.status < 128, qPrintable(call.input)); // ended by no signal
         if (call.status == 0)
-            expected << QFileInfo(call.input).baseName() + QStringLiteral(".pdf");
+            expected << QFileInfo(call.input).baseName() + u".pdf"_s;
     }
-    QCOMPARE(everythingIn(place("out")), expected);
+    QCOMPARE(everythingIn(place(u"out"_s)), expected);
     for (const QString &pdf : std::as_const(expected))
-        QVERIFY2(readPdf(place("out/") + pdf).pages >= 1, qPrintable(pdf));
-    QCOMPARE(everythingIn(place("pixels")), QStringList());
+        QVERIFY2(readPdf(place(u"out/"_s) + pdf).pages >= 1, qPrintable(pdf));
+    QCOMPARE(everythingIn(place(u"pixels"_s)), QStringList());
 
     const auto slowest = std::ranges::max(calls, {}, &Call::duration);
     const qsizetype largest = peaks.indexOf(peaks.last()) - 1; // the bar moves at the next start
@@ -131,10 +133,10 @@ void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
     QVERIFY(driver.show());
     QVERIFY(driver.tick("checkBox_joinpdf"));
     const QUrl good = QUrl::fromLocalFile(QStringLiteral(SAMPLES "/beach.jpg"));
-    QVERIFY(QDir(place("out")).removeRecursively() && QDir().mkdir(place("out")));
+    QVERIFY(QDir(place(u"out"_s)).removeRecursively() && QDir().mkdir(place(u"out"_s)));
     addAll(driver, QList<QUrl>{good} + files.urls());
     QVERIFY(driver.convert(runTimeout));
-    QCOMPARE(everythingIn(place("out")), QStringList());
+    QCOMPARE(everythingIn(place(u"out"_s)), QStringList());
 }
 
 int main(int argc, char *argv[])

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int stepTimeout = 30000; // ms
@@ -24,21 +26,21 @@ QString run(const QString &program, const QStringList &arguments)
 
 QString xdotool(const QStringList &arguments)
 {
-    return run(QStringLiteral("xdotool"), arguments);
+    return run(u"xdotool"_s, arguments);
 }
 
 bool waitForWindow(const QString &title)
 {
     return QTest::qWaitFor(
         [&title] {
-            return !xdotool({"search", "--onlyvisible", "--name", title}).isEmpty();
+            return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, title}).isEmpty();
         },
         stepTimeout);
 }
 
 void clickAt(int x, int y)
 {
-    xdotool({"mousemove", QString::number(x), QString::number(y), "click", "1"});
+    xdotool({u"mousemove"_s, QString::number(x), QString::number(y), u"click"_s, u"1"_s});
 }
 
 } // namespace
@@ -55,34 +57,34 @@ void ProgramE2eTest::shippedProgramConvertsAnImage()
 {
     const QTemporaryDir folder;
     // The bundle is copied away from the build tree: nothing in it depends on where it was made.
-    const QString place = folder.filePath(QStringLiteral("a place.d"));
+    const QString place = folder.filePath(u"a place.d"_s);
     QVERIFY(QDir().mkpath(place));
-    QCOMPARE(QProcess::execute(QStringLiteral("cp"), {"-a", BUNDLE, place}), 0);
-    const QString output = folder.filePath(QStringLiteral("out"));
+    QCOMPARE(QProcess::execute(u"cp"_s, {u"-a"_s, QStringLiteral(BUNDLE), place}), 0);
+    const QString output = folder.filePath(u"out"_s);
     QVERIFY(QDir().mkpath(output));
 
     QProcess program;
-    program.setWorkingDirectory(QStringLiteral("/"));
+    program.setWorkingDirectory(u"/"_s);
     program.setProcessChannelMode(QProcess::MergedChannels);
-    program.start(place + QStringLiteral("/Tessaro.app/Contents/MacOS/tessaro"), QStringList());
-    QVERIFY(waitForWindow(QStringLiteral("Tessaro Image to PDF Converter")));
-    QCOMPARE(QFile::symLinkTarget(QStringLiteral("/proc/%1/cwd").arg(program.processId())), place);
+    program.start(place + u"/Tessaro.app/Contents/MacOS/tessaro"_s, QStringList());
+    QVERIFY(waitForWindow(u"Tessaro Image to PDF Converter"_s));
+    QCOMPARE(QFile::symLinkTarget(u"/proc/%1/cwd"_s.arg(program.processId())), place);
 
     clickAt(70, 282); // Open
-    QVERIFY(waitForWindow(QStringLiteral("Choose files to convert")));
-    xdotool({"type", "--delay", "5", QStringLiteral(SAMPLES "/market.pcx")});
-    xdotool({"key", "Return"});
-    const QString settings = place + QStringLiteral("/setting.ini");
+    QVERIFY(waitForWindow(u"Choose files to convert"_s));
+    xdotool({u"type"_s, u"--delay"_s, u"5"_s, QStringLiteral(SAMPLES "/market.pcx")});
+    xdotool({u"key"_s, u"Return"_s});
+    const QString settings = place + u"/setting.ini"_s;
     QVERIFY(QTest::qWaitFor([&] { return QFile::exists(settings); }, stepTimeout));
 
     clickAt(200, 332); // output folder
-    xdotool({"type", "--delay", "5", output});
+    xdotool({u"type"_s, u"--delay"_s, u"5"_s, output});
     clickAt(280, 420); // description page
     clickAt(330, 121); // title
-    xdotool({"type", "--delay", "5", "Market day"});
+    xdotool({u"type"_s, u"--delay"_s, u"5"_s, u"Market day"_s});
     clickAt(70, 420);  // back to the files
     clickAt(470, 345); // convert
-    const QString pdf = output + QStringLiteral("/market.pdf");
+    const QString pdf = output + u"/market.pdf"_s;
     QVERIFY(QTest::qWaitFor([&] { return readPdf(pdf).title == QLatin1String("Market day"); },
                             stepTimeout));
 

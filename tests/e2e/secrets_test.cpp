@@ -20,11 +20,13 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runTimeout = 120000; // ms
-const QString ownerPassword = QStringLiteral("Zebra-73-owner");
-const QString userPassword = QStringLiteral("Okapi-29-user");
+const QString ownerPassword = u"Zebra-73-owner"_s;
+const QString userPassword = u"Okapi-29-user"_s;
 const auto allFiles = QDir::Files | QDir::Hidden | QDir::System;
 
 /// Each password in each form that a file could hold it in.
@@ -56,11 +58,11 @@ QByteArray contentOf(const QString &path)
 QStringList descendants(const QString &pid)
 {
     QStringList result;
-    QDirIterator threads(QStringLiteral("/proc/%1/task").arg(pid),
-                         QDir::Dirs | QDir::NoDotAndDotDot);
+    QDirIterator threads(u"/proc/%1/task"_s.arg(pid), QDir::Dirs | QDir::NoDotAndDotDot);
     while (threads.hasNext()) {
-        const QByteArray children = contentOf(threads.next() + QStringLiteral("/children"));
-        const auto numbers = QString::fromLatin1(children).split(' ', Qt::SkipEmptyParts);
+        const QByteArray children = contentOf(threads.next() + u"/children"_s);
+        const auto numbers =
+            QString::fromLatin1(children).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         for (const QString &child : numbers)
             result << child << descendants(child);
     }
@@ -104,12 +106,12 @@ private:
 
 void SecretsTest::init()
 {
-    folder = std::make_unique<QTemporaryDir>(temporaryPlace + QStringLiteral("/secrets-XXXXXX"));
+    folder = std::make_unique<QTemporaryDir>(temporaryPlace + u"/secrets-XXXXXX"_s);
     for (const char *name : {"out", "tmp", "home"})
         QVERIFY(QDir(folder->path()).mkdir(QLatin1String(name)));
-    qputenv("TMPDIR", place("tmp").toUtf8());
-    qputenv("HOME", place("home").toUtf8());
-    qputenv("TESSARO_TOOL_LOG", place("log").toUtf8());
+    qputenv("TMPDIR", place(u"tmp"_s).toUtf8());
+    qputenv("HOME", place(u"home"_s).toUtf8());
+    qputenv("TESSARO_TOOL_LOG", place(u"log"_s).toUtf8());
     start = QDateTime::currentDateTime().addSecs(-2);
     finds.clear();
     toolsSeen = 0;
@@ -126,19 +128,19 @@ QString SecretsTest::makeImage(const QString &name) const
 
 void SecretsTest::inspectProcesses()
 {
-    const QStringList processes = descendants(QStringLiteral("self"));
+    const QStringList processes = descendants(u"self"_s);
     for (const QString &pid : processes) {
-        const QString process = QStringLiteral("/proc/") + pid;
-        const QString program = QFile::symLinkTarget(process + QStringLiteral("/exe"));
-        if (holdsSecret(contentOf(process + QStringLiteral("/environ"))))
-            finds << QStringLiteral("environment of ") + program;
+        const QString process = u"/proc/"_s + pid;
+        const QString program = QFile::symLinkTarget(process + u"/exe"_s);
+        if (holdsSecret(contentOf(process + u"/environ"_s)))
+            finds << u"environment of "_s + program;
         // The program's own two tools are given the password; they wipe it and hand it on.
         const QString name = QFileInfo(program).fileName();
         if (name == QLatin1String("convert") || name == QLatin1String("pdftk"))
             continue;
         ++toolsSeen;
-        if (holdsSecret(contentOf(process + QStringLiteral("/cmdline"))))
-            finds << QStringLiteral("command line of ") + program;
+        if (holdsSecret(contentOf(process + u"/cmdline"_s)))
+            finds << u"command line of "_s + program;
     }
 }
 
@@ -161,7 +163,7 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment_data()
     QTest::newRow("one by one") << false << ownerPassword << true;
     QTest::newRow("merged") << true << ownerPassword << true;
     QTest::newRow("a password with a blank, which the tool refuses")
-        << false << ownerPassword + QStringLiteral(" ") + ownerPassword << false;
+        << false << ownerPassword + u" "_s + ownerPassword << false;
 }
 
 void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
@@ -171,13 +173,13 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
     QFETCH(bool, succeeds);
     WindowDriver driver;
     QVERIFY(driver.show());
-    QVERIFY(driver.type("outputfolderEdit", place("out")));
+    QVERIFY(driver.type("outputfolderEdit", place(u"out"_s)));
     QVERIFY(driver.tick("checkBox_joinpdf", merged));
-    QVERIFY(driver.click("pushButton_PDFSetting") && driver.type("lineEdit_title", "T"));
+    QVERIFY(driver.click("pushButton_PDFSetting") && driver.type("lineEdit_title", u"T"_s));
     QVERIFY(driver.click("pushButton_Security") && driver.type("lineEdit_ownerpwd", owner) &&
             driver.type("lineEdit_userpwd", userPassword));
     QVERIFY(driver.click("pushButton_Inout"));
-    QVERIFY(driver.openFiles({makeImage("a.png"), makeImage("b.png")}));
+    QVERIFY(driver.openFiles({makeImage(u"a.png"_s), makeImage(u"b.png"_s)}));
 
     QTimer inspector;
     connect(&inspector, &QTimer::timeout, this, [this] {
@@ -187,27 +189,26 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
     inspector.start(10);
     QVERIFY(driver.convert(runTimeout));
     inspector.stop();
-    QCOMPARE(readPdf(place("out/a.pdf"), userPassword.toUtf8()).pages,
+    QCOMPARE(readPdf(place(u"out/a.pdf"_s), userPassword.toUtf8()).pages,
              succeeds ? (merged ? 2 : 1) : -1);
     QVERIFY(toolsSeen > 0);
 
-    for (const QString &root :
-         {folder->path(), QDir::currentPath(), QStringLiteral(BUNDLE), QStringLiteral("/tmp"),
-          QStringLiteral("/var/tmp"), QStringLiteral("/dev/shm")})
+    for (const QString &root : {folder->path(), QDir::currentPath(), QStringLiteral(BUNDLE),
+                                u"/tmp"_s, u"/var/tmp"_s, u"/dev/shm"_s})
         inspectFiles(root, 1 << 22);
-    QVERIFY(!holdsSecret(contentOf(QStringLiteral("/proc/self/environ"))));
+    QVERIFY(!holdsSecret(contentOf(u"/proc/self/environ"_s)));
     QCOMPARE(finds, QStringList());
-    QVERIFY(contentOf(place("log")).contains("pdftk"));
+    QVERIFY(contentOf(place(u"log"_s)).contains("pdftk"));
 }
 
 void SecretsTest::searchFindsAPasswordWhereThereIsOne()
 {
-    QFile file(place("tmp/careless"));
+    QFile file(place(u"tmp/careless"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("x" + ownerPassword.toUtf8() + "y");
     file.close();
     inspectFiles(folder->path(), 1 << 22);
-    QCOMPARE(finds, QStringList(place("tmp/careless")));
+    QCOMPARE(finds, QStringList(place(u"tmp/careless"_s)));
 }
 
 void SecretsTest::filesAreNoWiderThanTheUsersMask_data()
@@ -221,22 +222,22 @@ void SecretsTest::filesAreNoWiderThanTheUsersMask_data()
 void SecretsTest::filesAreNoWiderThanTheUsersMask()
 {
     QFETCH(int, mask);
-    QFile::remove(QStringLiteral("pdfa.txt"));
-    QFile::remove(QStringLiteral("setting.ini"));
+    QFile::remove(u"pdfa.txt"_s);
+    QFile::remove(u"setting.ini"_s);
     const mode_t usual = umask(static_cast<mode_t>(mask));
     WindowDriver driver;
-    const bool shown = driver.show() && driver.chooseFolder(place("out")) &&
+    const bool shown = driver.show() && driver.chooseFolder(place(u"out"_s)) &&
                        driver.click("pushButton_PDFSetting") &&
-                       driver.type("lineEdit_title", "T") && driver.click("pushButton_Inout") &&
-                       driver.openFiles({makeImage("a.png")}) && driver.convert(runTimeout);
+                       driver.type("lineEdit_title", u"T"_s) && driver.click("pushButton_Inout") &&
+                       driver.openFiles({makeImage(u"a.png"_s)}) && driver.convert(runTimeout);
     umask(usual);
     QVERIFY(shown);
-    QCOMPARE(modeOf(QStringLiteral("pdfa.txt")), 0666 & ~mask);
-    const int settings = modeOf(QStringLiteral("setting.ini"));
+    QCOMPARE(modeOf(u"pdfa.txt"_s), 0666 & ~mask);
+    const int settings = modeOf(u"setting.ini"_s);
     QVERIFY(settings >= 0);
     QCOMPARE(settings & (mask | 0111), 0);
-    QCOMPARE(readPdf(place("out/a.pdf")).title, QStringLiteral("T"));
-    QCOMPARE(modeOf(place("out/a.pdf")) & mask, 0);
+    QCOMPARE(readPdf(place(u"out/a.pdf"_s)).title, u"T"_s);
+    QCOMPARE(modeOf(place(u"out/a.pdf"_s)) & mask, 0);
 }
 
 void SecretsTest::bundleIsWritableByItsOwnerAlone()

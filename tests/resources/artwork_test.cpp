@@ -10,11 +10,13 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 using Sizes = QList<QSize>;
 
 namespace {
 
-const QString icons = QStringLiteral(":/iconoption/icons/");
+const QString icons = u":/iconoption/icons/"_s;
 
 Sizes squares(const QList<int> &sides)
 {
@@ -58,7 +60,8 @@ double darkest(const QImage &image)
 /// What an SVG source holds that would make its rendering depend on the machine, or "".
 QString foreignPart(QXmlStreamReader &svg)
 {
-    static const QStringList refused{"text", "image", "foreignObject", "script", "style"};
+    static const QStringList refused{u"text"_s, u"image"_s, u"foreignObject"_s, u"script"_s,
+                                     u"style"_s};
     while (!svg.atEnd()) {
         if (svg.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -66,7 +69,7 @@ QString foreignPart(QXmlStreamReader &svg)
             return svg.name().toString();
         for (const QXmlStreamAttribute &attribute : svg.attributes())
             if (attribute.name() == QLatin1String("href"))
-                return "href " + attribute.value().toString();
+                return u"href "_s + attribute.value().toString();
     }
     return svg.errorString();
 }
@@ -128,7 +131,7 @@ void TestArtwork::holdsItsSizes()
 {
     QFETCH(const QByteArray, format);
     QFETCH(const Sizes, sizes);
-    const QString file = icons + QTest::currentDataTag();
+    const QString file = icons + QString::fromUtf8(QTest::currentDataTag());
 
     QImageReader reader(file);
     reader.setAutoDetectImageFormat(true);
@@ -155,7 +158,7 @@ void TestArtwork::pixmapFitsItsLabel_data()
 void TestArtwork::pixmapFitsItsLabel()
 {
     QFETCH(const QSize, label);
-    const QPixmap pixmap(icons + QTest::currentDataTag());
+    const QPixmap pixmap(icons + QString::fromUtf8(QTest::currentDataTag()));
 
     QCOMPARE(pixmap.size(), QSize(32, 32));
     QCOMPARE(pixmap.size().boundedTo(label), pixmap.size());
@@ -175,7 +178,7 @@ void TestArtwork::iconIsSharpAtTheSizeShown_data()
 void TestArtwork::iconIsSharpAtTheSizeShown()
 {
     QFETCH(const QSize, shown);
-    const QString file = icons + QTest::currentDataTag();
+    const QString file = icons + QString::fromUtf8(QTest::currentDataTag());
 
     const Sizes available = QIcon(file).availableSizes();
     QVERIFY(available.contains(shown));
@@ -187,17 +190,17 @@ void TestArtwork::currentPageHasAPictureOfItsOwn_data()
     QTest::addColumn<QString>("name");
 
     for (const char *name : {"inout3", "appearance1", "description1", "security1"})
-        QTest::newRow(name) << QString(name);
+        QTest::newRow(name) << QString::fromUtf8(name);
 }
 
 void TestArtwork::currentPageHasAPictureOfItsOwn()
 {
     QFETCH(const QString, name);
-    QIcon icon(icons + name + ".png");
-    icon.addFile(icons + name + "-current.png", QSize(), QIcon::Disabled);
+    QIcon icon(icons + name + u".png"_s);
+    icon.addFile(icons + name + u"-current.png"_s, QSize(), QIcon::Disabled);
 
     const QSize shown(70, 75);
-    const QImage current = QPixmap(icons + name + "-current.png").toImage();
+    const QImage current = QPixmap(icons + name + u"-current.png"_s).toImage();
     QCOMPARE(icon.pixmap(shown, 1, QIcon::Disabled).toImage(), current);
     QVERIFY(icon.pixmap(shown, 1, QIcon::Normal).toImage() != current);
 }
@@ -207,7 +210,7 @@ void TestArtwork::coversItsWholeArea_data()
     QTest::addColumn<QString>("file");
 
     for (const char *name : {"whle.png", "whle@2x.png", "stock-ved.jpg"})
-        QTest::newRow(name) << icons + name;
+        QTest::newRow(name) << icons + QString::fromUtf8(name);
 }
 
 /// Painted as a background, a see-through pixel would cut a hole: the preview's frame is shaped by
@@ -224,7 +227,7 @@ void TestArtwork::coversItsWholeArea()
 
 void TestArtwork::blackTextIsReadOnTheBackground()
 {
-    const QImage background(icons + "stock-ved.jpg");
+    const QImage background(icons + u"stock-ved.jpg"_s);
     QVERIFY(!background.isNull());
     // WCAG 2.1 asks 7:1 for its highest level; black on white has 21:1.
     QVERIFY((darkest(background) + 0.05) / 0.05 > 16);
@@ -234,8 +237,8 @@ void TestArtwork::sourceDependsOnNothing_data()
 {
     QTest::addColumn<QString>("file");
 
-    const QDir sources(ARTWORK_SOURCES);
-    for (const QString &name : sources.entryList({"*.svg"}))
+    const QDir sources(QStringLiteral(ARTWORK_SOURCES));
+    for (const QString &name : sources.entryList({u"*.svg"_s}))
         QTest::newRow(qPrintable(name)) << sources.filePath(name);
 }
 

@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_METATYPE(Security)
 
 class ConversionOptionsTest : public QObject
@@ -71,7 +73,7 @@ void ConversionOptionsTest::pageSizeGivesAResizeOption()
 {
     QFETCH(int, index);
     const auto place = static_cast<std::size_t>(index);
-    QTEST(QString(place < pageSizes.size() ? pageSizes.at(place).text : ""), "text");
+    QTEST(QString::fromUtf8(place < pageSizes.size() ? pageSizes.at(place).text : ""), "text");
     QTEST(resizeOption(index), "option");
 }
 
@@ -113,7 +115,8 @@ void ConversionOptionsTest::compressionGivesTheToolsWord()
 {
     QFETCH(int, index);
     const auto place = static_cast<std::size_t>(index);
-    QTEST(QString(place < compressions.size() ? compressions.at(place).text : ""), "text");
+    QTEST(QString::fromUtf8(place < compressions.size() ? compressions.at(place).text : ""),
+          "text");
     QTEST(compressOption(index), "option");
 }
 
@@ -144,27 +147,28 @@ void ConversionOptionsTest::securityGivesPasswordsThenPermissions_data()
 
     QTest::newRow("nothing") << Security{} << "";
     QTest::newRow("everything")
-        << Security{"abc", "xyz", true, true, true, true}
+        << Security{u"abc"_s, u"xyz"_s, true, true, true, true}
         << " owner_pw abc user_pw xyz allow printing allow modifycontents allow copycontents"
            " allow modifyannotations";
-    QTest::newRow("an owner password alone") << Security{"abc", ""} << " owner_pw abc";
-    QTest::newRow("a user password alone stays alone") << Security{"", "xyz"} << " user_pw xyz";
+    QTest::newRow("an owner password alone") << Security{u"abc"_s, u""_s} << " owner_pw abc";
+    QTest::newRow("a user password alone stays alone")
+        << Security{u""_s, u"xyz"_s} << " user_pw xyz";
     QTest::newRow("equal passwords: the owner's alone")
-        << Security{"abc", "abc"} << " owner_pw abc";
+        << Security{u"abc"_s, u"abc"_s} << " owner_pw abc";
     QTest::newRow("passwords that differ in case")
-        << Security{"Abc", "abc"} << " owner_pw Abc user_pw abc";
+        << Security{u"Abc"_s, u"abc"_s} << " owner_pw Abc user_pw abc";
     QTest::newRow("passwords that differ in a blank")
-        << Security{"abc", "abc "} << " owner_pw abc user_pw abc ";
+        << Security{u"abc"_s, u"abc "_s} << " owner_pw abc user_pw abc ";
     QTest::newRow("an owner password of blanks counts as none")
-        << Security{"   ", "", false, false, false, true} << " allow modifyannotations";
+        << Security{u"   "_s, u""_s, false, false, false, true} << " allow modifyannotations";
     QTest::newRow("a user password of blanks counts as none")
-        << Security{"abc", " "} << " owner_pw abc";
-    QTest::newRow("a tab is a password") << Security{"\t", ""} << " owner_pw \t";
+        << Security{u"abc"_s, u" "_s} << " owner_pw abc";
+    QTest::newRow("a tab is a password") << Security{u"\t"_s, u""_s} << " owner_pw \t";
     QTest::newRow("blanks and quotes as typed")
-        << Security{" a b", "c\"d"} << " owner_pw  a b user_pw c\"d";
-    QTest::newRow("printing") << Security{"", "", true} << " allow printing";
-    QTest::newRow("modifying") << Security{"", "", false, true} << " allow modifycontents";
-    QTest::newRow("copying") << Security{"", "", false, false, true} << " allow copycontents";
+        << Security{u" a b"_s, u"c\"d"_s} << " owner_pw  a b user_pw c\"d";
+    QTest::newRow("printing") << Security{u""_s, u""_s, true} << " allow printing";
+    QTest::newRow("modifying") << Security{u""_s, u""_s, false, true} << " allow modifycontents";
+    QTest::newRow("copying") << Security{u""_s, u""_s, false, false, true} << " allow copycontents";
 }
 
 void ConversionOptionsTest::securityGivesPasswordsThenPermissions()

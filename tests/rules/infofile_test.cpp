@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QTextCodec>
 
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_METATYPE(Description)
 
 class InfoFileTest : public QObject
@@ -24,15 +26,17 @@ void InfoFileTest::descriptionWithoutTextIsBlank_data()
     QTest::addColumn<bool>("blank");
 
     QTest::newRow("nothing typed") << Description{} << true;
-    QTest::newRow("blanks alone in every field") << Description{" ", "  ", "   ", " "} << true;
-    QTest::newRow("a title") << Description{"T", "", "", ""} << false;
-    QTest::newRow("a subject") << Description{"", "S", "", ""} << false;
-    QTest::newRow("a keyword") << Description{"", "", "K", ""} << false;
-    QTest::newRow("an author") << Description{"", "", "", "A"} << false;
-    QTest::newRow("a tab is text") << Description{"\t", "", "", ""} << false;
+    QTest::newRow("blanks alone in every field")
+        << Description{u" "_s, u"  "_s, u"   "_s, u" "_s} << true;
+    QTest::newRow("a title") << Description{u"T"_s, u""_s, u""_s, u""_s} << false;
+    QTest::newRow("a subject") << Description{u""_s, u"S"_s, u""_s, u""_s} << false;
+    QTest::newRow("a keyword") << Description{u""_s, u""_s, u"K"_s, u""_s} << false;
+    QTest::newRow("an author") << Description{u""_s, u""_s, u""_s, u"A"_s} << false;
+    QTest::newRow("a tab is text") << Description{u"\t"_s, u""_s, u""_s, u""_s} << false;
     QTest::newRow("a no-break space is text")
-        << Description{QString(QChar(0xA0)), "", "", ""} << false;
-    QTest::newRow("blanks around a letter are text") << Description{" a ", "", "", ""} << false;
+        << Description{QString(QChar(0xA0)), u""_s, u""_s, u""_s} << false;
+    QTest::newRow("blanks around a letter are text")
+        << Description{u" a "_s, u""_s, u""_s, u""_s} << false;
 }
 
 void InfoFileTest::descriptionWithoutTextIsBlank()
@@ -47,23 +51,23 @@ void InfoFileTest::fileHasAKeyAndAValueLineForEachField_data()
     QTest::addColumn<Description>("description");
     QTest::addColumn<QByteArray>("file");
 
-    const Description all{"Title", "Subject", "one, two", "Author"};
+    const Description all{u"Title"_s, u"Subject"_s, u"one, two"_s, u"Author"_s};
     QTest::newRow("all fields")
         << QByteArray("UTF-8") << all
         << QByteArray("InfoKey:Title\nInfoValue:Title\nInfoKey:Subject\nInfoValue:Subject\n"
                       "InfoKey:Keywords\nInfoValue:one, two\nInfoKey:Author\nInfoValue:Author\n");
     QTest::newRow("an author alone")
-        << QByteArray("UTF-8") << Description{"", "", "", "A"}
+        << QByteArray("UTF-8") << Description{u""_s, u""_s, u""_s, u"A"_s}
         << QByteArray("InfoKey:Title\nInfoValue:\nInfoKey:Subject\nInfoValue:\n"
                       "InfoKey:Keywords\nInfoValue:\nInfoKey:Author\nInfoValue:A\n");
     QTest::newRow("blanks, tabs and per cent signs stay as typed")
-        << QByteArray("UTF-8") << Description{"  a  b ", "\t", "%1%2", ""}
+        << QByteArray("UTF-8") << Description{u"  a  b "_s, u"\t"_s, u"%1%2"_s, u""_s}
         << QByteArray("InfoKey:Title\nInfoValue:  a  b \nInfoKey:Subject\nInfoValue:\t\n"
                       "InfoKey:Keywords\nInfoValue:%1%2\nInfoKey:Author\nInfoValue:\n");
 
     const auto accented = QString::fromUtf8("caf\u00e9");
     const auto mixed = QString::fromUtf8("\u65e5\u672c \U0001F600");
-    const Description foreign{accented, mixed, "", ""};
+    const Description foreign{accented, mixed, u""_s, u""_s};
     QTest::newRow("non-ASCII in UTF-8, without a byte-order mark")
         << QByteArray("UTF-8") << foreign
         << QByteArray("InfoKey:Title\nInfoValue:caf\xC3\xA9\nInfoKey:Subject\nInfoValue:"
@@ -74,7 +78,7 @@ void InfoFileTest::fileHasAKeyAndAValueLineForEachField_data()
         << QByteArray("InfoKey:Title\nInfoValue:caf\xE9\nInfoKey:Subject\nInfoValue:?? ??\n"
                       "InfoKey:Keywords\nInfoValue:\nInfoKey:Author\nInfoValue:\n");
     QTest::newRow("Japanese two-byte letters")
-        << QByteArray("EUC-JP") << Description{"", mixed.left(3), "", ""}
+        << QByteArray("EUC-JP") << Description{u""_s, mixed.left(3), u""_s, u""_s}
         << QByteArray("InfoKey:Title\nInfoValue:\nInfoKey:Subject\nInfoValue:\xC6\xFC\xCB\xDC \n"
                       "InfoKey:Keywords\nInfoValue:\nInfoKey:Author\nInfoValue:\n");
 }

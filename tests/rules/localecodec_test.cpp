@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTextCodec>
 
+using namespace Qt::StringLiterals;
+
 class LocaleCodecTest : public QObject
 {
     Q_OBJECT
@@ -23,8 +25,8 @@ private:
 
 void LocaleCodecTest::initTestCase()
 {
-    QVERIFY(locales.add("en_US", "ISO-8859-1"));
-    QVERIFY(locales.add("ja_JP", "EUC-JP"));
+    QVERIFY(locales.add(u"en_US"_s, u"ISO-8859-1"_s));
+    QVERIFY(locales.add(u"ja_JP"_s, u"EUC-JP"_s));
 }
 
 void LocaleCodecTest::codecIsThatOfTheLocale_data()

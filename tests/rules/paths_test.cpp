@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class PathsTest : public QObject
 {
     Q_OBJECT
@@ -76,46 +78,50 @@ void PathsTest::quotedPathsSplitIntoThemselves_data()
 {
     QTest::addColumn<QStringList>("paths");
 
-    QTest::newRow("one") << QStringList{"/in/a.jpg"};
-    QTest::newRow("blanks, also two together") << QStringList{"/in/my  scan.jpg", "/in/ b .jpg"};
-    QTest::newRow("a leading dash") << QStringList{"-a.jpg", "/in/-b.jpg"};
-    QTest::newRow("per cent signs") << QStringList{"/in/%1%2%d.jpg", "/in/%%.jpg"};
+    QTest::newRow("one") << QStringList{u"/in/a.jpg"_s};
+    QTest::newRow("blanks, also two together")
+        << QStringList{u"/in/my  scan.jpg"_s, u"/in/ b .jpg"_s};
+    QTest::newRow("a leading dash") << QStringList{u"-a.jpg"_s, u"/in/-b.jpg"_s};
+    QTest::newRow("per cent signs") << QStringList{u"/in/%1%2%d.jpg"_s, u"/in/%%.jpg"_s};
     QTest::newRow("brackets, colons, backslashes and apostrophes")
-        << QStringList{"/in/a[0]{b}.jpg", "/in/x:y.jpg", "/in/a\\b'c.jpg"};
+        << QStringList{u"/in/a[0]{b}.jpg"_s, u"/in/x:y.jpg"_s, u"/in/a\\b'c.jpg"_s};
     QTest::newRow("letters outside ASCII")
         << QStringList{QString::fromUtf8("/in/\u00fcber \u65e5\u672c.jpg")};
-    QTest::newRow("two hundred characters") << QStringList{QString(200, 'a'), QString(200, ' ')};
+    QTest::newRow("two hundred characters")
+        << QStringList{QString(200, QLatin1Char('a')), QString(200, QLatin1Char(' '))};
 }
 
 void PathsTest::quotedPathsSplitIntoThemselves()
 {
     QFETCH(QStringList, paths);
-    QCOMPARE(QProcess::splitCommand("tool " + quoted(paths)), QStringList("tool") + paths);
+    QCOMPARE(QProcess::splitCommand(u"tool "_s + quoted(paths)), QStringList(u"tool"_s) + paths);
 }
 
 void PathsTest::quotedPathsStandWithOneBlankBetween()
 {
-    QCOMPARE(quoted(QString("/in/a b.jpg")), QString("\"/in/a b.jpg\""));
-    QCOMPARE(quoted(QStringList{"/in/a.jpg", "/in/b.jpg", "/in/c.jpg"}),
-             QString("\"/in/a.jpg\" \"/in/b.jpg\" \"/in/c.jpg\""));
+    QCOMPARE(quoted(QString(u"/in/a b.jpg"_s)), QString(u"\"/in/a b.jpg\""_s));
+    QCOMPARE(quoted(QStringList{u"/in/a.jpg"_s, u"/in/b.jpg"_s, u"/in/c.jpg"_s}),
+             QString(u"\"/in/a.jpg\" \"/in/b.jpg\" \"/in/c.jpg\""_s));
 }
 
 void PathsTest::pathWithADoubleQuoteBreaksTheCommand()
 {
-    QCOMPARE(quoted(QString("a\" b.jpg")), QString("\"a\" b.jpg\""));
-    QCOMPARE(QProcess::splitCommand(quoted(QString("a\" b.jpg"))), QStringList({"a", "b.jpg"}));
+    QCOMPARE(quoted(QString(u"a\" b.jpg"_s)), QString(u"\"a\" b.jpg\""_s));
+    QCOMPARE(QProcess::splitCommand(quoted(QString(u"a\" b.jpg"_s))),
+             QStringList({u"a"_s, u"b.jpg"_s}));
 }
 
 void PathsTest::unquotingTakesEveryDoubleQuoteAway()
 {
-    QCOMPARE(unquoted("\"/out/a b.pdf\""), QString("/out/a b.pdf"));
-    QCOMPARE(unquoted("\"/out/a\"b'.pdf\""), QString("/out/ab'.pdf"));
-    QCOMPARE(unquoted(""), QString());
+    QCOMPARE(unquoted(u"\"/out/a b.pdf\""_s), QString(u"/out/a b.pdf"_s));
+    QCOMPARE(unquoted(u"\"/out/a\"b'.pdf\""_s), QString(u"/out/ab'.pdf"_s));
+    QCOMPARE(unquoted(u""_s), QString());
 }
 
 void PathsTest::toolsStandBesideTheExecutable()
 {
-    QCOMPARE(toolPath("convert"), '"' + QCoreApplication::applicationDirPath() + "/convert\"");
+    QCOMPARE(toolPath(u"convert"_s),
+             u"\"%1/convert\""_s.arg(QCoreApplication::applicationDirPath()));
 }
 
 void PathsTest::outputsAreNamedAfterTheImage_data()

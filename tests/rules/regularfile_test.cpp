@@ -9,6 +9,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 class RegularFileTest : public QObject
 {
     Q_OBJECT
@@ -37,7 +39,7 @@ void RegularFileTest::initTestCase()
     QVERIFY(QFile::link(path("nothing"), path("link to nothing")));
     QCOMPARE(mkfifo(QFile::encodeName(path("fifo")).constData(), 0600), 0);
     QVERIFY(QFile::link(path("fifo"), path("link to the fifo")));
-    QVERIFY(QDir(folder.path()).mkdir("folder"));
+    QVERIFY(QDir(folder.path()).mkdir(u"folder"_s));
 }
 
 void RegularFileTest::regularFilesAloneAreOpened_data()
@@ -72,7 +74,7 @@ void RegularFileTest::regularFilesAloneAreOpened()
 void RegularFileTest::refusedFileLeavesNoDescriptorOpen()
 {
     const auto descriptors = [] {
-        return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::NoDotAndDotDot | QDir::System);
+        return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::System);
     };
     const QStringList before = descriptors();
     for (const char *name : {"fifo", "folder", "nothing", "file"}) {

@@ -28,10 +28,12 @@
 #include <cstdio>
 #include <ctime>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString title = QStringLiteral("Soak");
-const QString password = QStringLiteral("secret");
+const QString title = u"Soak"_s;
+const QString password = u"secret"_s;
 
 /// The longest of the times between two turns of a 10 ms timer, in ms. Of a long gap on a busy
 /// machine only the part that was this program's own work is the window's.
@@ -53,21 +55,21 @@ struct Measures
 
 qsizetype descriptors()
 {
-    return QDir(QStringLiteral("/proc/self/fd"))
+    return QDir(u"/proc/self/fd"_s)
         .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
         .size();
 }
 
 QString baseName(int number)
 {
-    return QStringLiteral("image-%1").arg(number, 5, 10, QLatin1Char('0'));
+    return u"image-%1"_s.arg(number, 5, 10, QLatin1Char('0'));
 }
 
 QList<QUrl> makeImages(const QDir &folder, int count)
 {
     QList<QUrl> urls;
     for (int i = 0; i < count; ++i) {
-        QFile file(folder.filePath(baseName(i) + QStringLiteral(".ppm")));
+        QFile file(folder.filePath(baseName(i) + u".ppm"_s));
         const QByteArray pixels(qsizetype(16) * 12 * 3, static_cast<char>(i));
         if (!file.open(QIODevice::WriteOnly) || file.write("P6 16 12 255\n" + pixels) < 0)
             qFatal("cannot write %s", qPrintable(file.fileName()));
@@ -95,7 +97,7 @@ void fillIn(Process &window, const QString &output, const QList<QUrl> &images)
     field("outputfolderEdit")->setText(output);
     field("lineEdit_title")->setText(title);
     field("lineEdit_ownerpwd")->setText(password);
-    window.findChild<QCheckBox *>(QStringLiteral("checkBox_allowprint"))->setChecked(true);
+    window.findChild<QCheckBox *>(u"checkBox_allowprint"_s)->setChecked(true);
     QMimeData data;
     data.setUrls(images);
     QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -141,12 +143,11 @@ Measures soak(QApplication &application, int count, bool realTools)
 {
     const QTemporaryDir folder;
     const QDir place(folder.path());
-    place.mkdir(QStringLiteral("in"));
-    place.mkdir(QStringLiteral("out"));
+    place.mkdir(u"in"_s);
+    place.mkdir(u"out"_s);
     Process window;
     window.show();
-    fillIn(window, place.filePath(QStringLiteral("out")),
-           makeImages(QDir(place.filePath(QStringLiteral("in"))), count));
+    fillIn(window, place.filePath(u"out"_s), makeImages(QDir(place.filePath(u"in"_s)), count));
 
     Measures measures;
     QApplication::processEvents();
@@ -154,13 +155,13 @@ Measures soak(QApplication &application, int count, bool realTools)
     const double memory = residentMemory();
     QElapsedTimer duration;
     duration.start();
-    window.findChild<QPushButton *>(QStringLiteral("runButton"))->click();
+    window.findChild<QPushButton *>(u"runButton"_s)->click();
     measures.gaps = runUntilQuiet(application);
     measures.duration = duration.elapsed();
     measures.growth = residentMemory() - memory;
     measures.descriptorsAfter = descriptors();
     for (int i = 0; i < count; ++i) {
-        const QString pdf = place.filePath(QStringLiteral("out/%1.pdf").arg(baseName(i)));
+        const QString pdf = place.filePath(u"out/%1.pdf"_s.arg(baseName(i)));
         measures.lost += isConverted(pdf, realTools) ? 0 : 1;
     }
     return measures;

@@ -11,14 +11,16 @@
 #include <QTextLayout>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString webAddress = QString::fromUtf8(deployment::webAddress);
-const QString mailTarget = "mailto:" + QString::fromUtf8(deployment::supportAddress);
+const QString mailTarget = u"mailto:"_s + QString::fromUtf8(deployment::supportAddress);
 
 QTextBrowser *textOf(const AboutDialog &dialog)
 {
-    return dialog.findChild<QTextBrowser *>(QStringLiteral("textBrowser"));
+    return dialog.findChild<QTextBrowser *>(u"textBrowser"_s);
 }
 
 QTextCharFormat formatOfLine(const QTextDocument &document, int line)
@@ -87,12 +89,12 @@ void TestAboutDialog::isAFixedWindow()
 {
     const AboutDialog dialog;
 
-    QCOMPARE(dialog.objectName(), "AboutDialog");
-    QCOMPARE(dialog.windowTitle(), "About");
+    QCOMPARE(dialog.objectName(), u"AboutDialog"_s);
+    QCOMPARE(dialog.windowTitle(), u"About"_s);
     QCOMPARE(dialog.size(), QSize(320, 109));
     QCOMPARE(dialog.minimumSize(), QSize(320, 109));
     QCOMPARE(dialog.maximumSize(), QSize(320, 109));
-    const QIcon icon(QStringLiteral(":/iconoption/icons/picturelog.ico"));
+    const QIcon icon(u":/iconoption/icons/picturelog.ico"_s);
     QCOMPARE(dialog.windowIcon().pixmap(16).toImage(), icon.pixmap(16).toImage());
     QVERIFY(!icon.pixmap(16).isNull());
 }
@@ -110,8 +112,9 @@ void TestAboutDialog::saysVersionAndAddresses()
 {
     const AboutDialog dialog;
 
-    QCOMPARE(textOf(dialog)->toPlainText().split('\n'),
-             QStringList({"Tessaro Image to PDF Converter v2.0", "", webAddress, "", mailTarget}));
+    QCOMPARE(textOf(dialog)->toPlainText().split(QLatin1Char('\n')),
+             QStringList(
+                 {u"Tessaro Image to PDF Converter v2.0"_s, u""_s, webAddress, u""_s, mailTarget}));
 }
 
 void TestAboutDialog::setsItsParagraphsInTheNamedFonts_data()
@@ -129,7 +132,7 @@ void TestAboutDialog::setsItsParagraphsInTheNamedFonts()
     const QTextDocument &document = *textOf(dialog)->document();
 
     const QTextCharFormat format = formatOfLine(document, line);
-    QCOMPARE(format.fontFamilies().toStringList(), QStringList("MS Shell Dlg 2"));
+    QCOMPARE(format.fontFamilies().toStringList(), QStringList(u"MS Shell Dlg 2"_s));
     QCOMPARE(format.fontPointSize(), 12.0);
     const QTextBlockFormat block = document.findBlockByNumber(line).blockFormat();
     QCOMPARE(
@@ -208,7 +211,7 @@ void TestAboutDialog::opensALinkOutsideAndStaysOpen()
 void TestAboutDialog::keepsItsScrollPositionBetweenOpenings()
 {
     AboutDialog dialog;
-    textOf(dialog)->append(QStringLiteral("more\n").repeated(30));
+    textOf(dialog)->append(u"more\n"_s.repeated(30));
     dialog.show();
     QScrollBar &bar = *textOf(dialog)->verticalScrollBar();
     bar.setValue(50);
@@ -228,7 +231,7 @@ void TestAboutDialog::keepsANameItHas()
 
     Ui_AboutDialog().setupUi(&dialog);
 
-    QCOMPARE(dialog.objectName(), "mine");
+    QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
 QTEST_MAIN(TestAboutDialog)

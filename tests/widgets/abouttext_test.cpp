@@ -6,6 +6,8 @@
 #include <QTextDocument>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString linkInLine(const QTextDocument &document, int line)
@@ -29,35 +31,36 @@ void TestAboutText::keepsWhiteSpaceAsTyped()
 {
     QTextDocument document;
 
-    document.setHtml(aboutText(QStringLiteral("a  b"), QString()));
+    document.setHtml(aboutText(u"a  b"_s, QString()));
 
-    QCOMPARE(document.findBlockByNumber(2).text(), "a  b");
+    QCOMPARE(document.findBlockByNumber(2).text(), u"a  b"_s);
 }
 
 void TestAboutText::escapesItsAddresses()
 {
     const QString web = QString::fromUtf8(deployment::webAddress);
     const QString support = QString::fromUtf8(deployment::supportAddress);
-    QCOMPARE(web, R"(https://example.org/?a="b"&c=<d>;e=\n%1${f})");
-    QCOMPARE(support, R"("A; B" <help\me@example.org>)");
+    QCOMPARE(web, uR"(https://example.org/?a="b"&c=<d>;e=\n%1${f})"_s);
+    QCOMPARE(support, uR"("A; B" <help\me@example.org>)"_s);
     QTextDocument document;
 
     document.setHtml(aboutText(web, support));
 
-    QCOMPARE(document.toPlainText().split('\n'), QStringList({"Tessaro Image to PDF Converter v2.0",
-                                                              "", web, "", "mailto:" + support}));
+    QCOMPARE(document.toPlainText().split(QLatin1Char('\n')),
+             QStringList({u"Tessaro Image to PDF Converter v2.0"_s, u""_s, web, u""_s,
+                          u"mailto:"_s + support}));
     QCOMPARE(QUrl(linkInLine(document, 2)), QUrl(web));
-    QCOMPARE(linkInLine(document, 4), "mailto:" + support);
+    QCOMPARE(linkInLine(document, 4), u"mailto:"_s + support);
 }
 
 void TestAboutText::linksAnAddressWithoutASchemeToTheWeb()
 {
     QTextDocument document;
 
-    document.setHtml(aboutText(QStringLiteral("www.example.org"), QString()));
+    document.setHtml(aboutText(u"www.example.org"_s, QString()));
 
-    QCOMPARE(document.findBlockByNumber(2).text(), "www.example.org");
-    QCOMPARE(linkInLine(document, 2), "http://www.example.org");
+    QCOMPARE(document.findBlockByNumber(2).text(), u"www.example.org"_s);
+    QCOMPARE(linkInLine(document, 2), u"http://www.example.org"_s);
 }
 
 QTEST_MAIN(TestAboutText)

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 class TestHexSpinBox : public QObject
 {
     Q_OBJECT
@@ -113,10 +115,10 @@ void TestHexSpinBox::stepsByTheKeyboard()
     HexSpinBox box;
 
     QTest::keyClick(&box, Qt::Key_Down);
-    QCOMPARE(box.text(), "in");
+    QCOMPARE(box.text(), u"in"_s);
     QTest::keyClick(&box, Qt::Key_Up);
     QTest::keyClick(&box, Qt::Key_Up);
-    QCOMPARE(box.text(), "cm");
+    QCOMPARE(box.text(), u"cm"_s);
 }
 
 void TestHexSpinBox::readsWhatIsTypedAsANumber()
@@ -124,11 +126,11 @@ void TestHexSpinBox::readsWhatIsTypedAsANumber()
     HexSpinBox box;
 
     box.selectAll();
-    QTest::keyClicks(&box, "2");
+    QTest::keyClicks(&box, u"2"_s);
     QTest::keyClick(&box, Qt::Key_Return);
 
     QCOMPARE(box.value(), 2);
-    QCOMPARE(box.text(), "in");
+    QCOMPARE(box.text(), u"in"_s);
 }
 
 void TestHexSpinBox::doesNotReadAUnitsName()
@@ -136,11 +138,11 @@ void TestHexSpinBox::doesNotReadAUnitsName()
     HexSpinBox box;
 
     box.selectAll();
-    QTest::keyClicks(&box, "cm");
+    QTest::keyClicks(&box, u"cm"_s);
     QTest::keyClick(&box, Qt::Key_Return);
 
     QCOMPARE(box.value(), 0);
-    QCOMPARE(box.text(), "pt");
+    QCOMPARE(box.text(), u"pt"_s);
 }
 
 QTEST_MAIN(TestHexSpinBox)

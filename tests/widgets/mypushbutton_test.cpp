@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QRgb nothing = 0;
@@ -56,7 +58,7 @@ QStringList letters(const QImage &image, QRgb colour)
         QString line;
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
-            line += pixel == nothing ? '.' : pixel == colour ? '#' : '!';
+            line += pixel == nothing ? u'.' : pixel == colour ? u'#' : u'!';
         }
         lines.append(line);
     }
@@ -73,7 +75,7 @@ QStringList discLetters(QSize size, QRect target)
         for (int x = 0; x < size.width(); ++x) {
             const double outside = std::hypot(x + 0.5 - radius, y + 0.5 - radius) - radius;
             const bool onEdge = std::abs(outside) < 1.0;
-            line += !target.contains(x, y) ? '.' : onEdge ? '?' : outside < 0 ? '#' : '.';
+            line += !target.contains(x, y) ? u'.' : onEdge ? u'?' : outside < 0 ? u'#' : u'.';
         }
         lines.append(line);
     }
@@ -85,8 +87,8 @@ QStringList withOpenPixels(QStringList actual, const QStringList &expected)
 {
     for (qsizetype y = 0; y < expected.size(); ++y)
         for (qsizetype x = 0; x < expected[y].size(); ++x)
-            if (expected[y][x] == '?')
-                actual[y][x] = '?';
+            if (expected[y][x] == u'?')
+                actual[y][x] = u'?';
     return actual;
 }
 
@@ -134,11 +136,11 @@ void TestMyPushButton::initTestCase()
 {
     QVERIFY(folder.isValid());
     // The name says another format than the content.
-    imagePath = folder.filePath("pressed.jpg");
+    imagePath = folder.filePath(u"pressed.jpg"_s);
     QImage image(8, 8, QImage::Format_RGB32);
     image.fill(fileColour);
     QVERIFY(image.save(imagePath, "PNG"));
-    image.save(folder.filePath("named.png"), "PNG");
+    image.save(folder.filePath(u"named.png"_s), "PNG");
 }
 
 void TestMyPushButton::centresTheIcon_data()
@@ -244,7 +246,8 @@ void TestMyPushButton::paintsNothingWithoutAPicture_data()
     QTest::newRow("no icon and an ordinary caption") << false << false << "Convert";
     QTest::newRow("no icon and nothing else") << false << false << "";
     QTest::newRow("a folder as the caption") << false << false << folder.path();
-    QTest::newRow("a file's name without its ending") << false << false << folder.filePath("named");
+    QTest::newRow("a file's name without its ending")
+        << false << false << folder.filePath(u"named"_s);
 }
 
 void TestMyPushButton::paintsNothingWithoutAPicture()
@@ -263,7 +266,7 @@ void TestMyPushButton::paintsNothingWithoutAPicture()
 
 void TestMyPushButton::paintsWhatTheFileHoldsNow()
 {
-    const QString path = folder.filePath("changing.png");
+    const QString path = folder.filePath(u"changing.png"_s);
     mypushbutton button(path);
     button.resize(40, 40);
     for (const QRgb colour : {fileColour, iconColour}) {
@@ -300,7 +303,7 @@ void TestMyPushButton::repaintsAtOnce()
 
 void TestMyPushButton::isAPushButtonInAllElse()
 {
-    mypushbutton button(QStringLiteral("&Convert"));
+    mypushbutton button(u"&Convert"_s);
     button.setCheckable(true);
     button.resize(40, 40);
     int clicks = 0;
@@ -320,14 +323,14 @@ void TestMyPushButton::takesWhatAPushButtonIsMadeFrom()
 {
     QWidget parent;
     const mypushbutton plain(&parent);
-    const mypushbutton captioned(QStringLiteral("Convert"), &parent);
-    const mypushbutton pictured(icon(), QStringLiteral("Convert"), &parent);
+    const mypushbutton captioned(u"Convert"_s, &parent);
+    const mypushbutton pictured(icon(), u"Convert"_s, &parent);
 
     QCOMPARE(plain.text(), QString());
     QVERIFY(plain.icon().isNull());
-    QCOMPARE(captioned.text(), "Convert");
+    QCOMPARE(captioned.text(), u"Convert"_s);
     QVERIFY(captioned.icon().isNull());
-    QCOMPARE(pictured.text(), "Convert");
+    QCOMPARE(pictured.text(), u"Convert"_s);
     QVERIFY(!pictured.icon().isNull());
     QCOMPARE(parent.children().size(), 3);
 }

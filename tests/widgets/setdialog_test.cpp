@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class TestSetDialog : public QObject
 {
     Q_OBJECT
@@ -23,12 +25,12 @@ void TestSetDialog::isAFixedWindow()
 {
     const setDialog dialog;
 
-    QCOMPARE(dialog.objectName(), "setDialog");
-    QCOMPARE(dialog.windowTitle(), "Option");
+    QCOMPARE(dialog.objectName(), u"setDialog"_s);
+    QCOMPARE(dialog.windowTitle(), u"Option"_s);
     QCOMPARE(dialog.size(), QSize(415, 346));
     QCOMPARE(dialog.minimumSize(), QSize(415, 346));
     QCOMPARE(dialog.maximumSize(), QSize(415, 346));
-    const QIcon icon(QStringLiteral(":/iconoption/icons/optionpic(4).ico"));
+    const QIcon icon(u":/iconoption/icons/optionpic(4).ico"_s);
     QCOMPARE(dialog.windowIcon().pixmap(16).toImage(), icon.pixmap(16).toImage());
     QVERIFY(!icon.pixmap(16).isNull());
     QCOMPARE(dialog.findChildren<QWidget *>().size(), 3);
@@ -108,7 +110,7 @@ void TestSetDialog::keepsANameItHas()
 
     Ui_setDialog().setupUi(&dialog);
 
-    QCOMPARE(dialog.objectName(), "mine");
+    QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
 QTEST_MAIN(TestSetDialog)
