@@ -17,7 +17,8 @@ wait_until() {
 }
 
 # The middles of the controls, in a window at the origin: without a window manager it stands there.
-declare -A places=([output]="200 332" [merge]="115 365" [convert]="470 345"
+declare -A places=([open]="70 282" [output]="200 332" [merge]="115 365"
+    [convert]="470 345"
     [files page]="70 420" [description page]="280 420" [security page]="385 420"
     [title]="330 121" [user password]="300 180")
 
