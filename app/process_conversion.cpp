@@ -6,7 +6,7 @@
 #include "commandline.h"
 #include "compressions.h"
 #include "infofile.h"
-#include "localecodec.h"
+#include "localecharset.h"
 #include "pagesizes.h"
 #include "security.h"
 #include "ui_process.h"
@@ -51,7 +51,7 @@ QString Process::getPdftkoption()
     QFile file(QStringLiteral("pdfa.txt"));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return QStringLiteral("111");
-    file.write(infoFile(description, *localeCodec()));
+    file.write(encoded(infoFile(description), localeCharset()));
     file.close();
     const QString folder = bundleFolder(QCoreApplication::applicationDirPath());
     return QStringLiteral(" update_info ") + quoted(folder + QStringLiteral("/pdfa.txt"));

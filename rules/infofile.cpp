@@ -2,8 +2,6 @@
 
 #include "blanks.h"
 
-#include <QTextCodec>
-
 #include <algorithm>
 #include <array>
 
@@ -31,13 +29,12 @@ bool isBlank(const Description &description)
     });
 }
 
-QByteArray infoFile(const Description &description, const QTextCodec &codec)
+QString infoFile(const Description &description)
 {
     QString text;
     for (const InfoField &field : infoFields) {
         text += QStringLiteral("InfoKey:%1\n").arg(QLatin1String(field.key));
         text += QStringLiteral("InfoValue:") + description.*field.value + QLatin1Char('\n');
     }
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    return codec.fromUnicode(text.constData(), static_cast<int>(text.size()), &state);
+    return text;
 }

@@ -3,8 +3,6 @@
 #include <QByteArray>
 #include <QString>
 
-class QTextCodec;
-
 /// The document description as typed.
 struct Description
 {
@@ -18,6 +16,5 @@ struct Description
 bool isBlank(const Description &description);
 
 /// The eight lines that `pdftk update_info` reads: a key line and a value line for each field,
-/// also for an empty one, values as typed, in `codec`'s charset without a byte-order mark.
-/// A character that the charset lacks becomes the codec's substitute.
-QByteArray infoFile(const Description &description, const QTextCodec &codec);
+/// also for an empty one, values as typed.
+QString infoFile(const Description &description);

@@ -29,6 +29,7 @@ private slots:
     void limitsFollowTheMachine();
     void pdftkTailHidesPasswords_data();
     void pdftkTailHidesPasswords();
+    void passwordsAreReadAsUtf8OrElseInTheLocalesCharset();
     void otherPdftkCallsAreNotOurs_data();
     void otherPdftkCallsAreNotOurs();
     void loggedArgumentsAreMasked_data();
@@ -187,6 +188,16 @@ void ToolRules::pdftkTailHidesPasswords()
     for (const Prompt &prompt : call->passwords)
         given.push_back(prompt.answer);
     QCOMPARE(given, answers);
+}
+
+void ToolRules::passwordsAreReadAsUtf8OrElseInTheLocalesCharset()
+{
+    const std::optional<PdftkCall> call = parsePdftkCall(
+        {"in.pdf", "output", "out.pdf", "owner_pw", "\xC3\xA9", "user_pw", "\xE8"}, "ISO-8859-1");
+    QVERIFY(call);
+    QCOMPARE(call->passwords.size(), size_t{2});
+    QCOMPARE(call->passwords[0].answer, std::string("\xC3\xA9"));
+    QCOMPARE(call->passwords[1].answer, std::string("\xC3\xA8"));
 }
 
 void ToolRules::otherPdftkCallsAreNotOurs_data()

@@ -74,8 +74,10 @@ void readTail(const std::vector<std::string> &words, const std::string &charset,
             continue;
         ++i;
         call.tail.emplace_back("PROMPT");
-        call.passwords.push_back({std::string(kind->question),
-                                  firstCharacters(toUtf8(words[i], charset), longestPassword)});
+        // The application hands over UTF-8 in every locale, a terminal the locale's charset.
+        const std::string password = isUtf8(words[i]) ? words[i] : toUtf8(words[i], charset);
+        call.passwords.push_back(
+            {std::string(kind->question), firstCharacters(password, longestPassword)});
     }
     refuseEqualPasswords(call);
 }
