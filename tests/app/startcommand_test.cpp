@@ -1,6 +1,7 @@
 // Files that the program is started with: which of them are listed, and what the window shows.
 
 #include "startcommand.h"
+
 #include "windowfixture.h"
 
 #include <QFrame>
@@ -12,6 +13,8 @@
 #include <cstdio>
 
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,7 +33,7 @@ QStringList complaintsOf(const Work &work)
     dup2(kept, STDERR_FILENO);
     close(kept);
     file.seek(0);
-    return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -50,40 +53,42 @@ private slots:
 void StartCommandTest::existingFilesAreTakenInOrder()
 {
     WindowFixture fixture;
-    const QString b = fixture.makeFile("b.png"), a = fixture.makeFile("a b.png");
+    const QString b = fixture.makeFile(u"b.png"_s), a = fixture.makeFile(u"a b.png"_s);
     std::optional<QStringList> files;
     const QStringList complaints = complaintsOf([&] {
-        files = startFiles({"tessaro", "b.png", QUrl::fromLocalFile(a).toString(), "b.png", "."},
-                           fixture.inputPath("."));
+        files = startFiles(
+            {u"tessaro"_s, u"b.png"_s, QUrl::fromLocalFile(a).toString(), u"b.png"_s, u"."_s},
+            fixture.inputPath(u"."_s));
     });
     QCOMPARE(complaints, QStringList());
     QCOMPARE(files.value().mid(0, 3),
-             QStringList({fixture.inputPath("./b.png"), a, fixture.inputPath("./b.png")}));
+             QStringList({fixture.inputPath(u"./b.png"_s), a, fixture.inputPath(u"./b.png"_s)}));
     QCOMPARE(files->size(), 4); // a folder is listed as a dropped one is
 }
 
 void StartCommandTest::eachMissingFileIsOneLine()
 {
     WindowFixture fixture;
-    const QString there = fixture.makeFile("there.png");
+    const QString there = fixture.makeFile(u"there.png"_s);
     std::optional<QStringList> files;
     const QStringList complaints = complaintsOf([&] {
-        files = startFiles({"tessaro", "no.png", there, "no\nname", "file://other/a.png"}, "/none");
+        files = startFiles(
+            {u"tessaro"_s, u"no.png"_s, there, u"no\nname"_s, u"file://other/a.png"_s}, u"/none"_s);
     });
     QCOMPARE(files.value(), QStringList(there));
-    QCOMPARE(complaints, QStringList({"tessaro: There is no file /none/no.png.",
-                                      "tessaro: There is no file /none/no?name.",
-                                      "tessaro: There is no file file://other/a.png."}));
+    QCOMPARE(complaints, QStringList({u"tessaro: There is no file /none/no.png."_s,
+                                      u"tessaro: There is no file /none/no?name."_s,
+                                      u"tessaro: There is no file file://other/a.png."_s}));
 }
 
 void StartCommandTest::unknownOptionIsRefused()
 {
     std::optional<QStringList> files;
     const QStringList complaints = complaintsOf([&] {
-        files = startFiles({"tessaro", "--colour", "/"}, "/");
+        files = startFiles({u"tessaro"_s, u"--colour"_s, u"/"_s}, u"/"_s);
     });
     QVERIFY(!files.has_value());
-    QCOMPARE(complaints, QStringList("tessaro: There is no option colour; see --help."));
+    QCOMPARE(complaints, QStringList(u"tessaro: There is no option colour; see --help."_s));
 }
 
 void StartCommandTest::firstRowIsCurrentAndItsPreviewShows()
@@ -91,9 +96,9 @@ void StartCommandTest::firstRowIsCurrentAndItsPreviewShows()
     WindowFixture fixture;
     QImage red(20, 10, QImage::Format_RGB32);
     red.fill(Qt::red);
-    const QString first = fixture.inputPath("first.bmp");
+    const QString first = fixture.inputPath(u"first.bmp"_s);
     QVERIFY(red.save(first));
-    fixture.window.addFiles({first, fixture.makeFile("second.png")});
+    fixture.window.addFiles({first, fixture.makeFile(u"second.png"_s)});
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     QCOMPARE(table->rowCount(), 2);
     QCOMPARE(table->currentRow(), 0);

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class StartArgumentsTest : public QObject
 {
     Q_OBJECT
@@ -23,32 +25,33 @@ void StartArgumentsTest::optionsAndFilesAreToldApart_data()
     QTest::addColumn<QStringList>("files");
     using Words = QStringList;
     QTest::newRow("nothing") << Words() << Words() << Words();
-    QTest::newRow("files in their order")
-        << Words{"b.png", "a b.png", "b.png"} << Words() << Words{"b.png", "a b.png", "b.png"};
-    QTest::newRow("help") << Words{"--help"} << Words{"help"} << Words();
-    QTest::newRow("short help") << Words{"-h"} << Words{"help"} << Words();
-    QTest::newRow("version") << Words{"--version"} << Words{"version"} << Words();
-    QTest::newRow("short version") << Words{"-v"} << Words{"version"} << Words();
+    QTest::newRow("files in their order") << Words{u"b.png"_s, u"a b.png"_s, u"b.png"_s} << Words()
+                                          << Words{u"b.png"_s, u"a b.png"_s, u"b.png"_s};
+    QTest::newRow("help") << Words{u"--help"_s} << Words{u"help"_s} << Words();
+    QTest::newRow("short help") << Words{u"-h"_s} << Words{u"help"_s} << Words();
+    QTest::newRow("version") << Words{u"--version"_s} << Words{u"version"_s} << Words();
+    QTest::newRow("short version") << Words{u"-v"_s} << Words{u"version"_s} << Words();
     QTest::newRow("help after a file")
-        << Words{"a.png", "--help"} << Words{"help"} << Words{"a.png"};
+        << Words{u"a.png"_s, u"--help"_s} << Words{u"help"_s} << Words{u"a.png"_s};
     QTest::newRow("another option")
-        << Words{"--colour", "a.png"} << Words{"colour"} << Words{"a.png"};
-    QTest::newRow("one of Qt's options") << Words{"-style"} << Words{"style"} << Words();
-    QTest::newRow("a word with the letter of help") << Words{"-sh"} << Words{"sh"} << Words();
-    QTest::newRow("files after two dashes") << Words{"a.png", "--", "--help", "-b.png"} << Words()
-                                            << Words{"a.png", "--help", "-b.png"};
-    QTest::newRow("a dash alone") << Words{"-"} << Words() << Words{"-"};
+        << Words{u"--colour"_s, u"a.png"_s} << Words{u"colour"_s} << Words{u"a.png"_s};
+    QTest::newRow("one of Qt's options") << Words{u"-style"_s} << Words{u"style"_s} << Words();
+    QTest::newRow("a word with the letter of help") << Words{u"-sh"_s} << Words{u"sh"_s} << Words();
+    QTest::newRow("files after two dashes")
+        << Words{u"a.png"_s, u"--"_s, u"--help"_s, u"-b.png"_s} << Words()
+        << Words{u"a.png"_s, u"--help"_s, u"-b.png"_s};
+    QTest::newRow("a dash alone") << Words{u"-"_s} << Words() << Words{u"-"_s};
 }
 
 void StartArgumentsTest::optionsAndFilesAreToldApart()
 {
     QFETCH(QStringList, arguments);
-    const StartArguments read = readStartArguments(QStringList("tessaro") + arguments);
+    const StartArguments read = readStartArguments(QStringList(u"tessaro"_s) + arguments);
     QStringList wishes = read.unknownOptions;
     if (read.wantsHelp)
-        wishes << "help";
+        wishes << u"help"_s;
     if (read.wantsVersion)
-        wishes << "version";
+        wishes << u"version"_s;
     QTEST(wishes, "wishes");
     QTEST(read.files, "files");
 }
@@ -56,7 +59,8 @@ void StartArgumentsTest::optionsAndFilesAreToldApart()
 void StartArgumentsTest::helpNamesEveryOption()
 {
     const QString help = startHelp();
-    for (const char *word : {"[FILE ...]", "-h, --help", "-v, --version", "Images to list"})
+    for (const QString &word :
+         {u"[FILE ...]"_s, u"-h, --help"_s, u"-v, --version"_s, u"Images to list"_s})
         QVERIFY2(help.contains(word), qPrintable(help));
 }
 
@@ -67,7 +71,8 @@ void StartArgumentsTest::namesAreSeenFromTheFolder_data()
     QTest::addColumn<QString>("path");
     const auto row = [](const char *name, const char *argument, const char *path,
                         const char *folder = "/home/u") {
-        QTest::newRow(name) << QString(argument) << QString(folder) << QString(path);
+        QTest::newRow(name) << QString::fromUtf8(argument) << QString::fromUtf8(folder)
+                            << QString::fromUtf8(path);
     };
     row("a name", "a.png", "/home/u/a.png");
     row("a name in the root folder", "a.png", "/a.png", "/");
