@@ -80,6 +80,7 @@ void PdftkDescription::fieldsArriveAsTyped_data()
         {"beyond ASCII", {emoji, umlauts, emoji, QString::fromUtf8("\xE6\x97\xA5\xE6\x9C\xAC")}},
         {"blanks around", {"  two before", "two after  ", " ", "\ttab\tin\tit"}},
         {"what looks like markup", {"a &amp; b", "<b> \"q\" 'a'", "&#252;", "InfoKey:Title"}},
+        {"labels as lines of a value", {"a\nInfoBegin\nInfoKey:x", "b", "c\n", "d\nInfoValue:"}},
         {"empty but one", {"", "", "", "author"}},
         {"a title alone", {"only", "", "", ""}},
         {"backslashes and brackets", {"a\\b", "(open", "closed)", "\\303\\274"}},

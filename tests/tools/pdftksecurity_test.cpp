@@ -18,6 +18,10 @@ private slots:
     void passwordsOpenTheResult();
     void refusedPasswordsFailAsTheToolFails_data();
     void refusedPasswordsFailAsTheToolFails();
+    void passwordsWithLineBreaksAreRefused();
+    void otherCallsWithPasswordsAreRefused();
+    void anyResultNameTakesPasswords_data();
+    void anyResultNameTakesPasswords();
     void permissionsWithoutPasswordEncryptNothing();
     void passwordsAreNowhereDuringTheCall();
     void passwordsAreNowhereAfterTheCall();
@@ -174,6 +178,48 @@ void PdftkSecurity::refusedPasswordsFailAsTheToolFails()
     QCOMPARE(contentOf(m_folder.filePath("out.pdf")), QByteArray("older"));
     for (int i = 1; i < tail.size(); i += 2)
         QVERIFY(!result.errors.contains(tail[i].toUtf8()));
+}
+
+void PdftkSecurity::passwordsWithLineBreaksAreRefused()
+{
+    writeContent(m_folder.filePath("out.pdf"), "older");
+    const RunResult result = finish({"user_pw", "Geheim\nrest"});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors, QByteArray("pdftk: a password must not hold a line break\n"));
+    QCOMPARE(contentOf(m_folder.filePath("out.pdf")), QByteArray("older"));
+}
+
+// A real tool that would show what it is given.
+void PdftkSecurity::otherCallsWithPasswordsAreRefused()
+{
+    const QStringList tool = shellTool("echo \"$@\"");
+    const ToolBundle bundle(tool, tool);
+    const QStringList call = {"in.pdf", "cat", "1", "output", "x.pdf", "owner_pw", "Geheim"};
+    const RunResult result = runProgram(bundle.tool("pdftk"), call, m_folder.path());
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.output, QByteArray());
+    QVERIFY2(result.errors.startsWith("pdftk: passwords are taken only behind"),
+             result.errors.constData());
+    const RunResult without = runProgram(bundle.tool("pdftk"), call.mid(0, 5), m_folder.path());
+    QCOMPARE(without.output, QByteArray("in.pdf cat 1 output x.pdf\n"));
+}
+
+void PdftkSecurity::anyResultNameTakesPasswords_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"x.PDF", ".pdf", "-1.pdf", "x", "PROMPT", "x%d.pdf"})
+        QTest::newRow(name) << QString(name);
+}
+
+void PdftkSecurity::anyResultNameTakesPasswords()
+{
+    QFETCH(QString, name);
+    const RunResult result = runBundled(
+        "pdftk", {"in.pdf", "output", name, "owner_pw", "own", "user_pw", "use"}, m_folder.path());
+    QCOMPARE(result.errors + result.output, QByteArray());
+    QVERIFY(!readPdf(m_folder.filePath(name), "use").needsPassword);
+    const RunResult again = runBundled("pdftk", {name, "output", name}, m_folder.path());
+    QVERIFY2(again.errors.contains("PASSWORD REQUIRED"), again.errors.constData());
 }
 
 void PdftkSecurity::permissionsWithoutPasswordEncryptNothing()

@@ -1,5 +1,6 @@
 #include "convertcall.h"
 #include "convertlimits.h"
+#include "diagnosis.h"
 #include "losslessinfo.h"
 #include "pdftkcall.h"
 #include "text.h"
@@ -32,12 +33,16 @@ private slots:
     void passwordsAreReadAsUtf8OrElseInTheLocalesCharset();
     void otherPdftkCallsAreNotOurs_data();
     void otherPdftkCallsAreNotOurs();
+    void passwordsElsewhereAreRefused_data();
+    void passwordsElsewhereAreRefused();
+    void passwordsWithLineBreaksAreRefused_data();
+    void passwordsWithLineBreaksAreRefused();
     void loggedArgumentsAreMasked_data();
     void loggedArgumentsAreMasked();
     void infoFileBecomesLossless_data();
     void infoFileBecomesLossless();
-    void textBecomesUtf8_data();
-    void textBecomesUtf8();
+    void textIsDecoded_data();
+    void textIsDecoded();
     void fileNamesAreMadeSafe_data();
     void fileNamesAreMadeSafe();
 };
@@ -169,6 +174,14 @@ void ToolRules::pdftkTailHidesPasswords_data()
         << Words{"owner_pw", "********", "user_pw", "********"} << Words{};
     QTest::newRow("a keyword without a password")
         << Words{"user_pw"} << Words{"user_pw"} << Words{};
+    QTest::newRow("keywords in capitals")
+        << Words{"OWNER_PW", "a", "User_Pw", "b"}
+        << Words{"OWNER_PW", "PROMPT", "User_Pw", "PROMPT"} << Words{"a", "b"};
+    QTest::newRow("an input's password, which the tool refuses there")
+        << Words{"input_pw", "a"} << Words{"input_pw", "********"} << Words{};
+    QTest::newRow("32 characters of more than one byte")
+        << Words{"user_pw", std::string(QString(40, QChar(0xFC)).toUtf8())}
+        << Words{"user_pw", "PROMPT"} << Words{std::string(QString(32, QChar(0xFC)).toUtf8())};
 }
 
 void ToolRules::pdftkTailHidesPasswords()
@@ -216,6 +229,43 @@ void ToolRules::otherPdftkCallsAreNotOurs()
     QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
 }
 
+void ToolRules::passwordsElsewhereAreRefused_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::newRow("an input's password") << Words{"a.pdf", "input_pw", "x", "output", "o.pdf"};
+    QTest::newRow("another operation")
+        << Words{"a.pdf", "cat", "1", "output", "o.pdf", "owner_pw", "x"};
+    QTest::newRow("to standard output") << Words{"a.pdf", "output", "-", "user_pw", "x"};
+    QTest::newRow("keywords in capitals") << Words{"a.pdf", "dump_data", "INPUT_PW", "x"};
+}
+
+void ToolRules::passwordsElsewhereAreRefused()
+{
+    QFETCH(Words, arguments);
+    QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, "UTF-8"));
+}
+
+void ToolRules::passwordsWithLineBreaksAreRefused_data()
+{
+    QTest::addColumn<std::string>("password");
+    QTest::addColumn<std::string>("charset");
+    const std::string utf8 = "UTF-8";
+    QTest::newRow("a line feed") << std::string("a\nb") << utf8;
+    QTest::newRow("a carriage return at the end") << std::string("ab\r") << utf8;
+    QTest::newRow("a next line") << std::string("a\xC2\x85z") << utf8;
+    QTest::newRow("a next line in Latin-1") << std::string("a\x85z") << std::string("ISO-8859-1");
+    QTest::newRow("a line separator") << std::string("\xE2\x80\xA8") << utf8;
+    QTest::newRow("a paragraph separator") << std::string("\xE2\x80\xA9") << utf8;
+}
+
+void ToolRules::passwordsWithLineBreaksAreRefused()
+{
+    QFETCH(std::string, password);
+    QFETCH(std::string, charset);
+    const Words arguments = {"in.pdf", "output", "o.pdf", "user_pw", password};
+    QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, charset));
+}
+
 void ToolRules::loggedArgumentsAreMasked_data()
 {
     QTest::addColumn<Words>("arguments");
@@ -230,6 +280,9 @@ void ToolRules::loggedArgumentsAreMasked_data()
     QTest::newRow("an input's password")
         << Words{"a.pdf", "input_pw", "A=x", "output", "b.pdf"}
         << Words{"a.pdf", "input_pw", "********", "output", "********"};
+    QTest::newRow("files that are called as keywords are")
+        << Words{"owner_pw", "output", "o.pdf", "USER_PW", "x"}
+        << Words{"owner_pw", "output", "o.pdf", "USER_PW", "********"};
 }
 
 void ToolRules::loggedArgumentsAreMasked()
@@ -260,6 +313,12 @@ void ToolRules::infoFileBecomesLossless_data()
     QTest::newRow("text beyond ASCII in the locale's charset")
         << std::string("InfoKey:Title\nInfoValue:\xFC\xA4\n") << std::string("ISO-8859-15")
         << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;&#8364;\n");
+    QTest::newRow("labels as lines of a value")
+        << std::string("InfoKey:Title\nInfoValue:a\nInfoBegin\nInfoKey:x\n"
+                       "InfoKey:Author\nInfoValue:b\n\n")
+        << std::string("UTF-8")
+        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: a&#10;InfoBegin&#10;InfoKey:x\n"
+                       "InfoBegin\nInfoKey: Author\nInfoValue: b&#10;\n");
     QTest::newRow("a file in the newer form is left to the tool")
         << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;\n") << std::string("UTF-8")
         << std::string();
@@ -275,33 +334,37 @@ void ToolRules::infoFileBecomesLossless()
     QCOMPARE(losslessInfo(content, charset), lossless);
 }
 
-void ToolRules::textBecomesUtf8_data()
+void ToolRules::textIsDecoded_data()
 {
     QTest::addColumn<std::string>("bytes");
     QTest::addColumn<std::string>("charset");
     QTest::addColumn<std::string>("text");
-    QTest::newRow("UTF-8 stays") << std::string("\xC3\xBC") << std::string("UTF-8")
-                                 << std::string("\xC3\xBC");
-    QTest::newRow("Latin-1 is decoded")
-        << std::string("a\xFC") << std::string("ISO-8859-1") << std::string("a\xC3\xBC");
-    QTest::newRow("malformed bytes are replaced")
-        << std::string("a\xFF\xC0\x80z") << std::string("UTF-8")
-        << std::string("a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBDz");
-    QTest::newRow("more than one buffer")
-        << std::string(3000, '\xFC') << std::string("ISO-8859-1") << [] {
-               std::string text;
-               for (int i = 0; i < 3000; ++i)
-                   text += "\xC3\xBC";
-               return text;
-           }();
+    const std::string utf8 = "UTF-8", missing = "\xEF\xBF\xBD";
+    QTest::newRow("UTF-8 stays") << std::string("\xC3\xBC\xF0\x9F\x98\x80") << utf8
+                                 << std::string("\xC3\xBC\xF0\x9F\x98\x80");
+    QTest::newRow("Latin-1") << std::string("a\xFC") << std::string("ISO-8859-1")
+                             << std::string("a\xC3\xBC");
+    QTest::newRow("malformed and overlong bytes")
+        << std::string("a\xFF\xC0\x80z") << utf8 << "a" + missing + missing + missing + "z";
+    QTest::newRow("an end that is cut off")
+        << std::string("a\xE2\x82") << utf8 << "a" + missing + missing;
+    QTest::newRow("half a surrogate pair")
+        << std::string("\xED\xA0\x80z") << utf8 << missing + missing + missing + "z";
+    QTest::newRow("beyond the last character")
+        << std::string("\xF4\x90\x80\x80z") << utf8 << missing + "z";
+    QTest::newRow("more than one buffer") << std::string(3000, '\xFC') << std::string("ISO-8859-1")
+                                          << std::string(QString(3000, QChar(0xFC)).toUtf8());
+    QTest::newRow("an unknown charset counts as UTF-8")
+        << std::string("\xC3\xBC") << std::string("no-such-charset") << std::string("\xC3\xBC");
+    QTest::newRow("nothing") << std::string() << utf8 << std::string();
 }
 
-void ToolRules::textBecomesUtf8()
+void ToolRules::textIsDecoded()
 {
     QFETCH(std::string, bytes);
     QFETCH(std::string, charset);
     QFETCH(std::string, text);
-    QCOMPARE(toUtf8(bytes, charset), text);
+    QCOMPARE(encoded(decoded(bytes, charset)), text);
 }
 
 void ToolRules::fileNamesAreMadeSafe_data()

@@ -4,53 +4,66 @@
 
 #include <algorithm>
 #include <string_view>
+#include <vector>
 
 namespace {
 
-constexpr std::string_view keyLabel = "InfoKey:";
-constexpr std::string_view valueLabel = "InfoValue:";
+constexpr std::u32string_view keyLabel = U"InfoKey:";
+constexpr std::u32string_view valueLabel = U"InfoValue:";
 
 bool isPlain(char32_t code)
 {
-    constexpr std::string_view special = "&<>\"'";
-    return code >= 0x20 && code < 0x7F && special.find(static_cast<char>(code)) == special.npos;
+    constexpr std::u32string_view special = U"&<>\"'";
+    return code >= 0x20 && code < 0x7F && special.find(code) == special.npos;
 }
 
-std::string withEntities(std::string_view text)
+std::string withEntities(std::u32string_view text)
 {
     std::string result;
-    for (size_t i = 0; i < text.size();) {
-        const size_t length = utf8Length(text, i);
-        const char32_t code = codePointAt(text, i, length);
+    for (const char32_t code : text) {
         if (isPlain(code))
             result += static_cast<char>(code);
         else
             result += "&#" + std::to_string(static_cast<unsigned long>(code)) + ";";
-        i += length;
     }
     return result;
 }
 
-std::string rewritten(std::string_view line)
+std::vector<std::u32string_view> linesOf(std::u32string_view text)
 {
-    if (line.starts_with(keyLabel))
-        return "InfoBegin\nInfoKey: " + std::string(line.substr(keyLabel.size())) + "\n";
-    if (line.starts_with(valueLabel))
-        return "InfoValue: " + withEntities(line.substr(valueLabel.size())) + "\n";
-    return std::string(line) + "\n";
+    std::vector<std::u32string_view> lines;
+    while (!text.empty()) {
+        lines.push_back(text.substr(0, text.find(U'\n')));
+        text.remove_prefix(std::min(lines.back().size() + 1, text.size()));
+    }
+    return lines;
+}
+
+// A value may hold any line; only a key and its value in a row are a pair.
+bool isPair(const std::vector<std::u32string_view> &lines, size_t at)
+{
+    return at + 1 < lines.size() && lines[at].starts_with(keyLabel) &&
+           lines[at + 1].starts_with(valueLabel);
 }
 
 } // namespace
 
 std::string losslessInfo(const std::string &content, const std::string &charset)
 {
-    const std::vector<std::string> lines = linesOf(toUtf8(content, charset));
-    const auto isOldKey = [](const std::string &line) { return line.starts_with(keyLabel); };
-    if (std::find(lines.begin(), lines.end(), "InfoBegin") != lines.end() ||
-        std::none_of(lines.begin(), lines.end(), isOldKey))
+    const CodePoints text = decoded(content, charset);
+    const std::vector<std::u32string_view> lines = linesOf(text);
+    if (!isPair(lines, 0))
         return "";
     std::string result;
-    for (const std::string &line : lines)
-        result += rewritten(line);
-    return result;
+    for (size_t i = 0; i < lines.size(); ++i) {
+        if (isPair(lines, i)) {
+            result += (i > 0 ? "\nInfoBegin\nInfoKey: " : "InfoBegin\nInfoKey: ") +
+                      encoded(lines[i].substr(keyLabel.size()));
+            result += "\nInfoValue: " + withEntities(lines[i + 1].substr(valueLabel.size()));
+            ++i;
+        } else {
+            result += withEntities(U"\n") + withEntities(lines[i]);
+        }
+    }
+    return result + "\n";
 }

@@ -1,58 +1,43 @@
 #include "pdftkcall.h"
 
+#include "diagnosis.h"
+#include "passwordwords.h"
 #include "text.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 
 namespace {
+
+using Words = std::vector<std::string>;
 
 constexpr const char *mask = "********";
 // pdftk 2.02 and pdftk-java 3.3.2 drop the rest, and print it.
 constexpr size_t longestPassword = 32;
+// What ends a line for the JVM (OpenJDK 17): the answer would be taken for two.
+constexpr std::u32string_view lineBreaks = U"\n\r\u0085\u2028\u2029";
 
-struct PasswordKind
+// How many words come before passwords and permissions; 0 for a call of another shape.
+size_t wordsBeforeTail(const Words &arguments)
 {
-    std::string_view word;
-    /// What the tool asks, in the words of pdftk 2.02 and pdftk-java 3.3.2.
-    std::string_view question;
-};
-
-constexpr std::array<PasswordKind, 2> passwordKinds = {{
-    {"owner_pw", "enter the owner password"},
-    {"user_pw", "enter the user password"},
-}};
-
-constexpr std::array<std::string_view, 25> publicWords = {
-    "allow",         "printing",       "degradedprinting",  "modifycontents", "assembly",
-    "copycontents",  "screenreaders",  "modifyannotations", "fillin",         "allfeatures",
-    "encrypt_40bit", "encrypt_128bit", "encrypt_aes128",    "flatten",        "need_appearances",
-    "compress",      "uncompress",     "keep_first_id",     "keep_final_id",  "drop_xfa",
-    "drop_xmp",      "verbose",        "dont_ask",          "do_ask",         "output",
-};
-
-const PasswordKind *passwordKind(const std::string &word)
-{
-    const auto *kind =
-        std::find_if(passwordKinds.begin(), passwordKinds.end(),
-                     [&word](const PasswordKind &known) { return known.word == word; });
-    return kind == passwordKinds.end() ? nullptr : kind;
+    const size_t output = arguments.size() > 1 && arguments[1] == "update_info" ? 3 : 1;
+    const bool ours = arguments.size() >= output + 2 && arguments[output] == "output" &&
+                      !arguments[output + 1].empty() && arguments[output + 1] != "-";
+    return ours ? output + 2 : 0;
 }
 
-std::string publicWord(const std::string &word)
+// The application hands over UTF-8 in every locale, a terminal the locale's charset.
+CodePoints typed(const std::string &word, const std::string &charset)
 {
-    const bool known = passwordKind(word) ||
-                       std::find(publicWords.begin(), publicWords.end(), word) != publicWords.end();
-    return known ? word : mask;
+    CodePoints text = decoded(word, "UTF-8");
+    return text.find(replacement) == text.npos ? text : decoded(word, charset);
 }
 
-std::string firstCharacters(const std::string &text, size_t count)
+std::string answerOf(const std::string &word, const std::string &charset)
 {
-    size_t end = 0;
-    for (; count > 0 && end < text.size(); --count)
-        end += std::max<size_t>(utf8Length(text, end), 1);
-    return text.substr(0, end);
+    const CodePoints password = typed(word, charset);
+    if (password.find_first_of(lineBreaks) != password.npos)
+        throw ToolError("a password must not hold a line break");
+    return encoded(password.substr(0, longestPassword));
 }
 
 // pdftk-java 3.3.2 refuses equal passwords on its command line only; so that is where two equal
@@ -65,55 +50,52 @@ void refuseEqualPasswords(PdftkCall &call)
     call.passwords.clear();
 }
 
-void readTail(const std::vector<std::string> &words, const std::string &charset, PdftkCall &call)
+void readTail(const Words &words, const std::string &charset, PdftkCall &call)
 {
+    const std::vector<Role> roles = rolesOf(words);
     for (size_t i = 0; i < words.size(); ++i) {
-        call.tail.push_back(publicWord(words[i]));
-        const PasswordKind *kind = passwordKind(words[i]);
-        if (!kind || i + 1 == words.size())
-            continue;
-        ++i;
-        call.tail.emplace_back("PROMPT");
-        // The application hands over UTF-8 in every locale, a terminal the locale's charset.
-        const std::string password = isUtf8(words[i]) ? words[i] : toUtf8(words[i], charset);
-        call.passwords.push_back(
-            {std::string(kind->question), firstCharacters(password, longestPassword)});
+        const bool open = roles[i] == Role::Shown || roles[i] == Role::Keyword;
+        const std::string question = roles[i] == Role::Password ? questionFor(words[i - 1]) : "";
+        if (!question.empty())
+            call.passwords.push_back({question, answerOf(words[i], charset)});
+        call.tail.push_back(open ? words[i] : question.empty() ? mask : "PROMPT");
     }
     refuseEqualPasswords(call);
 }
 
+void refusePasswordsOf(const Words &words)
+{
+    const std::vector<Role> roles = rolesOf(words);
+    if (std::find(roles.begin(), roles.end(), Role::Keyword) != roles.end())
+        throw ToolError("passwords are taken only behind 'IN [update_info FILE] output OUT', as "
+                        "others could read them");
+}
+
 } // namespace
 
-std::optional<PdftkCall> parsePdftkCall(const std::vector<std::string> &arguments,
-                                        const std::string &charset)
+std::optional<PdftkCall> parsePdftkCall(const Words &arguments, const std::string &charset)
 {
-    const bool described = arguments.size() > 1 && arguments[1] == "update_info";
-    const size_t output = described ? 3 : 1;
-    if (arguments.size() < output + 2 || arguments[output] != "output" ||
-        !arguments[output + 1].ends_with(".pdf"))
+    const size_t before = wordsBeforeTail(arguments);
+    if (before == 0) {
+        refusePasswordsOf(arguments);
         return std::nullopt;
+    }
     PdftkCall call;
     call.input = arguments[0];
-    call.infoFile = described ? arguments[2] : "";
-    call.output = arguments[output + 1];
-    const auto tail = arguments.begin() + static_cast<ptrdiff_t>(output) + 2;
-    readTail({tail, arguments.end()}, charset, call);
+    call.infoFile = before > 3 ? arguments[2] : "";
+    call.output = arguments[before - 1];
+    readTail({arguments.begin() + static_cast<ptrdiff_t>(before), arguments.end()}, charset, call);
     return call;
 }
 
-std::vector<std::string> maskedPdftkArguments(const std::vector<std::string> &arguments)
+Words maskedPdftkArguments(const Words &arguments)
 {
-    constexpr std::array<std::string_view, 3> keywords = {"owner_pw", "user_pw", "input_pw"};
-    std::vector<std::string> masked = arguments;
-    const auto first =
-        std::find_first_of(masked.begin(), masked.end(), keywords.begin(), keywords.end());
-    bool value = false;
-    for (auto word = first; word != masked.end(); ++word) {
-        const bool keyword =
-            !value && std::find(keywords.begin(), keywords.end(), *word) != keywords.end();
-        if (!keyword)
-            *word = value ? mask : publicWord(*word);
-        value = keyword;
+    const auto before = static_cast<ptrdiff_t>(wordsBeforeTail(arguments));
+    const std::vector<Role> roles = rolesOf({arguments.begin() + before, arguments.end()});
+    Words masked = arguments;
+    for (size_t i = 0; i < roles.size(); ++i) {
+        if (roles[i] == Role::Password || roles[i] == Role::Hidden)
+            masked[static_cast<size_t>(before) + i] = mask;
     }
     return masked;
 }

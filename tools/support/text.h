@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-/// The whole file at `path`, of any kind and size, in `content`; false when it cannot be read.
+/// The whole regular file at `path` in `content`; false when it cannot be read or is no such file.
 bool readFile(const std::string &path, std::string &content);
 
 /// The lines of `text` without their line feeds; a last line need not be ended by one.
@@ -19,16 +19,17 @@ std::string fileNameOf(const std::string &path);
 /// `path` itself when absolute, else below the current folder.
 std::string absolutePath(const std::string &path);
 
-/// Bytes of the UTF-8 character that starts at `position`, or 0 when it is malformed there
-/// (overlong forms, surrogates and values above U+10FFFF count as malformed).
-size_t utf8Length(std::string_view text, size_t position);
-bool isUtf8(std::string_view text);
-/// The code point of the well-formed character of `length` bytes at `position`.
-char32_t codePointAt(std::string_view text, size_t position, size_t length);
+using CodePoints = std::u32string;
+using CodePointsView = std::u32string_view;
 
-/// `bytes` in UTF-8. Well-formed UTF-8 stays as it is when `charset` says UTF-8 or ASCII; else
-/// it is decoded from `charset`, and what that cannot decode becomes U+FFFD.
-std::string toUtf8(const std::string &bytes, const std::string &charset);
+/// What stands for text that is malformed.
+constexpr char32_t replacement = U'\uFFFD';
+
+/// The characters of `bytes`, which are in `charset`; `replacement` for each byte that is malformed
+/// there. A charset that the C library does not know counts as UTF-8.
+CodePoints decoded(std::string_view bytes, const std::string &charset);
+/// `text` in UTF-8.
+std::string encoded(CodePointsView text);
 
 /// The charset of the user's locale; "UTF-8" in the C and POSIX locales and where the locale
 /// that the environment names is not installed.
