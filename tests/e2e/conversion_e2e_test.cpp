@@ -45,6 +45,10 @@ private slots:
     void unreadableImageIsSkippedOneByOne();
     void mergeWithAnUnreadableImageMakesNoPdf();
     void passwordWithABlankLosesThePdf();
+    void passwordWithADoubleQuoteIsAnotherPhrase_data();
+    void passwordWithADoubleQuoteIsAnotherPhrase();
+    void intermediateFileTakesAnotherImagesName_data();
+    void intermediateFileTakesAnotherImagesName();
     void olderPdfSurvivesAFailedConversion();
 
 private:
@@ -301,6 +305,66 @@ void ConversionE2eTest::passwordWithABlankLosesThePdf()
     QVERIFY(driver->click("pushButton_Inout"));
     convert({makeImage(u"a.png"_s)});
     QCOMPARE(outputFiles(), QStringList());
+}
+
+void ConversionE2eTest::passwordWithADoubleQuoteIsAnotherPhrase_data()
+{
+    QTest::addColumn<QString>("owner");
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QByteArray>("phrase"); // what opens the PDF, as its owner if there is one
+    QTest::addColumn<bool>("needed");       // to open it at all
+    const QString quote = u"ab\"c"_s;
+    QTest::newRow("the owner's alone loses the quote")
+        << quote << u""_s << QByteArray("abc") << false;
+    QTest::newRow("the user's alone loses the quote")
+        << u""_s << quote << QByteArray("abc") << true;
+    QTest::newRow("the owner's swallows what comes behind it")
+        << quote << u"xyz"_s << QByteArray("abc user_pw xyz") << false;
+    QTest::newRow("two quotes, and only they are lost")
+        << u"a\"b\"c"_s << u"xyz"_s << QByteArray("abc") << true;
+}
+
+void ConversionE2eTest::passwordWithADoubleQuoteIsAnotherPhrase()
+{
+    QFETCH(QString, owner);
+    QFETCH(QString, user);
+    QFETCH(QByteArray, phrase);
+    QFETCH(bool, needed);
+    QVERIFY(driver->click("pushButton_Security"));
+    QVERIFY(driver->type("lineEdit_ownerpwd", owner));
+    QVERIFY(driver->type("lineEdit_userpwd", user));
+    QVERIFY(driver->click("pushButton_Inout"));
+    convert({makeImage(u"a.png"_s)});
+    const PdfFacts unasked = readPdf(output(u"a.pdf"_s));
+    QVERIFY(unasked.readable && unasked.encrypted);
+    QCOMPARE(unasked.needsPassword, needed);
+    const QByteArray typed = (owner.isEmpty() ? user : owner).toLatin1();
+    QVERIFY(!readPdf(output(u"a.pdf"_s), typed).mayPrint);
+    const PdfFacts opened = readPdf(output(u"a.pdf"_s), phrase);
+    QCOMPARE(opened.pages, 1);
+    QCOMPARE(opened.mayPrint, !owner.isEmpty());
+}
+
+void ConversionE2eTest::intermediateFileTakesAnotherImagesName_data()
+{
+    QTest::addColumn<QStringList>("images");
+    QTest::addColumn<QStringList>("pdfs");
+    QTest::newRow("listed first, it is lost")
+        << QStringList{u"a-1.png"_s, u"a.png"_s} << QStringList{u"a.pdf"_s};
+    QTest::newRow("listed second, it stays")
+        << QStringList{u"a.png"_s, u"a-1.png"_s} << QStringList{u"a-1.pdf"_s, u"a.pdf"_s};
+}
+
+void ConversionE2eTest::intermediateFileTakesAnotherImagesName()
+{
+    QFETCH(QStringList, images);
+    QVERIFY(driver->click("pushButton_PDFSetting"));
+    QVERIFY(driver->type("lineEdit_title", u"T"_s));
+    QVERIFY(driver->click("pushButton_Inout"));
+    for (QString &image : images)
+        image = makeImage(image);
+    convert(images);
+    QTEST(outputFiles(), "pdfs");
 }
 
 void ConversionE2eTest::olderPdfSurvivesAFailedConversion()
