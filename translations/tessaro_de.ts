@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Merge to single PDF</source>
-        <translation>Zu einer PDF-Datei verbinden</translation>
+        <translation>Zu einer PDF-Datei zusammenfügen</translation>
     </message>
     <message>
         <source>Make one PDF of all images, named after the first</source>

@@ -16,7 +16,7 @@
     <name>CommandLine</name>
     <message>
         <source>There is no option %1; see --help.</source>
-        <translation>Il n’y a pas d’option %1 ; voir --help.</translation>
+        <translation>Il n’y a pas d’option %1&#xa0;; voir --help.</translation>
     </message>
     <message>
         <source>There is no file %1.</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>The images to convert; drop files here to add some</source>
-        <translation>Les images à convertir ; déposez ici des fichiers pour en ajouter</translation>
+        <translation>Les images à convertir&#xa0;; déposez ici des fichiers pour en ajouter</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Degrees clockwise; type another angle and press Enter</source>
-        <translation>Degrés dans le sens horaire ; pour un autre angle, saisissez-le et appuyez sur Entrée</translation>
+        <translation>Degrés dans le sens horaire&#xa0;; pour un autre angle, saisissez-le et appuyez sur Entrée</translation>
     </message>
     <message>
         <source>Page size</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
-        <translation>Nécessaire pour modifier les autorisations ; sans espaces</translation>
+        <translation>Nécessaire pour modifier les autorisations&#xa0;; sans espaces</translation>
     </message>
     <message>
         <source>User password</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
-        <translation>Nécessaire pour ouvrir le PDF ; sans espaces</translation>
+        <translation>Nécessaire pour ouvrir le PDF&#xa0;; sans espaces</translation>
     </message>
     <message>
         <source>Files and output folder</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Appearance options to adjust converted PDF pages:</source>
-        <translation>Options d’apparence des pages du PDF :</translation>
+        <translation>Options d’apparence des pages du PDF&#xa0;:</translation>
     </message>
     <message>
         <source>Page Size</source>
@@ -297,13 +297,13 @@
     </message>
     <message>
         <source>Description options to set PDF description:</source>
-        <translation>Options de description du PDF :</translation>
+        <translation>Options de description du PDF&#xa0;:</translation>
     </message>
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Options de sécurité : mots de passe et autorisations
-du PDF :</translation>
+        <translation>Options de sécurité&#xa0;: mots de passe et autorisations
+du PDF&#xa0;:</translation>
     </message>
     <message>
         <source>Allow printing</source>

@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Remove all</source>
-        <translation>Lista törlése</translation>
+        <translation>Lista ürítése</translation>
     </message>
     <message>
         <source>Empty the list</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Remove All</source>
-        <translation>Lista törlése</translation>
+        <translation>Lista ürítése</translation>
     </message>
     <message>
         <source>Output Folder</source>

@@ -1,0 +1,192 @@
+// The window in a language that runs from right to left: every control stands where a mirror shows
+// the English one.
+
+#include "translation.h"
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QHeaderView>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+
+namespace {
+
+/// Places of the controls in the window, by name.
+QMap<QString, QRect> placesOf(WindowFixture &fixture)
+{
+    QMap<QString, QRect> places;
+    auto *pages = fixture.find<QStackedWidget>("stackedWidget_dialog");
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page); // lays the page out
+        const auto widgets = pages->widget(page)->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
+                continue;
+            const QPoint corner = widget->mapTo(pages->widget(page), QPoint());
+            places.insert(widget->objectName(), QRect(corner, widget->size()));
+        }
+    }
+    for (const char *name : {"frame_8", "progressBar", "stackedWidget_dialog"})
+        places.insert(name, fixture.find<QWidget>(name)->geometry());
+    return places;
+}
+
+/// Leaves out what has another size as its text has another length.
+bool isLaidOut(const QString &name)
+{
+    return name == "openfileButton" || name == "removeButton" || name == "removeallButton";
+}
+
+QPixmap picture(QSize size)
+{
+    QPixmap result(size);
+    result.fill(Qt::red);
+    return result;
+}
+
+} // namespace
+
+class RightToLeftTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { speak(*qApp, {}); }
+    void controlsAreMirrored();
+    void optionDialogIsMirrored();
+    void runButtonKeepsItsPlaceWhenSetAgain();
+    void previewStaysAtItsLabelsEdge();
+    void fileButtonsStandInReadingOrder();
+    void pathsAndPasswordsRunFromLeftToRight();
+    void pathInTheListIsPaintedFromLeftToRight();
+};
+
+void RightToLeftTest::controlsAreMirrored()
+{
+    WindowFixture english;
+    const auto expected = placesOf(english);
+    speak(*qApp, QStringLiteral("he"));
+    WindowFixture hebrew;
+    const auto places = placesOf(hebrew);
+    QCOMPARE(places.keys(), expected.keys());
+    const int pageWidth = english.find<QWidget>("stackedWidget_dialog")->width();
+    for (auto place = places.begin(); place != places.end(); ++place) {
+        if (isLaidOut(place.key()))
+            continue;
+        const QRect original = expected.value(place.key());
+        const bool isOnAPage = place.key() != "frame_8" && place.key() != "progressBar" &&
+                               place.key() != "stackedWidget_dialog";
+        const int room = isOnAPage ? pageWidth : english.window.width();
+        QRect mirrored = original;
+        mirrored.moveLeft(room - original.x() - original.width());
+        QVERIFY2(place.value() == mirrored, qPrintable(place.key()));
+    }
+}
+
+void RightToLeftTest::optionDialogIsMirrored()
+{
+    speak(*qApp, QStringLiteral("ar"));
+    WindowFixture fixture;
+    const auto &dialog = ProcessProbe::optionDialog(fixture.window);
+    QCOMPARE(dialog.findChild<QPushButton *>("okButton")->geometry(), QRect(10, 310, 75, 23));
+    QCOMPARE(dialog.findChild<QPushButton *>("resetallButton")->x(), 164);
+}
+
+void RightToLeftTest::runButtonKeepsItsPlaceWhenSetAgain()
+{
+    speak(*qApp, QStringLiteral("ar"));
+    WindowFixture fixture;
+    const auto *button = fixture.find<QPushButton>("runButton");
+    QCOMPARE(button->geometry(), QRect(571 - 444 - 71, 280, 71, 72));
+    fixture.window.setabout();
+    QCOMPARE(button->geometry(), QRect(571 - 444 - 71, 280, 71, 72));
+}
+
+void RightToLeftTest::previewStaysAtItsLabelsEdge()
+{
+    speak(*qApp, QStringLiteral("ar"));
+    WindowFixture fixture;
+    const auto *frame = fixture.find<QFrame>("previewframe");
+    const int edge = frame->geometry().right();
+    QCOMPARE(edge, fixture.find<QWidget>("label_2")->geometry().right());
+    const QString path = fixture.inputPath("tall.png");
+    QVERIFY(picture({10, 100}).save(path));
+    fixture.drop({QUrl::fromLocalFile(path)});
+    fixture.find<QTableWidget>("inputfiletableWidget")->setCurrentCell(0, 0);
+    fixture.window.dopreview();
+    QCOMPARE(frame->width(), 18);
+    QCOMPARE(frame->geometry().right(), edge);
+    fixture.click("removeallButton");
+    QCOMPARE(frame->width(), 151);
+    QCOMPARE(frame->geometry().right(), edge);
+}
+
+void RightToLeftTest::fileButtonsStandInReadingOrder()
+{
+    speak(*qApp, QStringLiteral("he"));
+    WindowFixture fixture;
+    QVERIFY(fixture.find<QWidget>("openfileButton")->x() >
+            fixture.find<QWidget>("removeButton")->x());
+    QVERIFY(fixture.find<QWidget>("removeButton")->x() >
+            fixture.find<QWidget>("removeallButton")->x());
+    const auto *header = fixture.find<QTableWidget>("inputfiletableWidget")->horizontalHeader();
+    QVERIFY(header->sectionViewportPosition(0) > header->sectionViewportPosition(1));
+}
+
+void RightToLeftTest::pathsAndPasswordsRunFromLeftToRight()
+{
+    speak(*qApp, QStringLiteral("ar"));
+    WindowFixture fixture;
+    for (const char *name : {"outputfolderEdit", "lineEdit_ownerpwd", "lineEdit_userpwd"})
+        QVERIFY2(!fixture.find<QLineEdit>(name)->isRightToLeft(), name);
+    QVERIFY(fixture.find<QLineEdit>("lineEdit_title")->isRightToLeft());
+}
+
+void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
+{
+    // Hebrew around the slashes: run from right to left, the folders would change places.
+    const QString path = QString::fromUtf8("/\u05d0\u05d0/\u05d1\u05d1/\u05d2\u05d2.png");
+    const auto drawn = [&path](WindowFixture &fixture) {
+        auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+        table->setRowCount(1);
+        table->setItem(0, 0, new QTableWidgetItem(path));
+        QImage image(165, 18, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionViewItem option;
+        option.rect = image.rect();
+        option.widget = table;
+        option.direction = table->layoutDirection();
+        option.font = QApplication::font(); // the table's own fits its language
+        option.fontMetrics = QFontMetrics(option.font);
+        option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+        option.textElideMode = Qt::ElideLeft;
+        table->itemDelegateForIndex(table->model()->index(0, 0))
+            ->paint(&painter, option, table->model()->index(0, 0));
+        painter.end();
+        // The letters alone: they stand at another side.
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y).lightness() < 200)
+                    ink |= QRect(x, y, 1, 1);
+            }
+        }
+        return std::pair(image.copy(ink), ink);
+    };
+    WindowFixture english;
+    const auto [letters, place] = drawn(english);
+    speak(*qApp, QStringLiteral("he"));
+    WindowFixture hebrew;
+    const auto [mirroredLetters, mirroredPlace] = drawn(hebrew);
+    QCOMPARE(mirroredLetters, letters);
+    QVERIFY(mirroredPlace.left() > place.left());
+}
+
+QTEST_MAIN(RightToLeftTest)
+#include "right_to_left_test.moc"
