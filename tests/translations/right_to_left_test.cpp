@@ -151,7 +151,7 @@ void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
 {
     // Hebrew around the slashes: run from right to left, the folders would change places.
     const QString path = QString::fromUtf8("/\u05d0\u05d0/\u05d1\u05d1/\u05d2\u05d2.png");
-    const auto drawn = [&path](WindowFixture &fixture) {
+    const auto drawn = [&path](WindowFixture &fixture, Qt::Alignment alignment) {
         auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
         table->setRowCount(1);
         table->setItem(0, 0, new QTableWidgetItem(path));
@@ -160,32 +160,18 @@ void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
         QPainter painter(&image);
         QStyleOptionViewItem option;
         option.rect = image.rect();
-        option.widget = table;
         option.direction = table->layoutDirection();
-        option.font = QApplication::font(); // the table's own fits its language
-        option.fontMetrics = QFontMetrics(option.font);
-        option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+        option.displayAlignment = alignment | Qt::AlignVCenter;
         option.textElideMode = Qt::ElideLeft;
-        table->itemDelegateForIndex(table->model()->index(0, 0))
-            ->paint(&painter, option, table->model()->index(0, 0));
-        painter.end();
-        // The letters alone: they stand at another side.
-        QRect ink;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y).lightness() < 200)
-                    ink |= QRect(x, y, 1, 1);
-            }
-        }
-        return std::pair(image.copy(ink), ink);
+        const QModelIndex cell = table->model()->index(0, 0);
+        table->itemDelegateForIndex(cell)->paint(&painter, option, cell);
+        return image;
     };
     WindowFixture english;
-    const auto [letters, place] = drawn(english);
+    const QImage atTheRight = drawn(english, Qt::AlignRight);
     speak(*qApp, QStringLiteral("he"));
     WindowFixture hebrew;
-    const auto [mirroredLetters, mirroredPlace] = drawn(hebrew);
-    QCOMPARE(mirroredLetters, letters);
-    QVERIFY(mirroredPlace.left() > place.left());
+    QCOMPARE(drawn(hebrew, Qt::AlignLeft), atTheRight);
 }
 
 QTEST_MAIN(RightToLeftTest)
