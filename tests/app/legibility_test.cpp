@@ -1,12 +1,14 @@
-// No text is cut off or runs into another, in the fonts of a stock Debian desktop, at the usual
-// size and at 125 percent.
+// No text is cut off or runs into another: in English in the fonts of a stock Debian desktop, at
+// the usual size and at 125 percent, and in every language in the fonts that desktops start with.
 
+#include "translation.h"
 #include "windowfixture.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QGlyphRun>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +16,7 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTableWidget>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,8 @@ private slots:
     void textsDoNotRunIntoEachOther();
     void textsStayLegible_data();
     void textsStayLegible();
+    void everyLetterHasAPicture_data();
+    void everyLetterHasAPicture();
 
 private:
     static void addFonts();
@@ -44,7 +49,8 @@ QRect inkOf(const QLabel &label)
 {
     QRect text(QPoint(), label.sizeHint());
     const int slack = label.width() - text.width();
-    text.moveLeft(label.alignment() & Qt::AlignRight ? slack : 0);
+    const auto side = QStyle::visualAlignment(label.layoutDirection(), label.alignment());
+    text.moveLeft(side & Qt::AlignRight ? slack : 0);
     text.moveTop((label.height() - text.height()) / 2);
     return text.translated(label.mapTo(label.window(), QPoint()));
 }
@@ -73,16 +79,26 @@ void LegibilityTest::initTestCase()
 void LegibilityTest::cleanup()
 {
     QApplication::setFont(usual);
+    speak(*qApp, {});
 }
 
 void LegibilityTest::addFonts()
 {
+    QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("family");
     QTest::addColumn<qreal>("points");
     for (const char *family : {"DejaVu Sans", "Cantarell", "Liberation Sans", "Noto Sans"}) {
         for (const qreal points : {9.0, 10.0, 11.0, 1.25 * 9, 1.25 * 11})
             QTest::newRow(qPrintable(u"%1 at %2 points"_s.arg(QLatin1String(family)).arg(points)))
-                << QString::fromUtf8(family) << points;
+                << QString() << QString::fromUtf8(family) << points;
+    }
+    const QStringList languages = translatedLanguages();
+    for (const QString &language : languages) {
+        for (const auto &[family, points] :
+             {std::pair(u"DejaVu Sans"_s, 10.0), std::pair(u"Noto Sans"_s, 10.0),
+              std::pair(u"Cantarell"_s, 11.0)})
+            QTest::newRow(qPrintable(u"%1 in %2 at %3 points"_s.arg(language, family).arg(points)))
+                << language << family << points;
     }
 }
 
@@ -94,6 +110,8 @@ void LegibilityTest::useFont()
     font.setPointSizeF(points);
     QCOMPARE(QFontInfo(font).family(), family);
     QApplication::setFont(font);
+    QFETCH(QString, language);
+    speak(*qApp, language);
 }
 
 void LegibilityTest::textsFitTheirPlaces_data()
@@ -187,6 +205,34 @@ void LegibilityTest::textsStayLegible()
         if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QComboBox *>(widget)) {
             QVERIFY(widget->font().pointSizeF() >= 7.5);
             QVERIFY(QFontInfo(widget->font()).pixelSize() >= 10);
+        }
+    }
+}
+
+void LegibilityTest::everyLetterHasAPicture_data()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList languages = translatedLanguages();
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void LegibilityTest::everyLetterHasAPicture()
+{
+    QFETCH(QString, language);
+    speak(*qApp, language);
+    WindowFixture fixture;
+    const auto widgets = fixture.window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        for (const QString &text :
+             {widget->property("text").toString(), widget->toolTip(), widget->accessibleName()}) {
+            QTextLayout layout(QString(text).remove(u'\n'), widget->font());
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            const QList<QGlyphRun> runs = layout.glyphRuns();
+            for (const QGlyphRun &run : runs)
+                QVERIFY2(!run.glyphIndexes().contains(0), qPrintable(text));
         }
     }
 }
