@@ -4,7 +4,7 @@ class QWidget;
 class Ui_process;
 
 /// Turns the places of the window's controls around when it runs from right to left, and nothing
-/// when it runs from left to right: the toolkit mirrors what lies in a layout or a view, not what
+/// when it runs from left to right: Qt mirrors what lies in a layout or a view, not what
 /// has a place of its own. Paths and passwords keep running from left to right.
 void mirrorPlaces(const Ui_process &ui);
 

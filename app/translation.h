@@ -11,7 +11,7 @@ QStringList translatedLanguages();
 /// "" for English.
 QString wantedLanguage();
 
-/// Shows the texts of the windows made from now on in `language`, the toolkit's own too where the
-/// system has translations of them (qt6-translations-l10n), and lets them run in its direction.
+/// Shows the texts of the windows made from now on in `language`, Qt's own too where the system
+/// has translations of them (qt6-translations-l10n), and lets them run in its direction.
 /// "" is English. Numbers and the like stay as the environment's locale writes them.
 void speak(QCoreApplication &application, const QString &language);

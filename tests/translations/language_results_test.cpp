@@ -10,13 +10,14 @@
 #include <QFile>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString contentOf(const QString &name)
 {
     QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
-                                          : QStringLiteral("none");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : u"none"_s;
 }
 
 /// What the window makes of each single choice.
@@ -44,8 +45,8 @@ QStringList optionsOf(WindowFixture &fixture)
     }
     for (const char *name :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"}) {
-        fixture.type(name, QString::fromUtf8("1234.5 \u0661 \u05d0 ") + QString::fromLatin1(name));
-        results << fixture.window.getPdftkoption() << contentOf("pdfa.txt");
+        fixture.type(name, u"1234.5 \u0661 \u05d0 "_s + QString::fromLatin1(name));
+        results << fixture.window.getPdftkoption() << contentOf(u"pdfa.txt"_s);
     }
     return results;
 }
@@ -53,13 +54,13 @@ QStringList optionsOf(WindowFixture &fixture)
 /// What both dialogs make of a choice: the rows, and the folders that they remember.
 QStringList choicesOf(WindowFixture &fixture)
 {
-    QFile::remove("setting.ini");
+    QFile::remove(u"setting.ini"_s);
     QStringList patterns;
     ModalAnswer files([&](QWidget *dialog) {
         const QStringList filters = FileDialogFacts(dialog).filters;
         for (const QString &filter : filters)
-            patterns << filter.mid(filter.lastIndexOf('('));
-        chooseFiles(dialog, {fixture.makeFile("a.png", QByteArray(1234567, 'x'))});
+            patterns << filter.mid(filter.lastIndexOf(u'('));
+        chooseFiles(dialog, {fixture.makeFile(u"a.png"_s, QByteArray(1234567, u'x'))});
     });
     fixture.click("openfileButton");
     ModalAnswer folder([&](QWidget *dialog) { chooseFiles(dialog, {fixture.outputPath()}); });
@@ -68,13 +69,13 @@ QStringList choicesOf(WindowFixture &fixture)
         qFatal("no dialog came");
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     return patterns << table->item(0, 0)->text() << table->item(0, 1)->text()
-                    << contentOf("setting.ini");
+                    << contentOf(u"setting.ini"_s);
 }
 
 /// What a run with all options on calls and leaves behind.
 QStringList runOf(WindowFixture &fixture, bool merged)
 {
-    fixture.addImages({"b.jpg"});
+    fixture.addImages({u"b.jpg"_s});
     fixture.check("checkBox_joinpdf", merged);
     fixture.click("runButton");
     if (!fixture.waitUntilQuiet())
@@ -83,7 +84,7 @@ QStringList runOf(WindowFixture &fixture, bool merged)
     const QList<ToolCall> calls = fixture.calls();
     for (const ToolCall &call : calls)
         results << call.tool << call.arguments;
-    return results << fixture.outputFiles() << contentOf("pdfa.txt");
+    return results << fixture.outputFiles() << contentOf(u"pdfa.txt"_s);
 }
 
 QStringList resultsIn(const QString &language)
@@ -94,7 +95,7 @@ QStringList resultsIn(const QString &language)
         WindowFixture fixture;
         results << optionsOf(fixture) << choicesOf(fixture) << runOf(fixture, merged);
         const QString folder = QFileInfo(fixture.outputPath()).path(); // another each time
-        results.replaceInStrings(folder, QStringLiteral("FOLDER"));
+        results.replaceInStrings(folder, u"FOLDER"_s);
     }
     return results;
 }
@@ -117,8 +118,8 @@ private:
 void LanguageResultsTest::initTestCase()
 {
     english = resultsIn({});
-    QVERIFY(english.contains(" -rotate 270"));
-    QVERIFY(english.filter("allow modifyannotations").size() > 1);
+    QVERIFY(english.contains(u" -rotate 270"_s));
+    QVERIFY(english.filter(u"allow modifyannotations"_s).size() > 1);
 }
 
 void LanguageResultsTest::resultsAreThoseOfEnglish_data()

@@ -7,6 +7,9 @@
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,30 +43,31 @@ private slots:
     void textsOfQtComeFromTheSystem();
     void windowRunsInItsLanguagesDirection_data();
     void windowRunsInItsLanguagesDirection();
+    void programAsksTheEnvironment_data();
+    void programAsksTheEnvironment();
 };
 
 void LanguagesTest::everyKindOfTextIsTranslated()
 {
-    speak(*qApp, QStringLiteral("de"));
+    speak(*qApp, u"de"_s);
     WindowFixture fixture;
-    QCOMPARE(fixture.window.windowTitle(), QStringLiteral("Tessaro Bild-zu-PDF-Konverter"));
-    QCOMPARE(fixture.find<QLabel>("label_2")->text(), QStringLiteral("Vorschau"));
+    QCOMPARE(fixture.window.windowTitle(), u"Tessaro Bild-zu-PDF-Konverter"_s);
+    QCOMPARE(fixture.find<QLabel>("label_2")->text(), u"Vorschau"_s);
     const auto *button = fixture.find<QPushButton>("removeButton");
-    QCOMPARE(button->text(), QStringLiteral("Entfernen"));
-    QCOMPARE(button->toolTip(), QString::fromUtf8("Ausgew\u00e4hlte Bilder aus der Liste nehmen"));
-    QCOMPARE(button->accessibleName(), QStringLiteral("Entfernen"));
-    QCOMPARE(boxOf(fixture),
-             QStringList({QStringLiteral("Keine Dateien"),
-                          QString::fromUtf8("Bitte w\u00e4hlen Sie die umzuwandelnden Dateien.")}));
-    QCOMPARE(ProcessProbe::aboutBox(fixture.window).windowTitle(), QStringLiteral("Info"));
+    QCOMPARE(button->text(), u"Entfernen"_s);
+    QCOMPARE(button->toolTip(), u"Ausgew\u00e4hlte Bilder aus der Liste nehmen"_s);
+    QCOMPARE(button->accessibleName(), u"Entfernen"_s);
+    QCOMPARE(boxOf(fixture), QStringList({u"Keine Dateien"_s,
+                                          u"Bitte w\u00e4hlen Sie die umzuwandelnden Dateien."_s}));
+    QCOMPARE(ProcessProbe::aboutBox(fixture.window).windowTitle(), u"Info"_s);
 }
 
 void LanguagesTest::englishComesBackToTheLetter()
 {
-    speak(*qApp, QStringLiteral("ar"));
+    speak(*qApp, u"ar"_s);
     speak(*qApp, {});
     WindowFixture fixture;
-    QCOMPARE(fixture.find<QPushButton>("removeButton")->text(), QStringLiteral("Romove"));
+    QCOMPARE(fixture.find<QPushButton>("removeButton")->text(), u"Romove"_s);
     QVERIFY(!fixture.window.isRightToLeft());
 }
 
@@ -81,19 +85,20 @@ void LanguagesTest::invalidOrderStaysEnglish()
     speak(*qApp, language);
     WindowFixture fixture;
     QVERIFY(boxOf(fixture).first() != QLatin1String("Empty input"));
-    fixture.addImages({"a.jpg"});
-    QCOMPARE(boxOf(fixture), QStringList({"Invalid order", "Please specify an output folder."}));
+    fixture.addImages({u"a.jpg"_s});
+    QCOMPARE(boxOf(fixture),
+             QStringList({u"Invalid order"_s, u"Please specify an output folder."_s}));
 }
 
 void LanguagesTest::textsOfQtComeFromTheSystem()
 {
     const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
-    QCOMPARE(cancel(), QStringLiteral("Cancel"));
-    QCoreApplication::setLibraryPaths({QStringLiteral("/nowhere")}); // as start-up narrows them
-    speak(*qApp, QStringLiteral("de"));
-    QVERIFY2(QFile::exists(QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_de.qm"),
+    QCOMPARE(cancel(), u"Cancel"_s);
+    QCoreApplication::setLibraryPaths({u"/nowhere"_s}); // as start-up narrows them
+    speak(*qApp, u"de"_s);
+    QVERIFY2(QFile::exists(QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_de.qm"_s),
              "install qt6-translations-l10n");
-    QCOMPARE(cancel(), QStringLiteral("Abbrechen"));
+    QCOMPARE(cancel(), u"Abbrechen"_s);
 }
 
 void LanguagesTest::windowRunsInItsLanguagesDirection_data()
@@ -112,6 +117,58 @@ void LanguagesTest::windowRunsInItsLanguagesDirection()
     speak(*qApp, language);
     WindowFixture fixture;
     QTEST(fixture.window.isRightToLeft(), "rightToLeft");
+}
+
+void LanguagesTest::programAsksTheEnvironment_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("messages");
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("the messages' locale") << ""
+                                          << "fr_CA.UTF-8"
+                                          << "fr";
+    QTest::newRow("the languages before the locale") << "de:fr"
+                                                     << "it_IT.UTF-8"
+                                                     << "de";
+    QTest::newRow("the first that there is") << "eo:cs:de"
+                                             << "it_IT.UTF-8"
+                                             << "cs";
+    QTest::newRow("English first") << "en_GB:de"
+                                   << "de_DE.UTF-8"
+                                   << "";
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << "";
+}
+
+void LanguagesTest::programAsksTheEnvironment()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, messages);
+    QFETCH(QString, answer);
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"LC_ALL", "LANG"})
+        environment.remove(QString::fromLatin1(name));
+    environment.insert(u"LANGUAGE"_s, language);
+    environment.insert(u"LC_MESSAGES"_s, messages);
+    const auto answerTo = [&environment](const QString &argument) {
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(PROGRAM), {argument});
+        if (!program.waitForFinished(60000))
+            qFatal("the program does not end");
+        return program.readAllStandardOutput() + program.readAllStandardError();
+    };
+    // One is answered before there is a window, the other after start-up is prepared.
+    const QByteArray help = answerTo(u"--help"_s), complaint = answerTo(u"--nonsense"_s);
+    speak(*qApp, answer);
+    const auto inWords = [](const char *text) {
+        return QCoreApplication::translate("CommandLine", text).toUtf8();
+    };
+    QVERIFY2(help.contains(inWords("Turns images into PDF documents.")), help);
+    const QByteArray expected =
+        inWords("There is no option %1; see --help.").replace("%1", "nonsense");
+    QVERIFY2(complaint.contains(expected), complaint);
 }
 
 QTEST_MAIN(LanguagesTest)

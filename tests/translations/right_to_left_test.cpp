@@ -14,6 +14,8 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Places of the controls in the window, by name.
@@ -25,21 +27,21 @@ QMap<QString, QRect> placesOf(WindowFixture &fixture)
         pages->setCurrentIndex(page); // lays the page out
         const auto widgets = pages->widget(page)->findChildren<QWidget *>();
         for (const QWidget *widget : widgets) {
-            if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
+            if (widget->objectName().isEmpty() || widget->objectName().startsWith(u"qt_"_s))
                 continue;
             const QPoint corner = widget->mapTo(pages->widget(page), QPoint());
             places.insert(widget->objectName(), QRect(corner, widget->size()));
         }
     }
     for (const char *name : {"frame_8", "progressBar", "stackedWidget_dialog"})
-        places.insert(name, fixture.find<QWidget>(name)->geometry());
+        places.insert(QString::fromLatin1(name), fixture.find<QWidget>(name)->geometry());
     return places;
 }
 
 /// Leaves out what has another size as its text has another length.
 bool isLaidOut(const QString &name)
 {
-    return name == "openfileButton" || name == "removeButton" || name == "removeallButton";
+    return name == u"openfileButton"_s || name == u"removeButton"_s || name == u"removeallButton"_s;
 }
 
 QPixmap picture(QSize size)
@@ -70,7 +72,7 @@ void RightToLeftTest::controlsAreMirrored()
 {
     WindowFixture english;
     const auto expected = placesOf(english);
-    speak(*qApp, QStringLiteral("he"));
+    speak(*qApp, u"he"_s);
     WindowFixture hebrew;
     const auto places = placesOf(hebrew);
     QCOMPARE(places.keys(), expected.keys());
@@ -79,8 +81,8 @@ void RightToLeftTest::controlsAreMirrored()
         if (isLaidOut(place.key()))
             continue;
         const QRect original = expected.value(place.key());
-        const bool isOnAPage = place.key() != "frame_8" && place.key() != "progressBar" &&
-                               place.key() != "stackedWidget_dialog";
+        const bool isOnAPage = place.key() != u"frame_8"_s && place.key() != u"progressBar"_s &&
+                               place.key() != u"stackedWidget_dialog"_s;
         const int room = isOnAPage ? pageWidth : english.window.width();
         QRect mirrored = original;
         mirrored.moveLeft(room - original.x() - original.width());
@@ -90,16 +92,16 @@ void RightToLeftTest::controlsAreMirrored()
 
 void RightToLeftTest::optionDialogIsMirrored()
 {
-    speak(*qApp, QStringLiteral("ar"));
+    speak(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto &dialog = ProcessProbe::optionDialog(fixture.window);
-    QCOMPARE(dialog.findChild<QPushButton *>("okButton")->geometry(), QRect(10, 310, 75, 23));
-    QCOMPARE(dialog.findChild<QPushButton *>("resetallButton")->x(), 164);
+    QCOMPARE(dialog.findChild<QPushButton *>(u"okButton"_s)->geometry(), QRect(10, 310, 75, 23));
+    QCOMPARE(dialog.findChild<QPushButton *>(u"resetallButton"_s)->x(), 164);
 }
 
 void RightToLeftTest::runButtonKeepsItsPlaceWhenSetAgain()
 {
-    speak(*qApp, QStringLiteral("ar"));
+    speak(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto *button = fixture.find<QPushButton>("runButton");
     QCOMPARE(button->geometry(), QRect(571 - 444 - 71, 280, 71, 72));
@@ -109,12 +111,12 @@ void RightToLeftTest::runButtonKeepsItsPlaceWhenSetAgain()
 
 void RightToLeftTest::previewStaysAtItsLabelsEdge()
 {
-    speak(*qApp, QStringLiteral("ar"));
+    speak(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto *frame = fixture.find<QFrame>("previewframe");
     const int edge = frame->geometry().right();
     QCOMPARE(edge, fixture.find<QWidget>("label_2")->geometry().right());
-    const QString path = fixture.inputPath("tall.png");
+    const QString path = fixture.inputPath(u"tall.png"_s);
     QVERIFY(picture({10, 100}).save(path));
     fixture.drop({QUrl::fromLocalFile(path)});
     fixture.find<QTableWidget>("inputfiletableWidget")->setCurrentCell(0, 0);
@@ -128,7 +130,7 @@ void RightToLeftTest::previewStaysAtItsLabelsEdge()
 
 void RightToLeftTest::fileButtonsStandInReadingOrder()
 {
-    speak(*qApp, QStringLiteral("he"));
+    speak(*qApp, u"he"_s);
     WindowFixture fixture;
     QVERIFY(fixture.find<QWidget>("openfileButton")->x() >
             fixture.find<QWidget>("removeButton")->x());
@@ -140,7 +142,7 @@ void RightToLeftTest::fileButtonsStandInReadingOrder()
 
 void RightToLeftTest::pathsAndPasswordsRunFromLeftToRight()
 {
-    speak(*qApp, QStringLiteral("ar"));
+    speak(*qApp, u"ar"_s);
     WindowFixture fixture;
     for (const char *name : {"outputfolderEdit", "lineEdit_ownerpwd", "lineEdit_userpwd"})
         QVERIFY2(!fixture.find<QLineEdit>(name)->isRightToLeft(), name);
@@ -150,7 +152,7 @@ void RightToLeftTest::pathsAndPasswordsRunFromLeftToRight()
 void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
 {
     // Hebrew around the slashes: run from right to left, the folders would change places.
-    const QString path = QString::fromUtf8("/\u05d0\u05d0/\u05d1\u05d1/\u05d2\u05d2.png");
+    const QString path = u"/\u05d0\u05d0/\u05d1\u05d1/\u05d2\u05d2.png"_s;
     const auto drawn = [&path](WindowFixture &fixture, Qt::Alignment alignment) {
         auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
         table->setRowCount(1);
@@ -169,7 +171,7 @@ void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
     };
     WindowFixture english;
     const QImage atTheRight = drawn(english, Qt::AlignRight);
-    speak(*qApp, QStringLiteral("he"));
+    speak(*qApp, u"he"_s);
     WindowFixture hebrew;
     QCOMPARE(drawn(hebrew, Qt::AlignLeft), atTheRight);
 }

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Message
@@ -32,7 +34,7 @@ struct TranslationFile
 
 QString languageOf(const QString &fileName)
 {
-    return fileName.section('_', 1).section('.', 0, 0);
+    return fileName.section(u'_', 1).section(u'.', 0, 0);
 }
 
 TranslationFile readFile(const QString &path)
@@ -47,13 +49,13 @@ TranslationFile readFile(const QString &path)
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == u"TS") {
-            result.language = xml.attributes().value("language").toString();
+            result.language = xml.attributes().value(u"language"_s).toString();
         } else if (xml.name() == u"name") {
             context = xml.readElementText();
         } else if (xml.name() == u"source") {
             result.messages.append({context, xml.readElementText(), {}, {}});
         } else if (xml.name() == u"translation") {
-            result.messages.last().state = xml.attributes().value("type").toString();
+            result.messages.last().state = xml.attributes().value(u"type"_s).toString();
             result.messages.last().translation = xml.readElementText();
         }
     }
@@ -64,12 +66,12 @@ TranslationFile readFile(const QString &path)
 
 QDir translations()
 {
-    return QDir(SOURCE_FOLDER "/translations");
+    return QDir(SOURCE_FOLDER u"/translations"_s);
 }
 
 QStringList fileNames()
 {
-    return translations().entryList({"tessaro_*.ts"});
+    return translations().entryList({u"tessaro_*.ts"_s});
 }
 
 QStringList found(const QString &text, const QString &pattern)
@@ -90,12 +92,12 @@ QStringList sorted(QStringList texts)
 /// Blanks at both ends of `text`, with a mark between them.
 QString blanksAround(const QString &text)
 {
-    return found(text, "^\\s*").join("") + '|' + found(text, "\\s*$").join("");
+    return found(text, u"^\\s*"_s).join(u""_s) + u'|' + found(text, u"\\s*$"_s).join(u""_s);
 }
 
 QStringList accelerators(const QString &text)
 {
-    return found(text, "&(?=[^& ])");
+    return found(text, u"&(?=[^& ])"_s);
 }
 
 } // namespace
@@ -135,7 +137,8 @@ void TranslationFilesTest::addFiles()
 /// Lets lupdate bring copies of the files up to date, old texts kept, so that both show.
 void TranslationFilesTest::initTestCase()
 {
-    QStringList arguments{"-silent", "-locations", "none", "app", "rules", "widgets", "-ts"};
+    QStringList arguments{u"-silent"_s, u"-locations"_s, u"none"_s, u"app"_s,
+                          u"rules"_s,   u"widgets"_s,    u"-ts"_s};
     const QStringList names = fileNames();
     QVERIFY(names.size() > 1);
     for (const QString &name : names) {
@@ -143,8 +146,8 @@ void TranslationFilesTest::initTestCase()
         arguments << updated.filePath(name);
     }
     QProcess lupdate;
-    lupdate.setWorkingDirectory(SOURCE_FOLDER);
-    lupdate.start(LUPDATE, arguments);
+    lupdate.setWorkingDirectory(QStringLiteral(SOURCE_FOLDER));
+    lupdate.start(QStringLiteral(LUPDATE), arguments);
     QVERIFY(lupdate.waitForFinished(120000));
     QCOMPARE(lupdate.exitCode(), 0);
 }
@@ -173,7 +176,7 @@ void TranslationFilesTest::everyTextIsTranslated()
     const TranslationFile file = readFile(translations().filePath(name));
     QVERIFY(file.messages.size() > 100);
     for (const Message &message : file.messages) {
-        QVERIFY2(message.state.isEmpty(), qPrintable(message.source + " is " + message.state));
+        QVERIFY2(message.state.isEmpty(), qPrintable(message.source + u" is "_s + message.state));
         QVERIFY2(!message.translation.isEmpty(), qPrintable(message.source));
     }
 }
@@ -185,7 +188,7 @@ void TranslationFilesTest::textsAreThoseOfTheSources()
         QStringList texts;
         const TranslationFile file = readFile(path);
         for (const Message &message : file.messages)
-            texts << message.context + ": " + message.source + " (" + message.state + ')';
+            texts << message.context + u": "_s + message.source + u" ("_s + message.state + u')';
         return sorted(texts);
     };
     QCOMPARE(textsIn(translations().filePath(name)), textsIn(updated.filePath(name)));
@@ -196,7 +199,7 @@ void TranslationFilesTest::marksAndBlanksAreKept()
     QFETCH(QString, name);
     const TranslationFile file = readFile(translations().filePath(name));
     for (const auto &[context, source, translation, state] : file.messages) {
-        const QString marks = QStringLiteral("%L?[0-9n]+");
+        const QString marks = u"%L?[0-9n]+"_s;
         const QByteArray where = source.toUtf8();
         QVERIFY2(sorted(found(translation, marks)) == sorted(found(source, marks)), where);
         QVERIFY2(accelerators(translation).size() == accelerators(source).size(), where);
@@ -211,17 +214,18 @@ void TranslationFilesTest::whatTheToolsOrDialogsReadIsKept()
     const TranslationFile file = readFile(translations().filePath(name));
     int seen = 0;
     for (const auto &[context, source, translation, state] : file.messages) {
-        const bool isAngle = !found(source, "^[0-9]+$").isEmpty();
+        const bool isAngle = !found(source, u"^[0-9]+$"_s).isEmpty();
         if (isAngle)
             QCOMPARE(translation, source);
-        const bool isFilter = source.contains(";;");
+        const bool isFilter = source.contains(u";;"_s);
         if (isFilter) {
-            QCOMPARE(found(translation, "\\([^)]*\\)"), found(source, "\\([^)]*\\)"));
-            QCOMPARE(translation.count(";;"), source.count(";;"));
+            QCOMPARE(found(translation, u"\\([^)]*\\)"_s), found(source, u"\\([^)]*\\)"_s));
+            QCOMPARE(translation.count(u";;"_s), source.count(u";;"_s));
         }
-        const bool isPageSize = source.endsWith("mm)");
+        const bool isPageSize = source.endsWith(u"mm)"_s);
         if (isPageSize)
-            QCOMPARE(found(translation, "[0-9]").join(""), found(source, "[0-9]").join(""));
+            QCOMPARE(found(translation, u"[0-9]"_s).join(u""_s),
+                     found(source, u"[0-9]"_s).join(u""_s));
         seen += isAngle + isFilter + isPageSize;
     }
     QCOMPARE(seen, 4 + 1 + 19);
@@ -238,8 +242,8 @@ void TranslationFilesTest::noTwoLanguagesAreTheSame()
             english << message.source;
             texts << message.translation;
         }
-        languages.insert(english, QStringLiteral("English"));
-        QVERIFY2(!languages.contains(texts), qPrintable(name + " is " + languages.value(texts)));
+        languages.insert(english, u"English"_s);
+        QVERIFY2(!languages.contains(texts), qPrintable(name + u" is "_s + languages.value(texts)));
         languages.insert(texts, name);
     }
 }
