@@ -11,6 +11,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Variables = QStringList;
@@ -74,9 +76,9 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString own(const QString &name) const
     {
-        return path(QStringLiteral("home/.local/share/tessaro/Tessaro.app/Contents/") + name);
+        return path(u"home/.local/share/tessaro/Tessaro.app/Contents/"_s + name);
     }
-    Variables home() const { return {QStringLiteral("HOME=") + path(QStringLiteral("home"))}; }
+    Variables home() const { return {u"HOME="_s + path(u"home"_s)}; }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_prefix;
@@ -85,19 +87,19 @@ private:
 void LauncherTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_prefix = path("a prefix");
-    QVERIFY(QDir().mkpath(path("home")));
-    QVERIFY(QDir().mkpath(m_prefix + "/bin"));
-    QVERIFY(QFile::copy(TESSARO_LAUNCHER, m_prefix + "/bin/tessaro"));
-    write("MacOS/tessaro", programText('1'));
-    write("MacOS/convert", "convert");
-    write("Plugins/platforms/libq.so", "plug-in");
-    write("Resources/convert.tool", "tool");
+    m_prefix = path(u"a prefix"_s);
+    QVERIFY(QDir().mkpath(path(u"home"_s)));
+    QVERIFY(QDir().mkpath(m_prefix + u"/bin"_s));
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_LAUNCHER), m_prefix + u"/bin/tessaro"_s));
+    write(u"MacOS/tessaro"_s, programText('1'));
+    write(u"MacOS/convert"_s, "convert");
+    write(u"Plugins/platforms/libq.so"_s, "plug-in");
+    write(u"Resources/convert.tool"_s, "tool");
 }
 
 void LauncherTest::write(const QString &name, const QByteArray &content) const
 {
-    const QString file = m_prefix + "/lib/tessaro/Tessaro.app/Contents/" + name;
+    const QString file = m_prefix + u"/lib/tessaro/Tessaro.app/Contents/"_s + name;
     QVERIFY(QDir().mkpath(QFileInfo(file).path()));
     QFile::remove(file);
     QFile out(file);
@@ -111,7 +113,7 @@ std::unique_ptr<QProcess> LauncherTest::start(const Variables &variables,
     auto process = std::make_unique<QProcess>();
     process->setEnvironment(variables);
     process->setWorkingDirectory(m_folder->path());
-    process->start(m_prefix + "/bin/tessaro", words);
+    process->start(m_prefix + u"/bin/tessaro"_s, words);
     return process;
 }
 
@@ -123,18 +125,20 @@ Ended LauncherTest::run(const Variables &variables, const QStringList &words) co
 void LauncherTest::programIsACopyAndTheRestAreLinks()
 {
     run(home());
-    const QString installed = m_prefix + "/lib/tessaro/Tessaro.app/Contents/";
-    QVERIFY(S_ISREG(statusOf(own("MacOS/tessaro")).st_mode));
-    for (const char *link : {"MacOS/convert", "Plugins", "Resources"})
+    const QString installed = m_prefix + u"/lib/tessaro/Tessaro.app/Contents/"_s;
+    QVERIFY(S_ISREG(statusOf(own(u"MacOS/tessaro"_s)).st_mode));
+    for (const QString &link : {u"MacOS/convert"_s, u"Plugins"_s, u"Resources"_s})
         QCOMPARE(QFile::symLinkTarget(own(link)), installed + link);
     const auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-    QCOMPARE(QDir(own("MacOS")).entryList(everything), QStringList({"convert", "tessaro"}));
-    QCOMPARE(QDir(own("")).entryList(everything), QStringList({"MacOS", "Plugins", "Resources"}));
+    QCOMPARE(QDir(own(u"MacOS"_s)).entryList(everything),
+             QStringList({u"convert"_s, u"tessaro"_s}));
+    QCOMPARE(QDir(own(u""_s)).entryList(everything),
+             QStringList({u"MacOS"_s, u"Plugins"_s, u"Resources"_s}));
 }
 
 void LauncherTest::argumentsFolderAndStatusArePassedOn()
 {
-    const Ended result = run(home(), {"a b", "--help", ""});
+    const Ended result = run(home(), {u"a b"_s, u"--help"_s, u""_s});
     QCOMPARE(result.output, "1|" + m_folder->path().toUtf8() + "|a b --help \n");
     QCOMPARE(result.status, 7);
 }
@@ -143,38 +147,40 @@ void LauncherTest::dataFolderIsTheUsers_data()
 {
     QTest::addColumn<Variables>("variables");
     QTest::addColumn<QString>("folder");
-    QTest::newRow("the home folder") << Variables{"HOME=%/home"} << "home/.local/share";
+    QTest::newRow("the home folder") << Variables{u"HOME=%/home"_s} << u"home/.local/share"_s;
     QTest::newRow("a data folder")
-        << Variables{"HOME=%/home", "XDG_DATA_HOME=%/my data"} << "my data";
-    QTest::newRow("a data folder without a home") << Variables{"XDG_DATA_HOME=%/data"} << "data";
+        << Variables{u"HOME=%/home"_s, u"XDG_DATA_HOME=%/my data"_s} << u"my data"_s;
+    QTest::newRow("a data folder without a home")
+        << Variables{u"XDG_DATA_HOME=%/data"_s} << u"data"_s;
     QTest::newRow("an empty data folder")
-        << Variables{"HOME=%/home", "XDG_DATA_HOME="} << "home/.local/share";
+        << Variables{u"HOME=%/home"_s, u"XDG_DATA_HOME="_s} << u"home/.local/share"_s;
     QTest::newRow("a relative data folder")
-        << Variables{"HOME=%/home", "XDG_DATA_HOME=data"} << "home/.local/share";
+        << Variables{u"HOME=%/home"_s, u"XDG_DATA_HOME=data"_s} << u"home/.local/share"_s;
 }
 
 void LauncherTest::dataFolderIsTheUsers()
 {
     QFETCH(Variables, variables);
     QFETCH(QString, folder);
-    variables.replaceInStrings("%", m_folder->path());
+    variables.replaceInStrings(u"%"_s, m_folder->path());
     QCOMPARE(run(variables).status, 7);
-    QVERIFY(QFile::exists(path(folder + "/tessaro/Tessaro.app/Contents/MacOS/tessaro")));
+    QVERIFY(QFile::exists(path(folder + u"/tessaro/Tessaro.app/Contents/MacOS/tessaro"_s)));
 }
 
 void LauncherTest::foldersAreForTheUserAlone()
 {
     run(home());
-    for (const char *name : {"home/.local", "home/.local/share/tessaro"})
+    for (const QString &name : {u"home/.local"_s, u"home/.local/share/tessaro"_s})
         QCOMPARE(statusOf(path(name)).st_mode & 0777, mode_t(0700));
-    QCOMPARE(statusOf(own("MacOS/tessaro")).st_mode & 0777, mode_t(0700));
+    QCOMPARE(statusOf(own(u"MacOS/tessaro"_s)).st_mode & 0777, mode_t(0700));
 }
 
 void LauncherTest::secondStartTouchesNothing()
 {
     const auto inodes = [this] {
         QList<ino_t> found;
-        for (const char *name : {"MacOS/tessaro", "MacOS/convert", "Plugins", "Resources"})
+        for (const QString &name :
+             {u"MacOS/tessaro"_s, u"MacOS/convert"_s, u"Plugins"_s, u"Resources"_s})
             found << statusOf(own(name)).st_ino;
         return found;
     };
@@ -187,27 +193,27 @@ void LauncherTest::secondStartTouchesNothing()
 void LauncherTest::changesAreTakenOver_data()
 {
     QTest::addColumn<QString>("change");
-    QTest::newRow("a new program of the same size") << "write installed";
-    QTest::newRow("a damaged copy") << "write own";
-    QTest::newRow("a copy that is cut off") << "cut own";
-    QTest::newRow("a link in the copy's place") << "link own";
+    QTest::newRow("a new program of the same size") << u"write installed"_s;
+    QTest::newRow("a damaged copy") << u"write own"_s;
+    QTest::newRow("a copy that is cut off") << u"cut own"_s;
+    QTest::newRow("a link in the copy's place") << u"link own"_s;
 }
 
 void LauncherTest::changesAreTakenOver()
 {
     QFETCH(QString, change);
     run(home());
-    const QString copy = own("MacOS/tessaro");
-    if (change == "write installed")
-        write("MacOS/tessaro", programText('2'));
-    else if (change == "write own")
-        QVERIFY(QFile::remove(copy) && QFile::copy("/bin/true", copy));
-    else if (change == "cut own")
+    const QString copy = own(u"MacOS/tessaro"_s);
+    if (change == u"write installed"_s)
+        write(u"MacOS/tessaro"_s, programText('2'));
+    else if (change == u"write own"_s)
+        QVERIFY(QFile::remove(copy) && QFile::copy(u"/bin/true"_s, copy));
+    else if (change == u"cut own"_s)
         QVERIFY(QFile::resize(copy, 10));
     else
         QVERIFY(QFile::remove(copy) &&
-                QFile::link(m_prefix + "/lib/tessaro/Tessaro.app/Contents/MacOS/tessaro", copy));
-    const char *version = change == "write installed" ? "2|" : "1|";
+                QFile::link(m_prefix + u"/lib/tessaro/Tessaro.app/Contents/MacOS/tessaro"_s, copy));
+    const char *version = change == u"write installed"_s ? "2|" : "1|";
     QVERIFY(run(home()).output.startsWith(version));
     QVERIFY(S_ISREG(statusOf(copy).st_mode));
 }
@@ -215,18 +221,18 @@ void LauncherTest::changesAreTakenOver()
 void LauncherTest::anotherPlaceIsTakenOver()
 {
     run(home());
-    const QString moved = path("elsewhere");
+    const QString moved = path(u"elsewhere"_s);
     QVERIFY(QDir().rename(m_prefix, moved));
     m_prefix = moved;
     QCOMPARE(run(home()).status, 7);
-    QCOMPARE(QFile::symLinkTarget(own("Plugins")),
-             moved + "/lib/tessaro/Tessaro.app/Contents/Plugins");
+    QCOMPARE(QFile::symLinkTarget(own(u"Plugins"_s)),
+             moved + u"/lib/tessaro/Tessaro.app/Contents/Plugins"_s);
 }
 
 void LauncherTest::startsAtOnceAllSucceed()
 {
     for (const char version : {'1', '2'}) {
-        write("MacOS/tessaro", programText(version) + QByteArray(1'000'000, '\n'));
+        write(u"MacOS/tessaro"_s, programText(version) + QByteArray(1'000'000, '\n'));
         std::vector<std::unique_ptr<QProcess>> starts;
         for (int i = 0; i < 20; ++i)
             starts.push_back(start(home()));
@@ -236,23 +242,26 @@ void LauncherTest::startsAtOnceAllSucceed()
             QVERIFY(result.output.startsWith(version));
         }
     }
-    QCOMPARE(QDir(own("MacOS")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList({"convert", "tessaro"}));
+    QCOMPARE(
+        QDir(own(u"MacOS"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList({u"convert"_s, u"tessaro"_s}));
 }
 
 void LauncherTest::noPlaceIsOneSentence_data()
 {
     QTest::addColumn<Variables>("variables");
     QTest::addColumn<QString>("sentence");
-    const QString needs = " It needs a folder of its own in XDG_DATA_HOME or ~/.local/share.\n";
-    const QString cannot = "tessaro: cannot ready the program for this user: ";
+    const QString needs = u" It needs a folder of its own in XDG_DATA_HOME or ~/.local/share.\n"_s;
+    const QString cannot = u"tessaro: cannot ready the program for this user: "_s;
     QTest::newRow("no home") << Variables()
-                             << "tessaro: there is no home folder: HOME is not set to an "
-                                "absolute path.\n";
+                             << u"tessaro: there is no home folder: HOME is not set to an "_s
+                                u"absolute path.\n"_s;
     QTest::newRow("a home that is a file")
-        << Variables{"HOME=/bin/true"} << cannot + "/bin/true/.local: Not a directory." + needs;
+        << Variables{u"HOME=/bin/true"_s}
+        << cannot + u"/bin/true/.local: Not a directory."_s + needs;
     QTest::newRow("a home that cannot be written")
-        << Variables{"HOME=/proc"} << cannot + "/proc/.local: No such file or directory." + needs;
+        << Variables{u"HOME=/proc"_s}
+        << cannot + u"/proc/.local: No such file or directory."_s + needs;
 }
 
 void LauncherTest::noPlaceIsOneSentence()
@@ -266,7 +275,7 @@ void LauncherTest::noPlaceIsOneSentence()
 
 void LauncherTest::toolsThatAreNotReadyAreTold()
 {
-    write("Resources/failure", "there is no program convert: install the package.\n");
+    write(u"Resources/failure"_s, "there is no program convert: install the package.\n");
     const Ended result = run(home());
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
