@@ -6,9 +6,12 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QPointer>
 #include <QProcess>
 #include <QProgressBar>
 #include <QTableWidget>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,31 @@ QStringList shortCalls(const WindowFixture &fixture)
     return result;
 }
 
+/// Meets each child process as soon as Qt tells it of something.
+class ProcessesMet : public QObject
+{
+public:
+    ProcessesMet() { qApp->installEventFilter(this); }
+
+    qsizetype seen() const { return m_processes.size(); }
+    qsizetype alive() const
+    {
+        return std::count_if(m_processes.begin(), m_processes.end(),
+                             [](const auto &process) { return !process.isNull(); });
+    }
+
+    bool eventFilter(QObject *target, QEvent * /*event*/) override
+    {
+        QPointer<QProcess> process = qobject_cast<QProcess *>(target);
+        if (process && !m_processes.contains(process))
+            m_processes << process;
+        return false;
+    }
+
+private:
+    QList<QPointer<QProcess>> m_processes;
+};
+
 } // namespace
 
 class ConversionTest : public QObject
@@ -43,6 +71,9 @@ private slots:
     void laterRunsDeleteTheLastFinishedPdfAgain();
     void mergedRunWithOptionsClearsTheFinishedNames();
     void intermediateNamesAreSetOnlyWhenPdftkFollows();
+    void optionsAreReadAgainWhenPdftkStarts();
+    void intermediateFileStaysInTheFolderThatConvertWasGiven();
+    void toolsRunInTheCurrentFolder();
     void mergeBoxIsReadAgainWhenConvertEnds_data();
     void mergeBoxIsReadAgainWhenConvertEnds();
     void rowsAddedMidRunAreConvertedToo();
@@ -143,6 +174,7 @@ void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
     fixture.check("checkBox_joinpdf", false);
     fixture.click("runButton"); // only ends the run
     QVERIFY(fixture.waitUntilQuiet());
+    QVERIFY(ProcessProbe::tempFiles(fixture.window).isEmpty());
     QCOMPARE(fixture.calls().size(), 1);
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
     fixture.click("runButton");
@@ -200,6 +232,52 @@ void ConversionTest::intermediateNamesAreSetOnlyWhenPdftkFollows()
     QVERIFY(fixture.waitUntilQuiet());
 }
 
+void ConversionTest::optionsAreReadAgainWhenPdftkStarts()
+{
+    WindowFixture fixture;
+    fixture.addImages({u"a.jpg"_s});
+    fixture.setOutputFolder();
+    fixture.type("lineEdit_title", u"T"_s);
+    fixture.check("checkBox_allowprint");
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.type("lineEdit_title", u""_s);
+    fixture.type("lineEdit_ownerpwd", u"late"_s);
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(shortCalls(fixture),
+             QStringList({u"convert a.jpg a.pdf"_s,
+                          u"pdftk a.pdf output a-1.pdf owner_pw late allow printing"_s}));
+}
+
+void ConversionTest::intermediateFileStaysInTheFolderThatConvertWasGiven()
+{
+    WindowFixture fixture;
+    fixture.addImages({u"a.jpg"_s});
+    fixture.setOutputFolder();
+    fixture.check("checkBox_allowprint");
+    fixture.tellConvert(fixture.closeGate());
+    fixture.click("runButton");
+    fixture.type("outputfolderEdit", QDir::tempPath());
+    fixture.openGate();
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(shortCalls(fixture).last(), u"pdftk a.pdf output a-1.pdf allow printing"_s);
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
+}
+
+void ConversionTest::toolsRunInTheCurrentFolder()
+{
+    WindowFixture fixture;
+    fixture.addImages({u"a.jpg"_s});
+    const QString folder = QDir::current().relativeFilePath(fixture.outputPath());
+    fixture.type("outputfolderEdit", folder);
+    fixture.check("checkBox_allowprint");
+    fixture.click("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
+    QCOMPARE(fixture.calls().first().arguments.last(), folder + u"/a.pdf"_s);
+    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
+}
+
 void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds_data()
 {
     QTest::addColumn<bool>("mergedFirst");
@@ -239,10 +317,14 @@ void ConversionTest::rowsAddedMidRunAreConvertedToo()
     fixture.tellConvert(fixture.closeGate());
     fixture.click("runButton");
     fixture.addImages({u"b.jpg"_s});
+    QList<int> seen; // a bar takes no value above its maximum
+    connect(fixture.find<QProgressBar>("progressBar"), &QProgressBar::valueChanged, this,
+            [&seen](int value) { seen << value; });
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
              QStringList({u"a.pdf: convert(a.jpg)"_s, u"b.pdf: convert(b.jpg)"_s}));
+    QCOMPARE(seen, QList<int>({2, 0}));
 }
 
 void ConversionTest::rowsRemovedMidRunEndTheRun()
@@ -328,6 +410,7 @@ void ConversionTest::toolThatCannotBeStartedStopsTheRunThere()
 
 void ConversionTest::childProcessesBelongToNobody()
 {
+    ProcessesMet met;
     WindowFixture fixture;
     QVERIFY(!ProcessProbe::process(fixture.window)->parent());
     QCOMPARE(ProcessProbe::process(fixture.window)->processChannelMode(),
@@ -339,6 +422,9 @@ void ConversionTest::childProcessesBelongToNobody()
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.window.findChildren<QProcess *>().isEmpty());
     QCOMPARE(ProcessProbe::process(fixture.window)->state(), QProcess::NotRunning);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(met.seen(), 2);
+    QCOMPARE(met.alive(), 2); // and so they stay until the program ends
 }
 
 QTEST_MAIN(ConversionTest)

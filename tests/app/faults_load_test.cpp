@@ -1,6 +1,7 @@
 // Slow tools, noisy tools, and many of them.
 
 #include "faults_fixture.h"
+#include "opendescriptors.h"
 
 #include <QDir>
 #include <QTableWidget>
@@ -17,12 +18,6 @@ const ExpectedOutcomes oneImageDone{
     Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 0, u"0/1"_s, u"a.pdf"_s, u"a-1.pdf"_s},
     Outcome{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 1, u"0/100"_s},
     Outcome{u"cp"_s, {u"a.pdf: pdftk(convert(a.jpg))"_s}, 1, u"0/100"_s}};
-
-/// Open file descriptors of this process.
-qsizetype descriptors()
-{
-    return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::System).size();
-}
 
 } // namespace
 
@@ -80,10 +75,10 @@ void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()
         pdfs << u"%1.pdf: pdftk(convert(%1.jpg))"_s.arg(name);
     }
     fixture.addImages(names);
-    const qsizetype before = descriptors();
+    const qsizetype before = openDescriptors().size();
     fixture.click("runButton");
     QVERIFY(fixture.runUntilQuiet());
-    QCOMPARE(descriptors(), before);
+    QCOMPARE(openDescriptors().size(), before);
     QCOMPARE(fixture.outputFiles(), pdfs);
     QCOMPARE(fixture.outcome().calls, u"cp"_s.repeated(60));
 }

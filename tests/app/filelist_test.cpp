@@ -85,6 +85,7 @@ private slots:
     void chosenFilesAreListedInTheirOrder();
     void cancelledDialogChangesNothing();
     void folderOfTheFirstFileIsRemembered();
+    void folderIsRememberedBeforeTheRowsAreMade();
     void firstRowBecomesCurrentAndSelectedToo();
     void sizeColumnShowsTheLowBitsOfTheSize_data();
     void sizeColumnShowsTheLowBitsOfTheSize();
@@ -92,6 +93,7 @@ private slots:
     void droppedUrlsAreListedUpToTheFirstThatIsNotLocal_data();
     void droppedUrlsAreListedUpToTheFirstThatIsNotLocal();
     void dropLeavesSelectionAndSettingsAlone();
+    void dropItselfIsNotAnswered();
     void dragIsAcceptedForUrlsAlone_data();
     void dragIsAcceptedForUrlsAlone();
 };
@@ -157,6 +159,17 @@ void FileListTest::folderOfTheFirstFileIsRemembered()
         WindowFixture next; // another run of the program, while the folder still stands
         QCOMPARE(openFiles(next, {}).folder, folder);
     }
+}
+
+void FileListTest::folderIsRememberedBeforeTheRowsAreMade()
+{
+    WindowFixture fixture;
+    QByteArray settings;
+    connect(fixture.find<QTableWidget>("inputfiletableWidget")->model(),
+            &QAbstractItemModel::rowsInserted, this, [&settings] { settings = settingsFile(); });
+    const QString path = fixture.makeFile(u"a.jpg"_s);
+    openFiles(fixture, {path});
+    QCOMPARE(settings, "[dir]\ninput=" + QFileInfo(path).absolutePath().toUtf8() + '\n');
 }
 
 void FileListTest::firstRowBecomesCurrentAndSelectedToo()
@@ -256,6 +269,18 @@ void FileListTest::dropLeavesSelectionAndSettingsAlone()
     QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
 }
 
+// Whoever drags learns nothing of the drop, so a move does not delete the file.
+void FileListTest::dropItselfIsNotAnswered()
+{
+    WindowFixture fixture;
+    QMimeData data;
+    data.setUrls(localUrls({u"/n/a.jpg"_s}));
+    QDropEvent event(QPointF(10, 10), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    fixture.window.dropEvent(&event);
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(rowsOf(fixture), QStringList{u"/n/a.jpg"_s});
+}
+
 void FileListTest::dragIsAcceptedForUrlsAlone_data()
 {
     QTest::addColumn<QString>("format");
@@ -271,9 +296,12 @@ void FileListTest::dragIsAcceptedForUrlsAlone()
     WindowFixture fixture;
     QMimeData data;
     data.setData(format, "http://example.org/a.jpg");
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction | Qt::LinkAction, &data, Qt::LeftButton,
+                          Qt::NoModifier);
+    enter.setDropAction(Qt::LinkAction); // as somebody before may have asked for
     QCoreApplication::sendEvent(&fixture.window, &enter);
     QTEST(enter.isAccepted(), "accepted");
+    QTEST(enter.dropAction() == enter.proposedAction(), "accepted");
 }
 
 QTEST_MAIN(FileListTest)

@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMetaProperty>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -47,8 +48,19 @@ QString nameWhenSame(const QPixmap &shown, const QPixmap &expected, const QStrin
 
 QString alignmentInWords(int alignment)
 {
-    const QString across = alignment & Qt::AlignRight ? u"AlignRight"_s : u"AlignLeft"_s;
-    return across + (alignment & Qt::AlignVCenter ? u"|AlignVCenter"_s : u""_s);
+    QStringList words;
+    for (const auto &[flag, word] :
+         {std::pair(Qt::AlignLeft, u"AlignLeft"_s), std::pair(Qt::AlignRight, u"AlignRight"_s),
+          std::pair(Qt::AlignHCenter, u"AlignHCenter"_s),
+          std::pair(Qt::AlignJustify, u"AlignJustify"_s),
+          std::pair(Qt::AlignAbsolute, u"AlignAbsolute"_s), std::pair(Qt::AlignTop, u"AlignTop"_s),
+          std::pair(Qt::AlignBottom, u"AlignBottom"_s),
+          std::pair(Qt::AlignVCenter, u"AlignVCenter"_s),
+          std::pair(Qt::AlignBaseline, u"AlignBaseline"_s)}) {
+        if (alignment & flag)
+            words << word;
+    }
+    return words.join(QLatin1Char('|'));
 }
 
 /// The value of the property that `setting` names, as the layout table writes it.
@@ -88,6 +100,37 @@ QStringList itemsOf(const QComboBox *box)
     return items;
 }
 
+/// The named widgets in the order in which they joined their parents; the first time counts.
+class ChildLog : public QObject
+{
+public:
+    ChildLog() { qApp->installEventFilter(this); }
+
+    QStringList names() const
+    {
+        QStringList names;
+        for (const QPointer<QObject> &child : m_children) {
+            const QString name = child ? child->objectName() : QString();
+            if (!name.isEmpty() && !name.startsWith(u"qt_"_s) && !names.contains(name))
+                names << name;
+        }
+        return names;
+    }
+
+    bool eventFilter(QObject * /*target*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::ChildAdded) {
+            QObject *child = static_cast<QChildEvent *>(event)->child();
+            if (child->isWidgetType())
+                m_children << child;
+        }
+        return false;
+    }
+
+private:
+    QList<QPointer<QObject>> m_children;
+};
+
 } // namespace
 
 class LayoutTest : public QObject
@@ -100,6 +143,7 @@ private slots:
     void objectIsAsTheTableSays();
     void thereIsNoObjectBesideTheTable();
     void pagesStandInTheirOrder();
+    void widgetsAreMadeInTheirOrder();
     void fileButtonsShareARow();
     void fileTableHasItsHeaders();
     void rowsStayAsAddedAlthoughSortingIsEnabled();
@@ -169,15 +213,35 @@ void LayoutTest::pagesStandInTheirOrder()
 {
     Form form;
     const QStackedWidget *pages = form.ui.stackedWidget_dialog;
-    for (const char *page : {"page", "page_2", "page_3", "page_4"}) {
-        const int index = pages->indexOf(form.find(page));
-        QCOMPARE(pages->widget(index)->objectName(), QLatin1String(page));
-    }
+    QStringList names;
+    for (int index = 0; index < pages->count(); ++index)
+        names << pages->widget(index)->objectName();
+    QCOMPARE(names, QStringList({u"page"_s, u"page_2"_s, u"page_3"_s, u"page_4"_s}));
     QCOMPARE(pages->indexOf(form.ui.page), 0);
     QCOMPARE(pages->indexOf(form.ui.page_2), 1);
     QCOMPARE(pages->indexOf(form.ui.page_3), 2);
     QCOMPARE(pages->indexOf(form.ui.page_4), 3);
     QCOMPARE(pages->currentIndex(), 0);
+}
+
+void LayoutTest::widgetsAreMadeInTheirOrder()
+{
+    ChildLog log;
+    Form form;
+    QStringList expected;
+    const QStringList sideButtons{u"frame_8"_s,
+                                  u"pushButton_PDFSetting"_s,
+                                  u"pushButton_ImageSetting"_s,
+                                  u"pushButton_Security"_s,
+                                  u"pushButton_Inout"_s,
+                                  u"aboutpushButton"_s,
+                                  u"progressBar"_s};
+    for (const LayoutRow &row : layoutTable) {
+        const QString name = QLatin1String(row.name);
+        if (!sideButtons.contains(name))
+            expected << name;
+    }
+    QCOMPARE(log.names(), expected + sideButtons);
 }
 
 void LayoutTest::fileButtonsShareARow()
@@ -306,10 +370,18 @@ void LayoutTest::retranslatingBringsEveryTextBack()
     const QStringList before = texts();
     for (auto *button : form.window.findChildren<QAbstractButton *>())
         button->setText(u"x"_s);
-    form.ui.label->setText(u"x"_s);
+    for (auto *label : form.window.findChildren<QLabel *>()) {
+        if (label->pixmap().isNull()) // a text would take its place
+            label->setText(u"x"_s);
+    }
+    for (int column = 0; column < 2; ++column)
+        form.ui.inputfiletableWidget->horizontalHeaderItem(column)->setText(u"x"_s);
     QVERIFY(texts() != before);
     form.ui.retranslateUi(&form.window);
     QCOMPARE(texts(), before);
+    const QTableWidget *table = form.ui.inputfiletableWidget;
+    QCOMPARE(table->horizontalHeaderItem(0)->text(), u"Image File"_s);
+    QCOMPARE(table->horizontalHeaderItem(1)->text(), u"File Size"_s);
 }
 
 void LayoutTest::focusGoesInTabOrder()

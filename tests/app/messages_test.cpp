@@ -9,11 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Title and text of the box; nothing when it is no box of that kind with a single OK button.
-QStringList messageOf(QWidget *widget, QMessageBox::Icon icon)
+/// Title and text of the box; nothing when it is no box of that kind with a single OK button that
+/// belongs to the window.
+QStringList messageOf(QWidget *widget, QMessageBox::Icon icon, const QWidget &window)
 {
     const auto *box = qobject_cast<QMessageBox *>(widget);
-    if (!box || box->icon() != icon || box->standardButtons() != QMessageBox::Ok)
+    if (!box || box->icon() != icon || box->standardButtons() != QMessageBox::Ok ||
+        box->parentWidget() != &window)
         return {};
     return {box->windowTitle(), box->text()};
 }
@@ -39,7 +41,7 @@ void MessagesTest::emptyListIsWarnedAboutAndNothingElseChanges()
     ProcessProbe::fileIndex(fixture.window) = 7;
     QStringList shown;
     ModalAnswer answer(
-        [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Warning); });
+        [&](QWidget *box) { shown = messageOf(box, QMessageBox::Warning, fixture.window); });
     fixture.click("runButton");
     QVERIFY(answer.happened());
     QCOMPARE(shown, QStringList({u"Empty input"_s, u"Please choose files to convert."_s}));
@@ -64,7 +66,7 @@ void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
     fixture.type("outputfolderEdit", folder);
     QStringList shown;
     ModalAnswer answer(
-        [&shown](QWidget *widget) { shown = messageOf(widget, QMessageBox::Information); });
+        [&](QWidget *box) { shown = messageOf(box, QMessageBox::Information, fixture.window); });
     fixture.click("runButton");
     QVERIFY(answer.happened());
     QCOMPARE(shown, QStringList({u"Invalid order"_s, u"Please specify an output folder."_s}));

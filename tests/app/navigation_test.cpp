@@ -164,8 +164,20 @@ void NavigationTest::imageButtonStaysUncheckable()
 {
     WindowFixture fixture;
     fixture.click("pushButton_ImageSetting");
-    QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isCheckable());
-    QVERIFY(!fixture.find<QPushButton>("pushButton_ImageSetting")->isChecked());
+    auto *button = fixture.find<QPushButton>("pushButton_ImageSetting");
+    QVERIFY(!button->isCheckable());
+    QVERIFY(!button->isChecked());
+
+    // It is set checked all the same, and it alone, as buttons that can be checked show.
+    fixture.click("pushButton_Inout");
+    const auto buttons = fixture.window.findChildren<QPushButton *>();
+    for (QPushButton *each : buttons)
+        each->setCheckable(true);
+    for (const char *slot : {"on_pushButton_ImageSetting_clicked", "on_pushButton_Inout_clicked",
+                             "on_pushButton_PDFSetting_clicked", "on_pushButton_Security_clicked"})
+        QVERIFY(QMetaObject::invokeMethod(&fixture.window, slot));
+    for (const QPushButton *each : buttons)
+        QCOMPARE(each->isChecked(), each == button);
 }
 
 void NavigationTest::pageIsShownBeforeItsButtonChanges_data()

@@ -11,6 +11,10 @@
 #include <QImageReader>
 #include <QTableWidget>
 
+#include <functional>
+#include <new>
+#include <stdexcept>
+
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -60,6 +64,31 @@ void preview(WindowFixture &fixture, const QString &path)
     fixture.window.dopreview();
 }
 
+using Thrower = std::function<void()>;
+
+/// A path that cannot be asked for, once armed.
+class ThrowingItem : public QTableWidgetItem
+{
+public:
+    explicit ThrowingItem(Thrower throwerFunction)
+        : QTableWidgetItem(u"picture.png"_s)
+        , m_thrower(std::move(throwerFunction))
+    {
+    }
+
+    QVariant data(int role) const override
+    {
+        if (armed)
+            m_thrower();
+        return QTableWidgetItem::data(role);
+    }
+
+    bool armed = false;
+
+private:
+    Thrower m_thrower;
+};
+
 } // namespace
 
 class PreviewTest : public QObject
@@ -79,6 +108,8 @@ private slots:
     void pictureAboveTheAllocationLimitIsUnreadable();
     void nothingToPreviewLeavesTheFrameAlone_data();
     void nothingToPreviewLeavesTheFrameAlone();
+    void nothingIsThrownOutOfThePreview_data();
+    void nothingIsThrownOutOfThePreview();
     void emptiedListKeepsTheDefaultPictureAtLaterFirings();
     void timerStartsAtTheFirstClickAndRepeats();
     void selectionShowsItsPictureWhenTheTimerFires();
@@ -249,6 +280,35 @@ void PreviewTest::nothingToPreviewLeavesTheFrameAlone()
     fixture.window.dopreview();
     QCOMPARE(frameOf(fixture)->size(), QSize(33, 44));
     QCOMPARE(pictureOf(fixture), before);
+}
+
+void PreviewTest::nothingIsThrownOutOfThePreview_data()
+{
+    QTest::addColumn<Thrower>("thrower");
+    QTest::newRow("a number") << Thrower([] { throw 1; });
+    QTest::newRow("no memory") << Thrower([] { throw std::bad_alloc(); });
+    QTest::newRow("an error") << Thrower([] { throw std::runtime_error("broken"); });
+    QTest::newRow("an object of no known kind") << Thrower([] { throw QSize(); });
+}
+
+void PreviewTest::nothingIsThrownOutOfThePreview()
+{
+    QFETCH(Thrower, thrower);
+    WindowFixture fixture;
+    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
+    auto *item = new ThrowingItem(thrower);
+    table->setRowCount(1);
+    table->setItem(0, 0, item);
+    table->setCurrentCell(0, 0);
+    item->armed = true; // for as long as no code of Qt's stands between
+    bool thrown = false;
+    try {
+        fixture.window.dopreview();
+    } catch (...) {
+        thrown = true;
+    }
+    item->armed = false;
+    QVERIFY(!thrown);
 }
 
 void PreviewTest::emptiedListKeepsTheDefaultPictureAtLaterFirings()

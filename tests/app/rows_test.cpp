@@ -42,6 +42,11 @@ QStringList rowsOf(WindowFixture &fixture, bool withSizes = false)
     return rows;
 }
 
+QImage pictureOf(const QFrame &frame)
+{
+    return frame.palette().brush(frame.backgroundRole()).textureImage();
+}
+
 void selectRows(WindowFixture &fixture, const QList<int> &rows)
 {
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
@@ -98,6 +103,8 @@ private slots:
     void emptiedListShowsTheDefaultPreview();
     void selectionConnectionsComeAndGo_data();
     void selectionConnectionsComeAndGo();
+    void removingTheLastRowAsksForNoPreview_data();
+    void removingTheLastRowAsksForNoPreview();
     void clickStillAsksForAPreviewWithoutAConnection();
     void rowsStayAsAddedUntilAHeaderIsClicked();
     void sizesStayWithTheirFilesWhenSorted_data();
@@ -156,10 +163,14 @@ void RowsTest::emptiedListShowsTheDefaultPreview()
     WindowFixture fixture;
     auto *frame = fixture.find<QFrame>("previewframe");
     QCOMPARE(frame->size(), QSize(151, 151));
+    const QImage defaultPicture = pictureOf(*frame);
+    QVERIFY(!defaultPicture.isNull());
     frame->resize(9, 9);
+    frame->setPalette(QPalette(Qt::red));
     for (const QString &step : steps)
         act(fixture, step);
     QTEST(frame->size() == QSize(151, 151), "shown");
+    QTEST(pictureOf(*frame) == defaultPicture, "shown");
 }
 
 void RowsTest::selectionConnectionsComeAndGo_data()
@@ -201,6 +212,26 @@ void RowsTest::selectionConnectionsComeAndGo()
     const auto count = timer->bindableActive().addNotifier([&] { starts += timer->isActive(); });
     emit fixture.find<QTableWidget>("inputfiletableWidget")->itemSelectionChanged();
     QCOMPARE(starts, connections);
+}
+
+void RowsTest::removingTheLastRowAsksForNoPreview_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::newRow("the selected row") << u"remove"_s;
+    QTest::newRow("all rows") << u"remove all"_s;
+}
+
+void RowsTest::removingTheLastRowAsksForNoPreview()
+{
+    QFETCH(QString, step);
+    WindowFixture fixture;
+    act(fixture, u"add"_s);
+    act(fixture, u"select"_s);
+    QTimer *timer = ProcessProbe::previewTimer(fixture.window);
+    QVERIFY(timer->isActive());
+    timer->stop();
+    act(fixture, step); // takes the selection away too
+    QVERIFY(!timer->isActive());
 }
 
 void RowsTest::clickStillAsksForAPreviewWithoutAConnection()

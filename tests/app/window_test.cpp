@@ -173,6 +173,11 @@ void WindowTest::rotationMayBeTyped()
     QCOMPARE(fixture.window.gettheoption(), QString());
     QTest::keyClick(box->lineEdit(), Qt::Key_Return);
     QCOMPARE(fixture.window.gettheoption(), u" -rotate 45"_s);
+    // With another item chosen what is typed counts at once.
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), u"7"_s);
+    QVERIFY(box->currentIndex() > 0);
+    QCOMPARE(fixture.window.gettheoption(), u" -rotate 7"_s);
 }
 
 void WindowTest::aboutButtonOpensTheAboutBox()

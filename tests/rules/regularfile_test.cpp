@@ -2,6 +2,8 @@
 
 #include "regularfile.h"
 
+#include "opendescriptors.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -73,15 +75,12 @@ void RegularFileTest::regularFilesAloneAreOpened()
 
 void RegularFileTest::refusedFileLeavesNoDescriptorOpen()
 {
-    const auto descriptors = [] {
-        return QDir(u"/proc/self/fd"_s).entryList(QDir::NoDotAndDotDot | QDir::System);
-    };
-    const QStringList before = descriptors();
+    const QStringList before = openDescriptors();
     for (const char *name : {"fifo", "folder", "nothing", "file"}) {
         QFile file;
         openRegularFile(file, path(name));
     }
-    QCOMPARE(descriptors(), before);
+    QCOMPARE(openDescriptors(), before);
 }
 
 QTEST_GUILESS_MAIN(RegularFileTest)

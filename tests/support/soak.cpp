@@ -53,13 +53,6 @@ struct Measures
     qint64 duration = 0; // ms
 };
 
-qsizetype descriptors()
-{
-    return QDir(u"/proc/self/fd"_s)
-        .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
-        .size();
-}
-
 QString baseName(int number)
 {
     return u"image-%1"_s.arg(number, 5, 10, QLatin1Char('0'));
@@ -151,7 +144,7 @@ Measures soak(QApplication &application, int count, bool realTools)
 
     Measures measures;
     QApplication::processEvents();
-    measures.descriptorsBefore = descriptors();
+    measures.descriptorsBefore = openDescriptors().size();
     const double memory = residentMemory();
     QElapsedTimer duration;
     duration.start();
@@ -159,7 +152,7 @@ Measures soak(QApplication &application, int count, bool realTools)
     measures.gaps = runUntilQuiet(application);
     measures.duration = duration.elapsed();
     measures.growth = residentMemory() - memory;
-    measures.descriptorsAfter = descriptors();
+    measures.descriptorsAfter = openDescriptors().size();
     for (int i = 0; i < count; ++i) {
         const QString pdf = place.filePath(u"out/%1.pdf"_s.arg(baseName(i)));
         measures.lost += isConverted(pdf, realTools) ? 0 : 1;

@@ -92,15 +92,17 @@ QStringList withOpenPixels(QStringList actual, const QStringList &expected)
     return actual;
 }
 
-class PaintCounter : public QObject
+/// Whether the button was down, at each of its paintings.
+class PaintLog : public QObject
 {
 public:
-    int count = 0;
+    QList<bool> down;
 
 protected:
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
-        count += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint)
+            down << qobject_cast<QAbstractButton *>(watched)->isDown();
         return false;
     }
 };
@@ -122,6 +124,8 @@ private slots:
     void paintsNothingWithoutAPicture_data();
     void paintsNothingWithoutAPicture();
     void paintsWhatTheFileHoldsNow();
+    void edgeOfTheCircleIsSmooth();
+    void releaseOutsideShowsTheIconAgain();
     void repaintsAtOnce_data();
     void repaintsAtOnce();
     void isAPushButtonInAllElse();
@@ -277,6 +281,33 @@ void TestMyPushButton::paintsWhatTheFileHoldsNow()
     }
 }
 
+void TestMyPushButton::edgeOfTheCircleIsSmooth()
+{
+    mypushbutton button(icon(), QString());
+    button.resize(40, 40);
+    button.setIconSize({40, 40});
+    const QImage image = paint(button);
+    int halfCovered = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            halfCovered += qAlpha(image.pixel(x, y)) > 0 && qAlpha(image.pixel(x, y)) < 255;
+    }
+    QVERIFY2(halfCovered > 20, qPrintable(QString::number(halfCovered)));
+}
+
+void TestMyPushButton::releaseOutsideShowsTheIconAgain()
+{
+    mypushbutton button(icon(), imagePath);
+    button.resize(40, 40);
+    int clicks = 0;
+    connect(&button, &QPushButton::clicked, this, [&clicks] { ++clicks; });
+    send(button, QEvent::MouseButtonPress);
+    QCOMPARE(paint(button).pixel(20, 20), fileColour);
+    QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, {400, 400});
+    QCOMPARE(paint(button).pixel(20, 20), iconColour);
+    QCOMPARE(clicks, 0);
+}
+
 void TestMyPushButton::repaintsAtOnce_data()
 {
     QTest::addColumn<QEvent::Type>("type");
@@ -293,12 +324,17 @@ void TestMyPushButton::repaintsAtOnce()
     mypushbutton button(icon(), QString());
     button.show();
     QVERIFY(QTest::qWaitForWindowExposed(&button));
-    PaintCounter paints;
+    const bool isRelease = type == QEvent::MouseButtonRelease;
+    if (isRelease)
+        send(button, QEvent::MouseButtonPress);
+    PaintLog paints;
     button.installEventFilter(&paints);
 
     send(button, type);
 
-    QVERIFY(paints.count >= 1);
+    // Qt paints a pressed button by itself, but only after it is down.
+    QVERIFY(!paints.down.isEmpty());
+    QCOMPARE(paints.down.first(), isRelease);
 }
 
 void TestMyPushButton::isAPushButtonInAllElse()
