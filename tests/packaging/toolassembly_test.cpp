@@ -18,6 +18,11 @@ private slots:
     void aPolicyThatDoesNotHoldIsFound();
     void missingProgramsAreNamed();
     void assemblingTwiceGivesTheSame();
+    void magickAloneIsCalledAsConvert();
+    void changedToolsAreProvenAgain();
+    void lostPolicyIsMendedOnTheNextLook();
+    void noPolicyNoImage_data();
+    void noPolicyNoImage();
     void nothingIsWritableByOthers();
     void movedBundleWorks();
     void linkedProgramsFindTheirBundle();
@@ -140,6 +145,91 @@ void ToolAssembly::assemblingTwiceGivesTheSame()
     QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
     QCOMPARE(filesBelow(bundle.contents()), files);
     verifyWorking(bundle.tool("convert"), bundle.tool("pdftk"));
+}
+
+void ToolAssembly::magickAloneIsCalledAsConvert()
+{
+    const ToolBundle bundle({}, {});
+    const QTemporaryDir folder;
+    const QString magick = folder.filePath("magick");
+    QVERIFY(QFile::copy(TESSARO_ONLY_MAGICK, magick));
+    QCOMPARE(assembleTools(bundle.contents(), {{"TESSARO_CONVERT", magick}}).errors, QByteArray());
+    QCOMPARE(contentOf(bundle.contents() + "/Resources/convert.tool"),
+             (magick + "\nconvert\n").toUtf8());
+    verifyWorking(bundle.tool("convert"), bundle.tool("pdftk"));
+}
+
+void ToolAssembly::changedToolsAreProvenAgain()
+{
+    const ToolBundle bundle({}, {});
+    const QTemporaryDir folder;
+    const QString tool = folder.filePath("magick");
+    const Variables variables = {{"TESSARO_CONVERT", tool}};
+    QVERIFY(QFile::copy(TESSARO_ONLY_MAGICK, tool));
+    QCOMPARE(assembleTools(bundle.contents(), variables).errors, QByteArray());
+    const RunResult same = assembleTools(bundle.contents(), variables, {"--if-changed"});
+    QCOMPARE(same.errors + same.output, QByteArray());
+    QCOMPARE(same.status, 0);
+    QVERIFY(QFile::remove(tool) && QFile::copy(TESSARO_LAWLESS_CONVERT, tool));
+    const RunResult changed = assembleTools(bundle.contents(), variables, {"--if-changed"});
+    QCOMPARE(changed.status, 1);
+    QVERIFY2(changed.output.startsWith("The tools under the program have changed"),
+             changed.output.constData());
+    QVERIFY2(changed.errors.contains("the image policy does not hold"), changed.errors.constData());
+    // What has failed its proof is not taken for proven.
+    QCOMPARE(assembleTools(bundle.contents(), variables, {"--if-changed"}).status, 1);
+}
+
+void ToolAssembly::lostPolicyIsMendedOnTheNextLook()
+{
+    const ToolBundle bundle({}, {});
+    const QString policy = bundle.contents() + "/Resources/magick/limits/policy.xml";
+    QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
+    QVERIFY(QFile::remove(policy));
+    QCOMPARE(assembleTools(bundle.contents(), {}, {"--if-changed"}).errors, QByteArray());
+    QVERIFY(QFile::exists(policy));
+}
+
+void ToolAssembly::noPolicyNoImage_data()
+{
+    QTest::addColumn<QString>("spoiling");
+    QTest::addColumn<QByteArray>("sentence");
+    const QByteArray again = "run packaging/assemble-tools again";
+    QTest::newRow("no folder") << "rm -r a.app/Contents/Resources/magick" << again;
+    QTest::newRow("no limits") << "rm a.app/Contents/Resources/magick/limits/policy.xml" << again;
+    QTest::newRow("no rights") << "rm a.app/Contents/Resources/magick/rights/ImageMagick/policy.xml"
+                               << again;
+    QTest::newRow("empty rights")
+        << ": >a.app/Contents/Resources/magick/rights/ImageMagick/policy.xml" << again;
+    QTest::newRow("a colon in the path")
+        << "mv a.app a:b.app" << QByteArray("cannot work below a folder with a colon in its name");
+}
+
+// A file that the policy forbids, and one that it allows: without a policy neither is touched.
+void ToolAssembly::noPolicyNoImage()
+{
+    QFETCH(QString, spoiling);
+    QFETCH(QByteArray, sentence);
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath("a.app");
+    QCOMPARE(runProgram("/bin/cp", {"-a", QFileInfo(bundleContents()).path(), copy}, folder.path())
+                 .status,
+             0);
+    makeImage(folder.filePath("x.png"));
+    QCOMPARE(runProgram("/bin/sh", {"-c", spoiling}, folder.path()).status, 0);
+    const QString name = spoiling.startsWith("mv") ? "a:b.app" : "a.app";
+    const QString programs = folder.filePath(name + "/Contents/MacOS/");
+    for (const QStringList &call : {QStringList{"x.png", "o.pdf"}, QStringList{"x.png", "o.svg"}}) {
+        const RunResult result = runProgram(programs + "convert", call, folder.path());
+        QCOMPARE(result.status, 1);
+        QCOMPARE(result.errors.count('\n'), 1);
+        QVERIFY2(result.errors.contains(sentence), result.errors.constData());
+    }
+    QCOMPARE(namesIn(folder.path()), QStringList({name, "x.png"}));
+    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, folder.path()).status, 0);
+    const RunResult finished = runProgram(
+        programs + "pdftk", {"in.pdf", "output", "o.pdf", "user_pw", "use"}, folder.path());
+    QCOMPARE(finished.errors + finished.output, QByteArray());
 }
 
 void ToolAssembly::nothingIsWritableByOthers()

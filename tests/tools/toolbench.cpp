@@ -53,9 +53,11 @@ RunResult runBundled(const QString &name, const QStringList &arguments, const QS
     return runProgram(bundledTool(name), arguments, folder, variables);
 }
 
-RunResult assembleTools(const QString &contents, const Variables &variables)
+RunResult assembleTools(const QString &contents, const Variables &variables,
+                        const QStringList &options)
 {
-    return runProgram(QStringLiteral(TESSARO_ASSEMBLE), {contents}, QDir::tempPath(), variables);
+    return runProgram(QStringLiteral(TESSARO_ASSEMBLE), options + QStringList{contents},
+                      QDir::tempPath(), variables);
 }
 
 QStringList namesIn(const QString &folder)

@@ -34,7 +34,8 @@ RunResult runBundled(const QString &name, const QStringList &arguments, const QS
 RunResult runInShell(const QString &setting, const QString &program, const QStringList &arguments,
                      const QString &folder, const Variables &variables = {});
 /// packaging/assemble-tools for the bundle with this Contents.
-RunResult assembleTools(const QString &contents, const Variables &variables = {});
+RunResult assembleTools(const QString &contents, const Variables &variables = {},
+                        const QStringList &options = {});
 
 /// Starts a program and leaves it to the caller.
 std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList &arguments,

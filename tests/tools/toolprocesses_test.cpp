@@ -6,6 +6,8 @@
 
 #include <csignal>
 
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 /// Signals and endings: the real tool never outlives ours, whatever way either of them is ended.
@@ -21,6 +23,10 @@ private slots:
     void ignoredSignalsStayIgnored();
     void closedStreamsChangeNothing_data();
     void closedStreamsChangeNothing();
+    void noCoreIsDumped_data();
+    void noCoreIsDumped();
+    void theRealToolDumpsNoCore();
+    void lackOfMemoryIsASentence();
     void realConvertStopsOnASignal();
     void killedProgramTakesTheJvmAlong();
     void killedProgramTakesConvertAlong();
@@ -149,6 +155,72 @@ void ToolProcesses::closedStreamsChangeNothing()
              0);
     QVERIFY(!readPdf(folder.filePath("o-1.pdf"), "b").needsPassword);
     QCOMPARE(namesIn(folder.path()), QStringList({"o-1.pdf", "o.pdf", "x.png"}));
+}
+
+void ToolProcesses::noCoreIsDumped_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("call");
+    QTest::newRow("convert") << "convert" << QStringList{"x.png", "o.pdf"};
+    QTest::newRow("pdftk") << "pdftk" << QStringList{"in.pdf", "output", "o.pdf", "user_pw", "a"};
+}
+
+// What the kernel tells of the end, wherever this machine would put a core.
+void ToolProcesses::noCoreIsDumped()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, call);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("in.pdf"), "in");
+    makeImage(folder.filePath("x.png"), {2, 2});
+    const QStringList tool = shellTool("touch ../started; while :; do sleep 0.05; done");
+    const ToolBundle bundle(tool, tool);
+    const QByteArray command = "cd \"$1\"; shift; ulimit -c unlimited 2>/dev/null; exec \"$@\"";
+    QList<QByteArray> words = {"sh",
+                               "-c",
+                               command,
+                               "sh",
+                               QFile::encodeName(folder.path()),
+                               QFile::encodeName(bundle.tool(program))};
+    for (const QString &word : call)
+        words.append(word.toUtf8());
+    std::vector<char *> pointers;
+    for (QByteArray &word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    pid_t pid = 0;
+    QCOMPARE(posix_spawn(&pid, "/bin/sh", nullptr, nullptr, pointers.data(), environ), 0);
+    QTRY_VERIFY(QFile::exists(folder.filePath("started")));
+    kill(pid, SIGSEGV);
+    int status = 0;
+    QCOMPARE(waitpid(pid, &status, 0), pid);
+    QVERIFY(WIFSIGNALED(status));
+    QVERIFY(!WCOREDUMP(status));
+    QCOMPARE(QDir(folder.path()).entryList({"*core*"}), QStringList());
+}
+
+void ToolProcesses::theRealToolDumpsNoCore()
+{
+    const QStringList tool = shellTool("grep 'core file' /proc/self/limits >&2; exit 1");
+    const ToolBundle bundle(tool, tool);
+    const RunResult result = runInShell("ulimit -c unlimited 2>/dev/null", bundle.tool("pdftk"),
+                                        {"in.pdf", "output", "o.pdf"}, m_folder.path());
+    // One byte, which to Linux means that no program is given the core either.
+    QCOMPARE(QString(result.errors).simplified(), QString("Max core file size 1 1 bytes"));
+}
+
+void ToolProcesses::lackOfMemoryIsASentence()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
+    writeContent(folder.filePath("info"),
+                 "InfoKey:Title\nInfoValue:" + QByteArray(15'000'000, 'x') + "\n");
+    const RunResult result =
+        runInShell("ulimit -v 70000", bundledTool("pdftk"),
+                   {"in.pdf", "update_info", "info", "output", "o.pdf"}, folder.path());
+    QCOMPARE(result.errors, QByteArray("pdftk: not enough memory\n"));
+    QCOMPARE(result.status, 1);
+    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "info"}));
 }
 
 void ToolProcesses::realConvertStopsOnASignal()
