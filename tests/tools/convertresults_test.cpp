@@ -21,6 +21,8 @@ private slots:
     void anyNameIsAnOutput();
     void anyNameIsAnInput_data();
     void anyNameIsAnInput();
+    void anyExtensionIsAnInput_data();
+    void anyExtensionIsAnInput();
     void sixtyScannedPagesGiveSixty();
     void thousandsOfLongNamesFit();
     void failureLeavesTheOlderPdf_data();
@@ -72,7 +74,8 @@ QByteArray pngChunk(const QByteArray &type, const QByteArray &data)
 void addOddNames()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"100%",
+    for (const char *name : {"",
+                             "100%",
                              "a%d",
                              "%03d",
                              "a[0]",
@@ -140,6 +143,7 @@ void ConvertResults::anyNameIsAnOutput()
     const PdfFacts facts = readPdf(folder.filePath(file));
     QCOMPARE(facts.pages, 2);
     QCOMPARE(facts.title, name);
+    QCOMPARE(facts.author, QString());
 }
 
 void ConvertResults::anyNameIsAnInput_data()
@@ -158,6 +162,25 @@ void ConvertResults::anyNameIsAnInput()
         QCOMPARE(result.errors, QByteArray());
         QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 2);
     }
+}
+
+void ConvertResults::anyExtensionIsAnInput_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"x.dng", "x.map", "x.pdf", "x.svg", "x.html", "x.1", "x"})
+        QTest::newRow(name) << QString(name);
+}
+
+// The content alone says what it is.
+void ConvertResults::anyExtensionIsAnInput()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.bmp"));
+    QVERIFY(QFile::rename(folder.filePath("x.bmp"), folder.filePath(name)));
+    const RunResult result = runBundled("convert", {name, "o.pdf"}, folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 1);
 }
 
 void ConvertResults::sixtyScannedPagesGiveSixty()

@@ -100,6 +100,7 @@ ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkT
     }
     for (const char *name : {"convert", "pdftk"})
         QFile::copy(bundledTool(name), tool(name));
+    QFile::copy(bundledTool("convert-pages.so"), tool("convert-pages.so"));
     writeContent(contents() + "/Resources/convert.tool", convertTool.join('\n').toUtf8());
     writeContent(contents() + "/Resources/pdftk.tool", pdftkTool.join('\n').toUtf8());
 }

@@ -30,6 +30,7 @@ private slots:
     void inputsArePlainOnImages();
     void fullPlacesAreNamedAndLeftClean_data();
     void fullPlacesAreNamedAndLeftClean();
+    void messagesNameTheRightInput_data();
     void messagesNameTheRightInput();
 
 private:
@@ -270,20 +271,35 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean()
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
 }
 
-// The tool speaks of input-1 and input-10, and one file is called as another is inside.
+void ToolFolders::messagesNameTheRightInput_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("input-1 is not the beginning of input-11")
+        << "input-11" << QByteArray("cannot read file11\n");
+    QTest::newRow("one that is called as another is inside")
+        << "input-2" << QByteArray("cannot read input-3\n");
+}
+
 void ToolFolders::messagesNameTheRightInput()
 {
-    const QStringList tool = shellTool("echo \"cannot read $2 $3 ${11}\" >&2; exit 1");
-    const ToolBundle bundle(tool, tool);
+    QFETCH(QString, failing);
+    QFETCH(QByteArray, message);
+    const ToolBundle bundle(
+        shellTool("[ $1 != $FAILING ] || { echo \"cannot read $1\" >&2; exit 1; }; "
+                  "for last; do :; done; cp ../whole.pdf ${last#pdf:}"),
+        {"/bin/false"});
     const QTemporaryDir folder;
+    makeImage(folder.filePath("x.png"));
+    QCOMPARE(runBundled("convert", {"x.png", "whole.pdf"}, folder.path()).status, 0);
     QStringList call;
     for (int i = 1; i <= 11; ++i)
         call.append(i == 2 ? QString("input-3") : "file" + QString::number(i));
     for (const QString &name : call)
         writeContent(folder.filePath(name), "in");
-    const RunResult result =
-        runProgram(bundle.tool("convert"), call + QStringList{"o.pdf"}, folder.path());
-    QCOMPARE(result.errors, QByteArray("cannot read input-3 file3 file11\n"));
+    const RunResult result = runProgram(bundle.tool("convert"), call + QStringList{"o.pdf"},
+                                        folder.path(), {{"FAILING", failing}});
+    QCOMPARE(result.errors, message);
 }
 
 QTEST_GUILESS_MAIN(ToolFolders)

@@ -3,7 +3,9 @@
 
 #include <QDir>
 #include <QTest>
+#include <QThread>
 
+#include <algorithm>
 #include <csignal>
 
 #include <spawn.h>
@@ -30,10 +32,13 @@ private slots:
     void realConvertStopsOnASignal();
     void killedProgramTakesTheJvmAlong();
     void killedProgramTakesConvertAlong();
+    void failureEndsThoseAtWork();
     void killedProgramTakesAnyToolAlong();
     void tenPdftkCallsAtOnceInOneFolder();
 
 private:
+    std::unique_ptr<QProcess> startConverting(const QString &folder, const QString &pixels) const;
+
     QTemporaryDir m_folder;
 };
 
@@ -55,6 +60,31 @@ pid_t pidOf(const QProcess &process)
     return static_cast<pid_t>(process.processId());
 }
 
+QList<pid_t> childrenOf(const QProcess &process)
+{
+    const QString pid = QString::number(process.processId());
+    QList<pid_t> children;
+    for (const QByteArray &child :
+         contentOf("/proc/" + pid + "/task/" + pid + "/children").split(' ')) {
+        if (child.trimmed().toInt() > 0)
+            children.append(child.trimmed().toInt());
+    }
+    return children;
+}
+
+// Real tools that a call runs side by side, at the least.
+int atOnce()
+{
+    return std::min(QThread::idealThreadCount(), 2);
+}
+
+bool haveEnded(const QList<pid_t> &processes)
+{
+    return std::ranges::all_of(processes, [](pid_t process) {
+        return contentOf("/proc/" + QString::number(process) + "/cmdline").isEmpty();
+    });
+}
+
 // A word that no other process on the machine has, another run of this test included.
 QString ownWord(const QString &word)
 {
@@ -62,6 +92,16 @@ QString ownWord(const QString &word)
 }
 
 } // namespace
+
+// Work for much longer than any test waits.
+std::unique_ptr<QProcess> ToolProcesses::startConverting(const QString &folder,
+                                                         const QString &pixels) const
+{
+    const QStringList pages(100, m_folder.filePath("page.jpg"));
+    return startProgram(bundledTool("convert"),
+                        QStringList{"-rotate", "90"} + pages + QStringList{"o.pdf"}, folder,
+                        {{"TMPDIR", pixels}});
+}
 
 void ToolProcesses::initTestCase()
 {
@@ -225,16 +265,14 @@ void ToolProcesses::lackOfMemoryIsASentence()
 
 void ToolProcesses::realConvertStopsOnASignal()
 {
-    const QString result = ownWord("signalled") + ".pdf";
     const QTemporaryDir folder, pixels;
-    QStringList arguments(100, m_folder.filePath("page.jpg"));
-    const auto call = startProgram(bundledTool("convert"), arguments << result, folder.path(),
-                                   {{"TMPDIR", pixels.path()}});
-    QTRY_VERIFY(processesWith("./" + result.toUtf8()).size() == 1);
+    const auto call = startConverting(folder.path(), pixels.path());
+    QList<pid_t> children;
+    QTRY_VERIFY((children = childrenOf(*call)).size() >= atOnce());
     kill(pidOf(*call), SIGTERM);
     QVERIFY(call->waitForFinished());
     QVERIFY(call->exitCode() > 0);
-    QCOMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
+    QVERIFY(haveEnded(children));
     QCOMPARE(namesIn(folder.path()), QStringList());
     QCOMPARE(namesIn(pixels.path()), QStringList());
 }
@@ -256,18 +294,35 @@ void ToolProcesses::killedProgramTakesTheJvmAlong()
 
 void ToolProcesses::killedProgramTakesConvertAlong()
 {
-    const QString result = ownWord("killed-convert") + ".pdf";
     const QTemporaryDir folder, pixels;
-    QStringList arguments(100, m_folder.filePath("page.jpg"));
-    const auto call = startProgram(bundledTool("convert"), arguments << result, folder.path(),
-                                   {{"TMPDIR", pixels.path()}});
-    QTRY_VERIFY(processesWith("./" + result.toUtf8()).size() == 1);
+    const auto call = startConverting(folder.path(), pixels.path());
+    QList<pid_t> children;
+    QTRY_VERIFY((children = childrenOf(*call)).size() >= atOnce());
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
-    QTRY_COMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
+    QTRY_VERIFY(haveEnded(children));
     const QStringList left = namesIn(pixels.path());
     QCOMPARE(left.size(), 1);
     QTRY_COMPARE(namesIn(pixels.filePath(left.first())), QStringList{".tessaro"});
+}
+
+// An image that is not whole is found while others are being converted.
+void ToolProcesses::failureEndsThoseAtWork()
+{
+    const QString word = ownWord("2000");
+    const ToolBundle bundle(shellTool("case $1 in *input-1*) exec sleep " + word +
+                                      ";; esac; while ! pgrep -f 'sleep " + word +
+                                      "' >/dev/null; do :; done; exit 9"),
+                            {"/bin/false"});
+    if (atOnce() < 2)
+        QSKIP("one core runs one tool at a time");
+    const QTemporaryDir folder;
+    for (const char *name : {"1", "2"})
+        writeContent(folder.filePath(name), "content");
+    const RunResult result = runProgram(bundle.tool("convert"), {"1", "2", "o.pdf"}, folder.path());
+    QCOMPARE(result.status, 9);
+    QCOMPARE(processesWith(QByteArray("sleep\0", 6) + word.toUtf8()), QList<pid_t>());
+    QCOMPARE(namesIn(folder.path()), QStringList({"1", "2"}));
 }
 
 void ToolProcesses::killedProgramTakesAnyToolAlong()

@@ -1,6 +1,8 @@
 #include "convertcall.h"
 #include "convertlimits.h"
+#include "damage.h"
 #include "diagnosis.h"
+#include "jpegshrink.h"
 #include "losslessinfo.h"
 #include "pdftkcall.h"
 #include "text.h"
@@ -25,7 +27,16 @@ private slots:
     void otherConvertCallsAreNotOurs();
     void inputsGetPlainNames_data();
     void inputsGetPlainNames();
-    void percentSignsAreDoubledForTheOutput();
+    void optionsThatChangePixels_data();
+    void optionsThatChangePixels();
+    void compressionIsAskedFor_data();
+    void compressionIsAskedFor();
+    void jpegDecodersShrink_data();
+    void jpegDecodersShrink();
+    void messagesTellOfDamage_data();
+    void messagesTellOfDamage();
+    void runsAtOnceFitTheMachine_data();
+    void runsAtOnceFitTheMachine();
     void limitsFollowTheMachine_data();
     void limitsFollowTheMachine();
     void pdftkTailHidesPasswords_data();
@@ -105,8 +116,10 @@ void ToolRules::inputsGetPlainNames_data()
         << std::string("/a.pdf") << std::string("input-7");
     QTest::newRow("a selector is no extension")
         << std::string("/a.png[0]") << std::string("input-7");
-    QTest::newRow("a long end is no extension")
-        << std::string("/a.abcdefghi") << std::string("input-7");
+    QTest::newRow("the extension of a format that is not let in")
+        << std::string("/a.dng") << std::string("input-7");
+    QTest::newRow("an extension that is a format of another kind")
+        << std::string("/a.map") << std::string("input-7");
     QTest::newRow("a dot at the end") << std::string("/a.") << std::string("input-7");
 }
 
@@ -117,37 +130,159 @@ void ToolRules::inputsGetPlainNames()
     QCOMPARE(inputName(7, path), name);
 }
 
-void ToolRules::percentSignsAreDoubledForTheOutput()
+void ToolRules::optionsThatChangePixels_data()
 {
-    QCOMPARE(outputWord("50%d%.pdf"), std::string("./50%%d%%.pdf"));
+    QTest::addColumn<Words>("options");
+    QTest::addColumn<bool>("changes");
+    QTest::newRow("none") << Words{} << false;
+    QTest::newRow("a compression") << Words{"-compress", "JPEG"} << false;
+    QTest::newRow("a turn by nothing") << Words{"-rotate", "0", "-compress", "zip"} << false;
+    QTest::newRow("a turn") << Words{"-rotate", "90"} << true;
+    QTest::newRow("a page size") << Words{"-resize", "595x842"} << true;
+    QTest::newRow("black and white") << Words{"-compress", "JPEG", "-monochrome"} << true;
+}
+
+void ToolRules::optionsThatChangePixels()
+{
+    QFETCH(Words, options);
+    QTEST(changesPixels(options), "changes");
+}
+
+void ToolRules::compressionIsAskedFor_data()
+{
+    QTest::addColumn<Words>("options");
+    QTest::addColumn<int>("compression");
+    const auto row = [](const char *name, const Words &options, Compression compression) {
+        QTest::newRow(name) << options << int(compression);
+    };
+    row("none", {"-rotate", "0"}, Compression::Unset);
+    row("JPEG", {"-compress", "JPEG"}, Compression::Jpeg);
+    row("Zip as the window spells it", {"-compress", "zip"}, Compression::Zip);
+    row("Group 4", {"-rotate", "0", "-compress", "Group4"}, Compression::Group4);
+    row("another one", {"-compress", "None"}, Compression::Other);
+    row("the last one counts", {"-compress", "JPEG", "-compress", "LZW"}, Compression::Other);
+}
+
+void ToolRules::compressionIsAskedFor()
+{
+    QFETCH(Words, options);
+    QTEST(int(askedCompression(options)), "compression");
+}
+
+void ToolRules::jpegDecodersShrink_data()
+{
+    QTest::addColumn<Words>("options");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<Words>("shrinking");
+    const Words a4 = {"-resize", "595x842"};
+    QTest::newRow("a scan for an A4 page")
+        << a4 << QSize(2480, 3508)
+        << Words{"-define", "jpeg:size=1240x1754", "-resize", "595x842!"};
+    QTest::newRow("the other options stay")
+        << Words{"-resize", "297x421", "-rotate", "90"} << QSize(4000, 3000)
+        << Words{"-define", "jpeg:size=666x500", "-resize", "297x223!", "-rotate", "90"};
+    QTest::newRow("just twice as large") << a4 << QSize(1190, 1684) << Words{};
+    QTest::newRow("just four times as large")
+        << a4 << QSize(2380, 3368)
+        << Words{"-define", "jpeg:size=1190x1684", "-resize", "595x842!"};
+    QTest::newRow("one pixel less") << a4 << QSize(2380, 3367) << Words{};
+    QTest::newRow("larger than eight times")
+        << a4 << QSize(32000, 32000)
+        << Words{"-define", "jpeg:size=4000x4000", "-resize", "595x595!"};
+    QTest::newRow("to be made larger") << a4 << QSize(20, 10) << Words{};
+    QTest::newRow("turned before it is resized")
+        << Words{"-rotate", "90", "-resize", "595x842"} << QSize(2480, 3508) << Words{};
+    QTest::newRow("another way to give the size")
+        << Words{"-resize", "50%"} << QSize(2480, 3508) << Words{};
+    QTest::newRow("no readable header") << a4 << QSize(0, 0) << Words{};
+}
+
+void ToolRules::jpegDecodersShrink()
+{
+    QFETCH(Words, options);
+    QFETCH(QSize, size);
+    const PixelSize pixels = {static_cast<uint>(size.width()), static_cast<uint>(size.height())};
+    QTEST(shrinkingOptions(options, pixels).value_or(Words{}), "shrinking");
+}
+
+void ToolRules::messagesTellOfDamage_data()
+{
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<bool>("damage");
+    const auto row = [](const char *message, bool damage) {
+        QTest::newRow(message) << QByteArray(message) << damage;
+    };
+    row("convert: Premature end of JPEG file `a' @ warning/jpeg.c/JPEGWarningHandler/389.", true);
+    row("Corrupt JPEG data: premature end of data segment `a' @ warning/jpeg.c/", true);
+    row("Corrupt JPEG data: bad Huffman code `a' @ warning/jpeg.c/", true);
+    row("Read error at scanline 5; got 3 bytes `TIFFFillStrip' @ error/tiff.c/TIFFErrors/603.",
+        true);
+    row("Premature EOF at line 7 of strip 0 `Fax4Decode' @ warning/tiff.c/TIFFWarnings/", true);
+    row("", false);
+    row("Unknown field with tag 40000 `TIFFReadDirectory' @ warning/tiff.c/TIFFWarnings/", false);
+    row("Corrupt JPEG data: 5 extraneous bytes before marker 0xd9 `a' @ warning/jpeg.c/", false);
+    row("iCCP: known incorrect sRGB profile `a' @ warning/png.c/MagickPNGWarningHandler/", false);
+}
+
+void ToolRules::messagesTellOfDamage()
+{
+    QFETCH(QByteArray, message);
+    QTEST(tellOfDamage(message.toStdString()), "damage");
+}
+
+void ToolRules::runsAtOnceFitTheMachine_data()
+{
+    constexpr Size gib = Size(1) << 30;
+    QTest::addColumn<int>("cores");
+    QTest::addColumn<Size>("ram");
+    QTest::addColumn<int>("atOnce");
+    QTest::newRow("one core") << 1 << 64 * gib << 1;
+    QTest::newRow("each core has a run") << 4 << 64 * gib << 4;
+    QTest::newRow("no more than 4 GiB are shared") << 64 << 64 * gib << 5;
+    QTest::newRow("a small machine") << 8 << 4 * gib << 2;
+    QTest::newRow("a very small machine") << 8 << gib / 2 << 1;
+}
+
+void ToolRules::runsAtOnceFitTheMachine()
+{
+    QFETCH(int, cores);
+    QFETCH(Size, ram);
+    QTEST(int(mostAtOnce(static_cast<size_t>(cores), ram)), "atOnce");
 }
 
 void ToolRules::limitsFollowTheMachine_data()
 {
     constexpr Size gib = Size(1) << 30;
-    QTest::addColumn<int>("inputs");
+    QTest::addColumn<int>("atOnce");
+    QTest::addColumn<int>("pages");
     QTest::addColumn<Size>("ram");
     QTest::addColumn<Size>("memory");
     QTest::addColumn<int>("seconds");
-    QTest::newRow("a small machine gives two fifths") << 1 << 5 * gib << 2 * gib << 45;
-    QTest::newRow("a large machine stays below 4 GiB") << 1 << 64 * gib << 13 * gib / 4 << 45;
-    QTest::newRow("every further image has its own time")
-        << 200 << 5 * gib << 2 * gib << 45 + 199 * 30;
+    QTest::newRow("a small machine gives two fifths") << 1 << 1 << 5 * gib << 2 * gib << 100;
+    QTest::newRow("a large machine stays below 4 GiB") << 1 << 1 << 64 * gib << 13 * gib / 4 << 100;
+    QTest::newRow("several runs share") << 2 << 1 << 64 * gib << 21 * gib / 16 << 100;
+    QTest::newRow("many leave half to the decoders") << 5 << 1 << 64 * gib << 31 * gib / 80 << 100;
+    QTest::newRow("every further page has its own time")
+        << 1 << 200 << 5 * gib << 2 * gib << 100 + 199 * 30;
 }
 
 void ToolRules::limitsFollowTheMachine()
 {
-    QFETCH(int, inputs);
+    QFETCH(int, atOnce);
+    QFETCH(int, pages);
     QFETCH(Size, ram);
     QFETCH(Size, memory);
     QFETCH(int, seconds);
-    const ConvertLimits limits = limitsFor(static_cast<size_t>(inputs), 1 << 20, ram, 400);
-    QCOMPARE(limits.memory, memory);
+    const auto runs = static_cast<size_t>(atOnce);
+    const ConvertLimits limits =
+        limitsFor({runs, static_cast<size_t>(pages), 1 << 20}, ram, 400 * runs);
+    QCOMPARE(limits.memory >> 20, memory >> 20);
     QCOMPARE(limits.disk, Size(300));
+    QCOMPARE(limits.threads, atOnce == 1 ? 0 : 1);
     QCOMPARE(limits.time, std::chrono::seconds(seconds));
     const std::vector<ResourceLimit> kernel = kernelLimits(limits);
     QCOMPARE(kernel.front().resource, RLIMIT_DATA);
-    QVERIFY(kernel.front().value < Size(4) << 30);
+    QVERIFY(kernel.front().value * runs < Size(4) << 30);
 }
 
 void ToolRules::pdftkTailHidesPasswords_data()

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
 
 #include <unistd.h>
@@ -30,10 +31,32 @@ const Option *optionNamed(const std::string &word)
     return option == knownOptions.end() ? nullptr : option;
 }
 
-bool isAlphanumeric(char character)
+// Extensions of formats that the policy lets ImageMagick read (tools/policy/rights.xml).
+constexpr std::array<std::string_view, 44> knownExtensions = {
+    "avif", "bmp", "cur", "dcx", "dib", "gif",  "heic", "heif", "icb",  "ico", "j2c",
+    "j2k",  "jng", "jp2", "jpc", "jpe", "jpeg", "jpg",  "jpm",  "jpt",  "jxl", "mng",
+    "pam",  "pbm", "pcx", "pfm", "pgm", "png",  "pnm",  "ppm",  "psb",  "psd", "qoi",
+    "ras",  "sgi", "sun", "tga", "tif", "tiff", "vda",  "vst",  "webp", "xbm", "xpm",
+};
+
+std::string lowerCase(std::string word)
 {
-    return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
-           (character >= 'a' && character <= 'z');
+    for (char &character : word) {
+        if (character >= 'A' && character <= 'Z')
+            character = static_cast<char>(character - 'A' + 'a');
+    }
+    return word;
+}
+
+// The last value given with `option`, or nothing.
+std::optional<std::string> valueOf(const std::vector<std::string> &options, std::string_view option)
+{
+    std::optional<std::string> value;
+    for (size_t i = 0; i < options.size(); i += 1 + optionNamed(options[i])->values) {
+        if (options[i] == option)
+            value = options[i + 1];
+    }
+    return value;
 }
 
 // A word with a leading dash is an option at a place where the application puts none, or the
@@ -63,20 +86,34 @@ std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &argu
         {arguments.begin(), firstInput}, {firstInput, arguments.end() - 1}, arguments.back()};
 }
 
+bool changesPixels(const std::vector<std::string> &options)
+{
+    for (size_t i = 0; i < options.size(); i += 1 + optionNamed(options[i])->values) {
+        const bool turnsNothing = options[i] == "-rotate" && options[i + 1] == "0";
+        if (options[i] != "-compress" && !turnsNothing)
+            return true;
+    }
+    return false;
+}
+
+Compression askedCompression(const std::vector<std::string> &options)
+{
+    static const std::map<std::string, Compression> words = {
+        {"jpeg", Compression::Jpeg}, {"zip", Compression::Zip}, {"group4", Compression::Group4}};
+    const std::optional<std::string> value = valueOf(options, "-compress");
+    if (!value)
+        return Compression::Unset;
+    const auto word = words.find(lowerCase(*value));
+    return word == words.end() ? Compression::Other : word->second;
+}
+
 std::string inputName(size_t number, const std::string &path)
 {
-    constexpr size_t longestExtension = 8;
     const std::string name = "input-" + std::to_string(number);
     const std::string file = fileNameOf(path);
     const size_t dot = file.rfind('.');
     const std::string extension = dot == std::string::npos ? "" : file.substr(dot + 1);
-    const bool plain = !extension.empty() && extension.size() <= longestExtension &&
-                       std::all_of(extension.begin(), extension.end(), isAlphanumeric);
-    return plain && extension != "pdf" ? name + "." + extension : name;
-}
-
-std::string outputWord(std::string name)
-{
-    replaceAll(name, "%", "%%");
-    return "./" + name;
+    const bool known =
+        std::ranges::find(knownExtensions, lowerCase(extension)) != knownExtensions.end();
+    return known ? name + "." + extension : name;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "copyablepage.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,9 +17,12 @@ struct ConvertCall
 /// The call that `arguments` make, or nothing when they are of another shape.
 std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &arguments);
 
-/// The plain name for the `number`-th input in the private folder. It keeps the extension, from
-/// which ImageMagick tells the formats that have no signature; never ".pdf", which is the result's.
-std::string inputName(size_t number, const std::string &path);
+/// Whether `options` make other pixels of an image than those that it has.
+bool changesPixels(const std::vector<std::string> &options);
 
-/// `name` as ImageMagick has to be given it to write a file of exactly that name.
-std::string outputWord(std::string name);
+Compression askedCompression(const std::vector<std::string> &options);
+
+/// The plain name for the `number`-th input in the private folder. It keeps the extension of a
+/// format that is let in, as ImageMagick knows some of them by nothing else; any other could name
+/// a format that is not.
+std::string inputName(size_t number, const std::string &path);

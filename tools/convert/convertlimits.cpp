@@ -1,10 +1,12 @@
 #include "convertlimits.h"
 
+#include "privatefolder.h"
+
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 
 #include <linux/magic.h>
+#include <sched.h>
 #include <sys/statfs.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -15,15 +17,25 @@ constexpr unsigned long long mebibyte = 1024ULL * 1024;
 constexpr unsigned long long gibibyte = 1024 * mebibyte;
 
 // Two fifths of a 4 GiB machine leave room for the window, the desktop and the PDF being written;
-// on larger ones pixels go to disk as late as the bound of 4 GiB for the whole run lets them.
+// on larger ones pixels go to disk as late as the bound of 4 GiB for the whole call lets them.
 constexpr unsigned long long mostPixelMemory = 13 * gibibyte / 4;
-constexpr unsigned long long memoryBesidePixels = 5 * gibibyte / 8;
+constexpr unsigned long long mostBesidePixels = 5 * gibibyte / 8;
 
-constexpr std::chrono::seconds timeForFirst{45};
+// Less for each of several runs, and pages of usual scans and photos would go to disk: 24
+// megapixels take 183 MiB, twice that while they are turned.
+constexpr unsigned long long leastForOneOfSeveral = 768 * mebibyte;
+
+// A4 pages in colour at 300 dots per inch take five seconds at worst (-monochrome).
+constexpr std::chrono::seconds timeForFirst{100};
 constexpr std::chrono::seconds timeForEachFurther{30};
 
-// Below this size of input files a second thread costs more to start than it saves.
+// Below this size of an input file a second thread costs more to start than it saves.
 constexpr unsigned long long smallInput = 64ULL * 1024;
+
+unsigned long long pixelMemory(unsigned long long ram)
+{
+    return std::min(ram / 5 * 2, mostPixelMemory);
+}
 
 bool isInMemory(const std::string &folder)
 {
@@ -34,28 +46,29 @@ bool isInMemory(const std::string &folder)
 
 } // namespace
 
-ConvertLimits limitsFor(size_t inputs, unsigned long long bytes, unsigned long long ram,
-                        unsigned long long freeDisk)
+ConvertLimits limitsFor(const Workload &work, unsigned long long ram, unsigned long long freeDisk)
 {
-    const auto further = static_cast<int>(std::max<size_t>(inputs, 1) - 1);
-    return {std::min(ram / 5 * 2, mostPixelMemory), freeDisk / 4 * 3,
-            timeForFirst + further * timeForEachFurther, bytes < smallInput ? 1 : 0};
+    const unsigned long long share = (pixelMemory(ram) + mostBesidePixels) / work.atOnce;
+    const unsigned long long beside = std::min(mostBesidePixels, share / 2);
+    const auto further = static_cast<int>(work.pages - std::min<size_t>(work.pages, 1));
+    // Two runs with two threads each are slower than one after the other.
+    const bool oneThread = work.atOnce > 1 || work.bytes < smallInput;
+    return {share - beside, beside, freeDisk / 4 * 3 / work.atOnce,
+            timeForFirst + further * timeForEachFurther, oneThread ? 1 : 0};
 }
 
-std::string pixelFolder()
+size_t mostAtOnce(size_t cores, unsigned long long ram)
 {
-    const char *wished = getenv("TMPDIR");
-    const std::array<std::string, 3> folders = {wished ? wished : "", "/var/tmp", "/tmp"};
-    const auto isUsable = [](const std::string &folder) {
-        return folder.starts_with('/') && access(folder.c_str(), W_OK | X_OK) == 0;
-    };
-    const auto isOnDisk = [&isUsable](const std::string &folder) {
-        return isUsable(folder) && !isInMemory(folder);
-    };
-    const auto *folder = std::find_if(folders.begin(), folders.end(), isOnDisk);
-    if (folder == folders.end())
-        folder = std::find_if(folders.begin(), folders.end(), isUsable);
-    return folder == folders.end() ? "/tmp" : *folder;
+    const unsigned long long fitting = (pixelMemory(ram) + mostBesidePixels) / leastForOneOfSeveral;
+    return std::clamp<size_t>(fitting, 1, std::max<size_t>(cores, 1));
+}
+
+std::vector<std::string> pixelFolders()
+{
+    std::vector<std::string> folders = temporaryFolders();
+    std::ranges::stable_partition(folders,
+                                  [](const std::string &folder) { return !isInMemory(folder); });
+    return folders;
 }
 
 unsigned long long freeBytesIn(const std::string &folder)
@@ -68,6 +81,13 @@ unsigned long long machineMemory()
 {
     return static_cast<unsigned long long>(sysconf(_SC_PHYS_PAGES)) *
            static_cast<unsigned long long>(sysconf(_SC_PAGESIZE));
+}
+
+size_t machineCores()
+{
+    cpu_set_t cores;
+    return sched_getaffinity(0, sizeof cores, &cores) == 0 ? static_cast<size_t>(CPU_COUNT(&cores))
+                                                           : 1;
 }
 
 std::vector<std::string> limitVariables(const ConvertLimits &limits)
@@ -87,5 +107,5 @@ std::vector<std::string> limitVariables(const ConvertLimits &limits)
 
 std::vector<ResourceLimit> kernelLimits(const ConvertLimits &limits)
 {
-    return {{RLIMIT_DATA, limits.memory + memoryBesidePixels}, {RLIMIT_CORE, 0}};
+    return {{RLIMIT_DATA, limits.memory + limits.memoryBesidePixels}, {RLIMIT_CORE, 0}};
 }

@@ -26,15 +26,19 @@ std::optional<std::string> wordOf(const std::string &line)
 
 } // namespace
 
-std::string resourcesFolder()
+std::string programsFolder()
 {
     std::string path(PATH_MAX, '\0');
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
     if (length <= 0)
         throw systemError("cannot read", "/proc/self/exe");
     path.resize(static_cast<size_t>(length));
-    const std::string programs = folderOf(path);
-    return folderOf(programs) + "/Resources";
+    return folderOf(path);
+}
+
+std::string resourcesFolder()
+{
+    return folderOf(programsFolder()) + "/Resources";
 }
 
 std::string policyFolder()

@@ -7,6 +7,9 @@
 /// link to it, or a moved or copied bundle, finds the folder that belongs to the program.
 std::string resourcesFolder();
 
+/// Where this program itself lies, likewise.
+std::string programsFolder();
+
 /// Where the image policy lies, as limits/policy.xml and rights/ImageMagick/policy.xml. Throws
 /// ToolError when a part of it is missing or ImageMagick could not find it: without it everything
 /// would be allowed.

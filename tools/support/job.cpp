@@ -82,7 +82,7 @@ std::string Job::linkElsewhere(const std::string &origin, const std::string &nam
 
 void Job::copy(const std::string &origin, const std::string &name) const
 {
-    const FileDescriptor from(open(origin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor from(::open(origin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     const FileDescriptor to(
         openat(m_folder.descriptor(), name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     std::array<char, 65536> buffer{};
@@ -105,29 +105,42 @@ std::string Job::addFile(const std::string &name, const std::string &content)
     return name;
 }
 
-Outcome Job::run(ChildSpec spec, const std::function<void(int file)> &polish)
+Outcome Job::run(ChildSpec spec)
 {
     spec.folder = m_folder.descriptor();
     const ChildResult result = runChild(spec);
-    if (result.succeeded())
-        return deliver(polish);
+    return result.succeeded() ? deliver() : outcomeOf(result);
+}
+
+Outcome Job::outcomeOf(const ChildResult &result) const
+{
     Outcome outcome = {result.exitStatus(), replaced(result.output, m_originalNames),
                        replaced(result.errors, m_originalNames)};
     if (result.timedOut)
-        outcome.errors += "gave up after " + std::to_string(spec.deadline.count()) + " seconds\n";
+        outcome.errors += "gave up: it took too long\n";
     else if (WIFSIGNALED(result.waitStatus))
         outcome.errors += "ended by signal " + std::to_string(WTERMSIG(result.waitStatus)) + "\n";
     return outcome;
 }
 
-Outcome Job::deliver(const std::function<void(int file)> &polish) const
+FileDescriptor Job::open(const std::string &name) const
 {
-    const FileDescriptor file(openat(m_folder.descriptor(), m_resultName.c_str(),
-                                     O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    return FileDescriptor(
+        openat(m_folder.descriptor(), name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+}
+
+Outcome Job::check(const std::string &name) const
+{
+    return isWholePdf(open(name).get())
+               ? Outcome{}
+               : Outcome{1, "", "the tool reported success but left no whole PDF\n"};
+}
+
+Outcome Job::deliver() const
+{
+    const FileDescriptor file = open(m_resultName);
     if (!isWholePdf(file.get()))
-        return {1, "", "the tool reported success but left no whole PDF\n"};
-    if (polish)
-        polish(file.get());
+        return check(m_resultName);
     m_target.replaceBy(m_folder.descriptor(), m_resultName, file.get());
     return {};
 }

@@ -6,7 +6,6 @@
 #include "target.h"
 #include "words.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,15 +31,28 @@ public:
     /// The target's own file name, made safe: the one the tool has to write.
     const std::string &resultName() const { return m_resultName; }
 
-    /// Runs `spec` in the private folder. `polish`, if given, may change the whole PDF that the
-    /// tool has made, before it is moved. Throws ToolError when the tool cannot be started.
-    Outcome run(ChildSpec spec, const std::function<void(int file)> &polish = {});
+    /// Where the tool has to work.
+    const PrivateFolder &folder() const { return m_folder; }
+
+    /// Runs `spec` in the private folder and delivers what it has made. Throws ToolError when the
+    /// tool cannot be started.
+    Outcome run(ChildSpec spec);
+
+    /// How a child has ended, in words that name the user's files.
+    Outcome outcomeOf(const ChildResult &result) const;
+
+    /// What is wrong with the PDF `name` that a tool which reported success should have left in the
+    /// folder: status 0 for nothing.
+    Outcome check(const std::string &name) const;
+
+    /// Moves the result over the target; a failure when it is no whole PDF.
+    Outcome deliver() const;
 
 private:
     std::string makeKnown(const std::string &origin, const std::string &name);
     std::string linkElsewhere(const std::string &origin, const std::string &name);
     void copy(const std::string &origin, const std::string &name) const;
-    Outcome deliver(const std::function<void(int file)> &polish) const;
+    FileDescriptor open(const std::string &name) const;
 
     Target m_target;
     std::string m_resultName;

@@ -1,0 +1,110 @@
+#include "document.h"
+
+#include "copiedpages.h"
+#include "diagnosis.h"
+
+#include <qpdf/ClosedFileInputSource.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+#include <qpdf/QUtil.hh>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+
+#include <unistd.h>
+
+namespace {
+
+class Document
+{
+public:
+    Document()
+        : m_pages((m_pdf.emptyPDF(), m_pdf))
+        , m_copied(m_pdf)
+    {
+    }
+
+    void add(const DocumentPart &part);
+    void describe(const std::string &title);
+    void write(FILE *file);
+
+private:
+    void addPdf(const DocumentPart &part);
+
+    QPDF m_pdf;
+    // The document reads from them while it is written.
+    std::vector<std::unique_ptr<QPDF>> m_sources;
+    QPDFPageDocumentHelper m_pages;
+    CopiedPages m_copied;
+};
+
+void Document::add(const DocumentPart &part)
+{
+    if (part.copied.empty()) {
+        addPdf(part);
+        return;
+    }
+    for (const QPDFObjectHandle &page : m_copied.make(part))
+        m_pages.addPage(page, false);
+}
+
+void Document::addPdf(const DocumentPart &part)
+{
+    auto &source = m_sources.emplace_back(std::make_unique<QPDF>());
+    source->setSuppressWarnings(true);
+    source->setAttemptRecovery(false);
+    source->processInputSource(std::make_shared<ClosedFileInputSource>(part.path.c_str()));
+    std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(*source).getAllPages();
+    if (pages.size() < part.leastPages || source->anyWarnings())
+        throw ToolError("a page is missing");
+    for (QPDFPageObjectHelper &page : pages) {
+        // Viewers make their own, and a copied page has none.
+        page.getObjectHandle().removeKey("/Thumb");
+        m_pages.addPage(page, false);
+    }
+}
+
+void Document::describe(const std::string &title)
+{
+    const std::string now = QUtil::qpdf_time_to_pdf_time(QUtil::get_current_qpdf_time());
+    QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
+    if (!title.empty())
+        information.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(title));
+    information.replaceKey("/Producer", QPDFObjectHandle::newUnicodeString(TESSARO_PRODUCER));
+    information.replaceKey("/CreationDate", QPDFObjectHandle::newString(now));
+    information.replaceKey("/ModDate", QPDFObjectHandle::newString(now));
+    m_pdf.getTrailer().replaceKey("/Info", m_pdf.makeIndirectObject(information));
+}
+
+void Document::write(FILE *file)
+{
+    QPDFWriter writer(m_pdf, "the PDF", file, false);
+    writer.setStreamDataMode(qpdf_s_preserve);
+    // JPEG 2000 came with this version, the last of the other compressions with 1.3.
+    writer.setMinimumPDFVersion("1.5");
+    writer.write();
+    if (fflush(file) != 0)
+        throw systemError("cannot write", "the PDF");
+}
+
+} // namespace
+
+void writeDocument(int file, const std::vector<DocumentPart> &parts, const std::string &title)
+{
+    const std::unique_ptr<FILE, int (*)(FILE *)> stream(fdopen(dup(file), "wb"), fclose);
+    if (!stream)
+        throw systemError("cannot write", "the PDF");
+    try {
+        Document document;
+        for (const DocumentPart &part : parts)
+            document.add(part);
+        document.describe(title);
+        document.write(stream.get());
+    } catch (const ToolError &) {
+        throw;
+    } catch (const std::exception &error) {
+        throw ToolError(std::string("cannot join the pages: ") + error.what());
+    }
+}

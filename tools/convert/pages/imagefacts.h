@@ -1,0 +1,12 @@
+#pragma once
+
+#include "jpegshrink.h"
+
+#include <cstddef>
+
+/// The number of images in a TIFF or GIF file, at least 1. Throws ToolError when a TIFF
+/// file is damaged.
+size_t imagesIn(int file);
+
+/// Pixels of a JPEG file; zero when it has no readable header.
+PixelSize jpegSize(int file);
