@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "activation.h"
 #include "bundlepaths.h"
 #include "look.h"
 #include "previewpicture.h"
@@ -31,6 +32,7 @@ void prepare(QApplication &application)
     // Texts need no codec: every literal is ASCII, and Qt reads literals as UTF-8.
     limitDecodedPictures();
     applyLook(application);
+    activateWindows(application);
     if (const QString language = wantedLanguage(); !language.isEmpty())
         speak(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));

@@ -1,6 +1,7 @@
 // The program as it ships, worked from outside through the X server: its own start-up, folders and
 // plug-ins count here.
 
+#include "hands.h"
 #include "pdffacts.h"
 
 #include <QDir>
@@ -10,40 +11,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int stepTimeout = 30000; // ms
-
-/// Runs a command and returns what it prints.
-QString run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished(stepTimeout);
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-}
-
-QString xdotool(const QStringList &arguments)
-{
-    return run(u"xdotool"_s, arguments);
-}
-
-bool waitForWindow(const QString &title)
-{
-    return QTest::qWaitFor(
-        [&title] {
-            return !xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, title}).isEmpty();
-        },
-        stepTimeout);
-}
-
-void clickAt(int x, int y)
-{
-    xdotool({u"mousemove"_s, QString::number(x), QString::number(y), u"click"_s, u"1"_s});
-}
-
-} // namespace
 
 class ProgramE2eTest : public QObject
 {
@@ -67,21 +34,21 @@ void ProgramE2eTest::shippedProgramConvertsAnImage()
     program.setWorkingDirectory(u"/"_s);
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.start(place + u"/Tessaro.app/Contents/MacOS/tessaro"_s, QStringList());
-    QVERIFY(waitForWindow(u"Tessaro Image to PDF Converter"_s));
+    QVERIFY(waitForKeyboard(u"Tessaro Image to PDF Converter"_s));
     QCOMPARE(QFile::symLinkTarget(u"/proc/%1/cwd"_s.arg(program.processId())), place);
 
     clickAt(70, 282); // Open
-    QVERIFY(waitForWindow(u"Choose files to convert"_s));
-    xdotool({u"type"_s, u"--delay"_s, u"5"_s, QStringLiteral(SAMPLES "/market.pcx")});
-    xdotool({u"key"_s, u"Return"_s});
+    QVERIFY(waitForKeyboard(u"Choose files to convert"_s));
+    type(QStringLiteral(SAMPLES "/market.pcx"));
+    press(u"Return"_s);
     const QString settings = place + u"/setting.ini"_s;
     QVERIFY(QTest::qWaitFor([&] { return QFile::exists(settings); }, stepTimeout));
 
     clickAt(200, 332); // output folder
-    xdotool({u"type"_s, u"--delay"_s, u"5"_s, output});
+    type(output);
     clickAt(280, 420); // description page
     clickAt(330, 121); // title
-    xdotool({u"type"_s, u"--delay"_s, u"5"_s, u"Market day"_s});
+    type(u"Market day"_s);
     clickAt(70, 420);  // back to the files
     clickAt(470, 345); // convert
     const QString pdf = output + u"/market.pdf"_s;
