@@ -13,7 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QStackedWidget>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -45,13 +45,15 @@ void fillIn(const Process &window)
 
 QImage sheetOf(Process &window)
 {
-    auto *pages = find<QStackedWidget>(window, "stackedWidget_dialog");
     QImage sheet(window.size() * 2, QImage::Format_RGB32);
     QPainter painter(&sheet);
-    for (int page = 0; page < pages->count(); ++page) {
-        pages->setCurrentIndex(page);
+    int page = 0;
+    for (const char *button : {"pushButton_Inout", "pushButton_ImageSetting",
+                               "pushButton_PDFSetting", "pushButton_Security"}) {
+        find<QPushButton>(window, button)->click();
         const QPoint place(page % 2 * window.width(), page / 2 * window.height());
         painter.drawPixmap(place, window.grab());
+        ++page;
     }
     return sheet;
 }
