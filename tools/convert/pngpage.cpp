@@ -1,5 +1,10 @@
 #include "pngpage.h"
 
+#include "diagnosis.h"
+#include "metadata.h"
+#include "pagesize.h"
+#include "pngdata.h"
+
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -7,11 +12,6 @@
 #include <string_view>
 
 #include <zlib.h>
-
-#include "diagnosis.h"
-#include "metadata.h"
-#include "pagesize.h"
-#include "pngdata.h"
 
 namespace {
 
@@ -80,7 +80,6 @@ private:
     FileBytes &m_file;
     CopyablePage m_page;
     Density m_density;
-    std::string m_exif;
     std::set<std::string> m_seen;
     std::string m_last;
     std::unique_ptr<PngData> m_data;
@@ -274,9 +273,11 @@ void PngWalk::profile(const std::string &content)
     m_doubtful |= !isProfileFor(m_page.iccProfile, m_page.components);
 }
 
+// ImageMagick 7.1.1 takes a density from it and 6.9.11 does not.
 void PngWalk::exif(const std::string &content)
 {
-    m_exif = content;
+    Density stated = {-1, -1};
+    m_doubtful |= !takeExif(content, stated) || stated.x >= 0;
 }
 
 void PngWalk::text(const std::string &content)
@@ -294,7 +295,6 @@ void PngWalk::finish()
     // ImageMagick 6.9.11 writes a profile without components for an image with a palette.
     m_doubtful |= hasProfile && (m_colourType == indexed || m_hasStandardColours);
     m_doubtful |= m_colourType == indexed && m_page.palette.empty();
-    m_doubtful |= !m_exif.empty() && !takeExif(m_exif, m_density);
     m_page.filter = "FlateDecode";
     m_page.decodeParms = {{"/Predictor", "15"},
                           {"/Colors", std::to_string(m_page.components)},

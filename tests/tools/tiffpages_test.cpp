@@ -1,0 +1,187 @@
+#include "imagefiles.h"
+#include "pagereading.h"
+
+#include <QTest>
+
+using namespace imagefiles;
+
+/// Which TIFF files go into a PDF as they stand, with which bytes, and which are refused.
+class TiffPages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void onlyStripIsCopied();
+    void severalStripsBecomeOne();
+    void isCopiedOrLeftToImageMagick_data();
+    void isCopiedOrLeftToImageMagick();
+    void incompleteFileIsRefused_data();
+    void incompleteFileIsRefused();
+    void whatIsAskedForDecides_data();
+    void whatIsAskedForDecides();
+};
+
+namespace {
+
+TiffForm form()
+{
+    return {};
+}
+
+template <typename Member, typename Value>
+QByteArray with(Member member, Value value)
+{
+    TiffForm changed;
+    changed.*member = value;
+    return tiff(changed);
+}
+
+// The place of a field of the first directory of a little-endian file.
+qsizetype fieldAt(const QByteArray &file, int tag)
+{
+    const auto number = [&file](qsizetype at) {
+        return quint8(file[at]) | quint8(file[at + 1]) << 8;
+    };
+    qsizetype at = number(4) + (number(6) << 16);
+    for (int field = number(at); field > 0; --field)
+        if (number(at + 2 + 12 * (field - 1)) == tag)
+            return at + 2 + 12 * (field - 1);
+    qFatal("no such field");
+    return 0;
+}
+
+// The file with a byte of a field changed: 0 of its tag, 2 of its type, 4 of its count, 8 of its
+// value.
+QByteArray withFieldByte(const QByteArray &file, int tag, int place, char value)
+{
+    QByteArray changed = file;
+    changed[fieldAt(file, tag) + place] = value;
+    return changed;
+}
+
+// The file whose last directory says that another one is its successor.
+QByteArray withNext(const QByteArray &file, const QByteArray &offset)
+{
+    const qsizetype at = quint8(file[4]) + (quint8(file[5]) << 8);
+    return QByteArray(file).replace(at + 2 + 12 * quint8(file[at]), 4, offset);
+}
+
+} // namespace
+
+void TiffPages::onlyStripIsCopied()
+{
+    const QByteArray file = tiff(form());
+
+    const Reading reading = readImage(file);
+
+    QCOMPARE(reading.pages.size(), size_t(1));
+    const CopyablePage &page = reading.pages.front();
+    QVERIFY(page.data.empty());
+    QVERIFY(!page.inverted);
+    QVERIFY(!reading.streams.front().isEmpty());
+    const decltype(page.decodeParms) parms = {
+        {"/K", "-1"}, {"/Columns", "40"}, {"/Rows", "30"}, {"/EndOfBlock", "false"}};
+    QVERIFY(page.decodeParms == parms);
+    QVERIFY(readImage(with(&TiffForm::zeroIsBlack, true)).pages.front().inverted);
+}
+
+void TiffPages::severalStripsBecomeOne()
+{
+    const QByteArrayList whole = readImage(tiff(form())).streams;
+
+    for (const int rows : {1, 7, 29})
+        QCOMPARE(readImage(with(&TiffForm::rowsPerStrip, rows)).streams, whole);
+    QCOMPARE(readImage(with(&TiffForm::fillOrder, 2)).streams, whole);
+}
+
+void TiffPages::isCopiedOrLeftToImageMagick_data()
+{
+    addReadingRows();
+    const auto row = [](const char *name, const QByteArray &file, bool isCopied) {
+        QTest::newRow(name) << file << isCopied;
+    };
+    const QByteArray plain = tiff(form());
+    row("plain", plain, true);
+    row("big-endian", with(&TiffForm::bigEndian, true), true);
+    row("BigTIFF", with(&TiffForm::big, true), true);
+    row("200 pages", with(&TiffForm::pages, 200), true);
+    row("Group 3", with(&TiffForm::compression, 3), false);
+    row("LZW", with(&TiffForm::compression, 5), false);
+    row("a name, which ImageMagick prints", with(&TiffForm::pageName, "Page"), false);
+    row("turned", with(&TiffForm::orientation, 6), false);
+    row("two bits", withFieldByte(plain, 258, 8, 2), false);
+    row("two samples", withFieldByte(plain, 277, 8, 2), false);
+    row("colours of a palette", withFieldByte(plain, 262, 8, 3), false);
+    row("an unknown order of bits", withFieldByte(plain, 266, 8, 3), false);
+    row("an unknown unit", withFieldByte(with(&TiffForm::unit, 3), 296, 8, 4), false);
+    row("no rows in a strip", withFieldByte(plain, 278, 8, 0), false);
+    row("more rows in a strip than there are", withFieldByte(plain, 278, 8, 100), true);
+    row("no pixels", withFieldByte(plain, 256, 8, 0), false);
+    row("32,000 pixels wide", withFieldByte(withFieldByte(plain, 256, 8, 0), 256, 9, 0x7D), true);
+    row("32,001 pixels wide", withFieldByte(withFieldByte(plain, 256, 8, 1), 256, 9, 0x7D), false);
+    row("fields that are not in order", withFieldByte(plain, 258, 0, 0), false);
+    row("a field that is not known", withFieldByte(plain, 284, 1, 2), false);
+    row("a width that is a text", withFieldByte(plain, 256, 2, 2), false);
+    row("strip of no bytes", withFieldByte(plain, 279, 8, 0), false);
+    row("a page that follows itself", withNext(plain, plain.mid(4, 4)), false);
+    TiffForm mixed;
+    mixed.pages = 2;
+    row("a second page that is not copied", withFieldByte(tiff(mixed), 259, 8, 5), false);
+}
+
+void TiffPages::isCopiedOrLeftToImageMagick()
+{
+    compareReading();
+}
+
+void TiffPages::incompleteFileIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const QByteArray plain = tiff(form());
+    const qsizetype directory = quint8(plain[4]) + (quint8(plain[5]) << 8);
+    QTest::newRow("everything but a header") << plain.left(8);
+    QTest::newRow("half a header") << plain.left(6);
+    QTest::newRow("the directory") << plain.left(directory);
+    QTest::newRow("half of the directory") << plain.left(directory + 30);
+    QTest::newRow("a page") << QByteArray("II*\0\0\0\0\0", 8);
+    QTest::newRow("the end of the strip") << withFieldByte(plain, 279, 9, 0x7F);
+    QTest::newRow("the strip") << withFieldByte(plain, 273, 10, 1);
+    QTest::newRow("the counts of the strips")
+        << withFieldByte(withFieldByte(plain, 279, 6, 0x7F), 279, 4, 9);
+    QTest::newRow("the next directory") << withNext(plain, QByteArray("\0\0\1\0", 4));
+    QTest::newRow("the strip of one that is not copied")
+        << withFieldByte(with(&TiffForm::compression, 5), 273, 10, 1);
+    TiffForm big;
+    big.big = true;
+    QTest::newRow("end of a BigTIFF") << tiff(big).chopped(20);
+}
+
+void TiffPages::incompleteFileIsRefused()
+{
+    compareRefusal();
+}
+
+void TiffPages::whatIsAskedForDecides_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<int>("own");
+    QTest::newRow("JPEG") << jpeg({}, jpegBody(true)) << int(Compression::Jpeg);
+    QTest::newRow("PNG") << png({}) << int(Compression::Zip);
+    QTest::newRow("TIFF") << tiff(form()) << int(Compression::Group4);
+}
+
+void TiffPages::whatIsAskedForDecides()
+{
+    QFETCH(const QByteArray, file);
+    QFETCH(const int, own);
+    for (const Compression asked : {Compression::Unset, Compression::Jpeg, Compression::Zip,
+                                    Compression::Group4, Compression::Other}) {
+        const bool isCopied = asked == Compression::Unset || int(asked) == own;
+        QCOMPARE(!readImage(file, asked).pages.empty(), isCopied);
+    }
+    QVERIFY(readImage("GIF89a").pages.empty());
+    QVERIFY(readImage("").pages.empty());
+}
+
+QTEST_GUILESS_MAIN(TiffPages)
+#include "tiffpages_test.moc"
