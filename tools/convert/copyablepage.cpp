@@ -1,13 +1,13 @@
 #include "copyablepage.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 #include "filebytes.h"
 #include "jpegpage.h"
 #include "pngpage.h"
 #include "tiffpages.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "filebytes.h"
 
+#include "diagnosis.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "diagnosis.h"
 
 namespace {
 

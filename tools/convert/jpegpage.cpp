@@ -1,11 +1,11 @@
 #include "jpegpage.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "diagnosis.h"
 #include "metadata.h"
 #include "pagesize.h"
+
+#include <algorithm>
+#include <string_view>
 
 namespace {
 

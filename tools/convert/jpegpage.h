@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
-
 #include "copyablepage.h"
 #include "filebytes.h"
+
+#include <optional>
 
 /// The page of the JPEG file (ITU-T T.81) that `file` is at the start of, or nothing when
 /// ImageMagick has to convert it. Reads to the end of the image and throws ToolError when it is

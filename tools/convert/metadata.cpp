@@ -1,12 +1,12 @@
 #include "metadata.h"
 
+#include "filebytes.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
 #include <vector>
-
-#include "filebytes.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "pagesize.h"
+
+#include <string>
 
 // What ImageMagick 6.9.11 and 7.1.1 take from a picture's metadata blocks for its page. Each
 // returns false where the two versions differ, or where the block is not of the form that writers

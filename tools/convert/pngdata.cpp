@@ -1,9 +1,9 @@
 #include "pngdata.h"
 
+#include "diagnosis.h"
+
 #include <algorithm>
 #include <new>
-
-#include "diagnosis.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "tiffdirectory.h"
 
+#include "diagnosis.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <set>
-
-#include "diagnosis.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "filebytes.h"
+#include "pagesize.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
-
-#include "filebytes.h"
-#include "pagesize.h"
 
 /// What one directory of a TIFF file (TIFF 6.0, or BigTIFF) says of its page.
 struct TiffDirectory

@@ -1,12 +1,12 @@
 #include "tiffpages.h"
 
-#include <algorithm>
-#include <array>
-#include <utility>
-
 #include "group4.h"
 #include "pagesize.h"
 #include "tiffdirectory.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
-#include <vector>
-
 #include "copyablepage.h"
 #include "filebytes.h"
+
+#include <optional>
+#include <vector>
 
 /// The pages of the TIFF file `bytes`, which is also the descriptor `file`, or nothing when
 /// ImageMagick has to convert one of them. They are worked out only if `wanted`, as strips may have
