@@ -24,7 +24,7 @@ void check(bool succeeded, const char *what, const fs::path &path)
         throw fs::filesystem_error(what, path, {errno, std::generic_category()});
 }
 
-// As the XDG base directory specification asks for.
+// Mode 0700, as the XDG Base Directory rules ask for.
 void makePrivateFolders(const fs::path &folder)
 {
     if (fs::is_directory(folder))
