@@ -478,7 +478,7 @@ PDF:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Obnovit vše</translation>
+        <translation>Obnovit</translation>
     </message>
 </context>
 </TS>

@@ -478,7 +478,7 @@ til PDF-filen:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Nulstil alle</translation>
+        <translation>Nulstil</translation>
     </message>
 </context>
 </TS>

@@ -478,7 +478,7 @@ der PDF-Datei:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Alles zurücksetzen</translation>
+        <translation>Zurücksetzen</translation>
     </message>
 </context>
 </TS>

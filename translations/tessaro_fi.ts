@@ -478,7 +478,7 @@ ja käyttöoikeudet:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Palauta kaikki</translation>
+        <translation>Palauta</translation>
     </message>
 </context>
 </TS>

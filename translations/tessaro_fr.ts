@@ -478,7 +478,7 @@ du PDF&#xa0;:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Tout réinitialiser</translation>
+        <translation>Rétablir</translation>
     </message>
 </context>
 </TS>

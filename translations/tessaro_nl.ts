@@ -478,7 +478,7 @@ van de pdf:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Alles herstellen</translation>
+        <translation>Herstellen</translation>
     </message>
 </context>
 </TS>

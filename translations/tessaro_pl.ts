@@ -478,7 +478,7 @@ pliku PDF:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Resetuj wszystko</translation>
+        <translation>Resetuj</translation>
     </message>
 </context>
 </TS>

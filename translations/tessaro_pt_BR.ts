@@ -478,7 +478,7 @@ do PDF:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Redefinir tudo</translation>
+        <translation>Redefinir</translation>
     </message>
 </context>
 </TS>

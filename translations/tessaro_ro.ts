@@ -478,7 +478,7 @@ PDF-ului:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Resetează tot</translation>
+        <translation>Resetează</translation>
     </message>
 </context>
 </TS>

@@ -478,7 +478,7 @@ for converted PDF:</source>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Сбросить все</translation>
+        <translation>Сбросить</translation>
     </message>
 </context>
 </TS>

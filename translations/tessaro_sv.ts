@@ -478,7 +478,7 @@ för PDF-filen:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Återställ alla</translation>
+        <translation>Återställ</translation>
     </message>
 </context>
 </TS>

@@ -478,7 +478,7 @@ ve izinleri:</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Tümünü sıfırla</translation>
+        <translation>Sıfırla</translation>
     </message>
 </context>
 </TS>

@@ -478,7 +478,7 @@ for converted PDF:</source>
     </message>
     <message>
         <source>Reset All</source>
-        <translation>Скинути все</translation>
+        <translation>Скинути</translation>
     </message>
 </context>
 </TS>
