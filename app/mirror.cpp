@@ -25,6 +25,14 @@ class PathDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// Folders named in letters that run from right to left would change places without the marks.
+    QString displayText(const QVariant &value, const QLocale & /*locale*/) const override
+    {
+        constexpr QChar leftToRightMark(0x200e);
+        const QChar slash(QLatin1Char('/'));
+        return value.toString().replace(slash, QString(slash) + leftToRightMark);
+    }
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {

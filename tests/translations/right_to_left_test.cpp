@@ -151,12 +151,12 @@ void RightToLeftTest::pathsAndPasswordsRunFromLeftToRight()
 
 void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
 {
-    // Hebrew around the slashes: run from right to left, the folders would change places.
+    // Hebrew around the slashes: the folders would change places, but for the marks.
     const QString path = u"/\u05d0\u05d0/\u05d1\u05d1/\u05d2\u05d2.png"_s;
-    const auto drawn = [&path](WindowFixture &fixture, Qt::Alignment alignment) {
+    const auto drawn = [](WindowFixture &fixture, const QString &text, Qt::Alignment alignment) {
         auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
         table->setRowCount(1);
-        table->setItem(0, 0, new QTableWidgetItem(path));
+        table->setItem(0, 0, new QTableWidgetItem(text));
         QImage image(165, 18, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -170,10 +170,12 @@ void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
         return image;
     };
     WindowFixture english;
-    const QImage atTheRight = drawn(english, Qt::AlignRight);
+    const QImage atTheRight =
+        drawn(english, QString(path).replace(u'/', u"/\u200e"_s), Qt::AlignRight);
     speak(*qApp, u"he"_s);
     WindowFixture hebrew;
-    QCOMPARE(drawn(hebrew, Qt::AlignLeft), atTheRight);
+    QCOMPARE(drawn(hebrew, path, Qt::AlignLeft), atTheRight);
+    QCOMPARE(hebrew.find<QTableWidget>("inputfiletableWidget")->item(0, 0)->text(), path);
 }
 
 QTEST_MAIN(RightToLeftTest)
