@@ -122,6 +122,8 @@ void applyLook(QApplication &application)
 {
     application.setStyle(new Style); // the application owns it
     application.setPalette(lightPalette());
+    // The user's font for every kind of widget: it clears those that a theme has for some.
+    QApplication::setFont(QApplication::font());
     QToolTip::setPalette(lightPalette()); // a theme may have brought one for tips alone
     application.installEventFilter(new ToolTips(&application));
 }

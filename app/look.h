@@ -3,5 +3,5 @@
 class QApplication;
 
 /// Gives `application` the light colours that the window's own pictures and style sheets are made
-/// for, whatever theme the desktop has.
+/// for and one font, the user's, whatever theme the desktop has.
 void applyLook(QApplication &application);

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QStackedWidget>
 #include <QTableWidget>
 #include <QToolTip>
@@ -102,6 +103,8 @@ private slots:
     void everyTipIsDarkOnLight();
     void dialogsAreDarkOnLight();
     void everyColourRoleIsTheWindowsOwn();
+    void styleIsTheWindowsOwn();
+    void everyKindOfWidgetHasTheUsersFont();
     void currentPageButtonHasItsOwnPicture();
     void focusedFlatButtonShowsARing();
 };
@@ -231,6 +234,26 @@ void LookTest::everyColourRoleIsTheWindowsOwn()
     }
 }
 
+void LookTest::styleIsTheWindowsOwn()
+{
+    // What main() found before it prepared the application, and what stands now.
+    QCOMPARE(qApp->property("desktopStyle").toString(), u"windows"_s);
+    auto *style = qobject_cast<QProxyStyle *>(QApplication::style());
+    QVERIFY(style);
+    QCOMPARE(style->baseStyle()->name(), u"fusion"_s);
+}
+
+void LookTest::everyKindOfWidgetHasTheUsersFont()
+{
+    QCOMPARE(qApp->property("desktopButtonFont").value<QFont>().pointSize(), 30);
+    WindowFixture fixture;
+    const auto widgets = fixture.window.findChildren<QWidget *>();
+    QVERIFY(!widgets.isEmpty());
+    for (const QWidget *widget : widgets)
+        QVERIFY2(widget->font().pointSizeF() <= QApplication::font().pointSizeF(),
+                 qPrintable(widget->objectName()));
+}
+
 void LookTest::currentPageButtonHasItsOwnPicture()
 {
     WindowFixture fixture;
@@ -266,6 +289,8 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     application.setProperty("desktopWindow", QApplication::palette().color(QPalette::Window));
+    application.setProperty("desktopStyle", QApplication::style()->name());
+    application.setProperty("desktopButtonFont", QApplication::font("QPushButton"));
     const QStringList plugins = QCoreApplication::libraryPaths();
     prepare(application);
     QCoreApplication::setLibraryPaths(plugins); // the test's bundle has no plug-ins of its own

@@ -1,6 +1,7 @@
-// A desktop theme with dark colours, loaded as any desktop's would be:
-// QT_QPA_PLATFORMTHEME=tessarodark.
+// A desktop theme with dark colours, large letters and a style of its own, loaded as any desktop's
+// would be: QT_QPA_PLATFORMTHEME=tessarodark.
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 #include <qpa/qplatformtheme.h>
@@ -24,8 +25,20 @@ public:
     // For every kind of widget one of its own, as the desktops' themes have for some.
     const QPalette *palette(Palette /*type*/) const override { return &colours; }
 
+    const QFont *font(Font type) const override
+    {
+        return type == SystemFont ? QPlatformTheme::font(type) : &large;
+    }
+
+    QVariant themeHint(ThemeHint hint) const override
+    {
+        return hint == StyleNames ? QStringList(QStringLiteral("Windows"))
+                                  : QPlatformTheme::themeHint(hint);
+    }
+
 private:
     QPalette colours = darkPalette();
+    QFont large{QStringLiteral("DejaVu Sans"), 30};
 };
 
 } // namespace
