@@ -29,7 +29,7 @@ ToolBundle bundleOf(QString script)
     const auto tool = [&script](const char *result) {
         return shellTool(QString(script).replace("RESULT", result));
     };
-    return {tool("page-1"), tool("o.pdf")};
+    return {tool("page-1"), tool("result.pdf")};
 }
 
 QStringList callOf(const QString &program)

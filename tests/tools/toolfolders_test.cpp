@@ -92,7 +92,7 @@ void ToolFolders::namesCannotBeForeseen()
 // However few descriptors there are: a PDF or one sentence, and no folder.
 void ToolFolders::nothingIsLeftWithoutDescriptors()
 {
-    const QStringList tool = shellTool(wholePdf + " >o.pdf");
+    const QStringList tool = shellTool(wholePdf + " >result.pdf");
     const ToolBundle bundle(tool, tool);
     int failed = 0;
     for (int descriptors = 3; descriptors < 24; ++descriptors) {
@@ -130,7 +130,7 @@ void ToolFolders::leftoversAreClearedAway()
 
 void ToolFolders::leftoversAreFoundAmongManyFiles()
 {
-    const QStringList tool = shellTool(wholePdf + " >o.pdf");
+    const QStringList tool = shellTool(wholePdf + " >result.pdf");
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
     for (int i = 0; i < 3000; ++i)
@@ -185,7 +185,7 @@ void ToolFolders::inputsHavePlainNamesEverywhere()
 {
     QFETCH(QString, refused);
     const QStringList tool = shellTool("printf '%s\\n' \"$1\" >../word; cat \"$1\" >../content; " +
-                                       wholePdf + " >o.pdf");
+                                       wholePdf + " >result.pdf");
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
     writeContent(folder.filePath("x[1]*?{a}.pdf"), "content");
@@ -256,7 +256,7 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean()
     QFETCH(QStringList, image);
     if (geteuid() != 0)
         QSKIP("only root can mount a file system");
-    const QStringList tool = shellTool("head -c 2000000 /dev/zero >o.pdf; exit 1");
+    const QStringList tool = shellTool("head -c 2000000 /dev/zero >result.pdf; exit 1");
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir full;
     const RunResult result = runProgram(

@@ -201,7 +201,7 @@ void ToolProcesses::noCoreIsDumped_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("call");
-    QTest::newRow("convert") << "convert" << QStringList{"x.png", "o.pdf"};
+    QTest::newRow("convert") << "convert" << QStringList{"in.pdf", "o.pdf"};
     QTest::newRow("pdftk") << "pdftk" << QStringList{"in.pdf", "output", "o.pdf", "user_pw", "a"};
 }
 
@@ -212,7 +212,6 @@ void ToolProcesses::noCoreIsDumped()
     QFETCH(QStringList, call);
     const QTemporaryDir folder;
     writeContent(folder.filePath("in.pdf"), "in");
-    makeImage(folder.filePath("x.png"), {2, 2});
     const QStringList tool = shellTool("touch ../started; while :; do sleep 0.05; done");
     const ToolBundle bundle(tool, tool);
     const QByteArray command = "cd \"$1\"; shift; ulimit -c unlimited 2>/dev/null; exec \"$@\"";
@@ -279,17 +278,18 @@ void ToolProcesses::realConvertStopsOnASignal()
 
 void ToolProcesses::killedProgramTakesTheJvmAlong()
 {
-    const QString result = ownWord("killed-jvm") + ".pdf";
+    const QByteArray word = ownWord("killed-jvm").toUtf8();
     const auto call =
-        startProgram(bundledTool("pdftk"), {"in.pdf", "output", result}, m_folder.path());
+        startProgram(bundledTool("pdftk"), {"in.pdf", "output", "jvm.pdf", word}, m_folder.path());
     pid_t jvm = 0;
-    QTRY_VERIFY_WITH_TIMEOUT((jvm = processesWith("./" + result.toUtf8()).value(0)) > 0, 20'000);
+    const QByteArray java = QByteArray("result.pdf\0", 11) + word;
+    QTRY_VERIFY_WITH_TIMEOUT((jvm = processesWith(java).value(0)) > 0, 20'000);
     // Stopped, it cannot end by having done its work.
     kill(jvm, SIGSTOP);
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
-    QTRY_COMPARE(processesWith("./" + result.toUtf8()), QList<pid_t>());
-    QVERIFY(!QFile::exists(m_folder.filePath(result)));
+    QTRY_COMPARE(processesWith(java), QList<pid_t>());
+    QVERIFY(!QFile::exists(m_folder.filePath("jvm.pdf")));
 }
 
 void ToolProcesses::killedProgramTakesConvertAlong()

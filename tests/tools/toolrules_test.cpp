@@ -54,8 +54,6 @@ private slots:
     void infoFileBecomesLossless();
     void textIsDecoded_data();
     void textIsDecoded();
-    void fileNamesAreMadeSafe_data();
-    void fileNamesAreMadeSafe();
 };
 
 void ToolRules::convertCallIsSplit_data()
@@ -500,27 +498,6 @@ void ToolRules::textIsDecoded()
     QFETCH(std::string, charset);
     QFETCH(std::string, text);
     QCOMPARE(encoded(decoded(bytes, charset)), text);
-}
-
-void ToolRules::fileNamesAreMadeSafe_data()
-{
-    QTest::addColumn<std::string>("name");
-    QTest::addColumn<std::string>("safe");
-    QTest::newRow("plain") << std::string("a b%[1].pdf") << std::string("a b%[1].pdf");
-    QTest::newRow("Latin-1 stays") << std::string("\xC3\xBC.pdf") << std::string("\xC3\xBC.pdf");
-    QTest::newRow("one unit, one character")
-        << std::string("\xE2\x82\xAC.pdf") << std::string("_.pdf");
-    QTest::newRow("two units, two characters")
-        << std::string("\xF0\x9F\x98\x80") << std::string("__");
-    QTest::newRow("control characters") << std::string("a\n\x7F\xC2\x85z") << std::string("a___z");
-    QTest::newRow("malformed bytes") << std::string("a\xFF\xE2\x82") << std::string("a___");
-}
-
-void ToolRules::fileNamesAreMadeSafe()
-{
-    QFETCH(std::string, name);
-    QFETCH(std::string, safe);
-    QCOMPARE(safeFileName(name), safe);
 }
 
 QTEST_APPLESS_MAIN(ToolRules)

@@ -180,7 +180,7 @@ std::optional<Outcome> Conversion::finish(const ChildPool::Ended &ended)
 Outcome Conversion::join()
 {
     {
-        const FileDescriptor file(openat(m_job.folder().descriptor(), m_job.resultName().c_str(),
+        const FileDescriptor file(openat(m_job.folder().descriptor(), Job::resultName,
                                          O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
         if (!file.valid())
             throw systemError("cannot write", m_call.output);

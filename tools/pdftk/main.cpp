@@ -64,7 +64,7 @@ Outcome finish(const PdftkCall &call, const std::string &charset)
     words.push_back(job.addInput(call.input, "input-1"));
     if (!call.infoFile.empty())
         words.insert(words.end(), {"update_info", infoWord(job, call, charset)});
-    words.insert(words.end(), {"output", "./" + job.resultName()});
+    words.insert(words.end(), {"output", Job::resultName});
     words.insert(words.end(), call.tail.begin(), call.tail.end());
     return job.run(std::move(spec));
 }

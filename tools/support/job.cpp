@@ -37,7 +37,6 @@ bool isWholePdf(int file)
 
 Job::Job(const std::string &target)
     : m_target(target)
-    , m_resultName(safeFileName(fileNameOf(target)))
     , m_folder(folderOf(m_target.path()))
     , m_places(temporaryFolders())
 {
@@ -138,10 +137,10 @@ Outcome Job::check(const std::string &name) const
 
 Outcome Job::deliver() const
 {
-    const FileDescriptor file = open(m_resultName);
+    const FileDescriptor file = open(resultName);
     if (!isWholePdf(file.get()))
-        return check(m_resultName);
-    m_target.replaceBy(m_folder.descriptor(), m_resultName, file.get());
+        return check(resultName);
+    m_target.replaceBy(m_folder.descriptor(), resultName, file.get());
     return {};
 }
 

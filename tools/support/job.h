@@ -28,8 +28,8 @@ public:
     /// Puts a file of `content` into the private folder as `name`, which is returned.
     std::string addFile(const std::string &name, const std::string &content);
 
-    /// The target's own file name, made safe: the one the tool has to write.
-    const std::string &resultName() const { return m_resultName; }
+    /// The file that the tool has to write in the private folder.
+    static constexpr const char *resultName = "result.pdf";
 
     /// Where the tool has to work.
     const PrivateFolder &folder() const { return m_folder; }
@@ -55,7 +55,6 @@ private:
     FileDescriptor open(const std::string &name) const;
 
     Target m_target;
-    std::string m_resultName;
     PrivateFolder m_folder;
     /// Places for links that have not been tried yet, beginning with that of m_elsewhere.
     std::vector<std::string> m_places;

@@ -146,26 +146,3 @@ std::string localeCharset()
     const std::string charset = nl_langinfo(CODESET);
     return charset == "ANSI_X3.4-1968" ? "UTF-8" : charset;
 }
-
-std::u16string toUtf16(const std::string &name)
-{
-    std::u16string units;
-    for (const char32_t code : decoded(name, "UTF-8")) {
-        const bool control = code < 0x20 || (code >= 0x7F && code < 0xA0) || code == replacement;
-        if (code > 0xFFFF) {
-            units += static_cast<char16_t>(0xD7C0 + (code >> 10));
-            units += static_cast<char16_t>(0xDC00 + (code & 0x3FF));
-        } else {
-            units += control ? u'_' : static_cast<char16_t>(code);
-        }
-    }
-    return units;
-}
-
-std::string safeFileName(const std::string &name)
-{
-    CodePoints safe;
-    for (const char16_t unit : toUtf16(name))
-        safe += unit > 0xFF ? U'_' : static_cast<char32_t>(unit);
-    return encoded(safe);
-}

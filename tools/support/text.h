@@ -34,10 +34,3 @@ std::string encoded(CodePointsView text);
 /// The charset of the user's locale; "UTF-8" in the C and POSIX locales and where the locale
 /// that the environment names is not installed.
 std::string localeCharset();
-
-/// `name` in UTF-16; control characters and malformed bytes become '_'.
-std::u16string toUtf16(const std::string &name);
-
-/// `name` as a file name that both tools take literally: as many characters as toUtf16() has
-/// units, those outside Latin-1 as '_' (ImageMagick 6.9.11 cannot write any other as a title).
-std::string safeFileName(const std::string &name);
