@@ -97,6 +97,7 @@ void ConvertPolicy::forbiddenFormatsAreRefused_data()
                               "fractal:",
                               "inline:x.png",
                               "ephemeral:x.png",
+                              "EPHEMERAL:x.png",
                               "win:root",
                               "x:root",
                               "@x.list",

@@ -86,6 +86,13 @@ std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &argu
         {arguments.begin(), firstInput}, {firstInput, arguments.end() - 1}, arguments.back()};
 }
 
+bool asksToDelete(const std::vector<std::string> &arguments)
+{
+    return std::ranges::any_of(arguments, [](const std::string &word) {
+        return lowerCase(word).find("ephemeral:") != std::string::npos;
+    });
+}
+
 bool changesPixels(const std::vector<std::string> &options)
 {
     for (size_t i = 0; i < options.size(); i += 1 + optionNamed(options[i])->values) {

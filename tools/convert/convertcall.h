@@ -17,6 +17,10 @@ struct ConvertCall
 /// The call that `arguments` make, or nothing when they are of another shape.
 std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &arguments);
 
+/// Whether ImageMagick would be asked to delete what it reads. Version 7.1 takes this pseudo format
+/// off a name before it asks any policy.
+bool asksToDelete(const std::vector<std::string> &arguments);
+
 /// Whether `options` make other pixels of an image than those that it has.
 bool changesPixels(const std::vector<std::string> &options);
 

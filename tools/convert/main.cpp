@@ -1,4 +1,5 @@
 #include "conversion.h"
+#include "diagnosis.h"
 #include "magick.h"
 #include "program.h"
 
@@ -13,6 +14,8 @@ Outcome run(const Arguments &arguments)
             requireRegularFile(input);
         return Conversion(*call).run();
     }
+    if (asksToDelete(arguments))
+        throw ToolError("an image that is to be deleted is not read");
     const std::string pixels = pixelFolders().front();
     const Workload unknown = {.bytes = std::numeric_limits<unsigned long long>::max()};
     return handOver(
