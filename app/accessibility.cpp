@@ -38,17 +38,6 @@ void setTexts(const ControlText &texts)
     texts.control->setToolTip(translated(texts.toolTip));
 }
 
-/// An empty list has nothing to show the focus on, nor anything to do there by keyboard.
-void takeFocusWithRowsOnly(QTableWidget *table)
-{
-    const auto update = [table] {
-        table->setFocusPolicy(table->rowCount() > 0 ? Qt::StrongFocus : Qt::NoFocus);
-    };
-    QObject::connect(table->model(), &QAbstractItemModel::rowsInserted, table, update);
-    QObject::connect(table->model(), &QAbstractItemModel::rowsRemoved, table, update);
-    update();
-}
-
 } // namespace
 
 void describeControls(const Ui_process &ui)
@@ -122,8 +111,4 @@ void describeControls(const Ui_process &ui)
     };
     for (const ControlText &row : texts)
         setTexts(row);
-
-    // The arrow keys go from row to row; Tab goes on to the next control.
-    ui.inputfiletableWidget->setTabKeyNavigation(false);
-    takeFocusWithRowsOnly(ui.inputfiletableWidget);
 }

@@ -3,13 +3,13 @@
 #include "process.h"
 
 #include "accessibility.h"
+#include "filetable.h"
 #include "fittext.h"
 #include "mirror.h"
 #include "pictures.h"
 #include "ui_process.h"
 
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QProcess>
 #include <QProgressBar>
@@ -50,7 +50,7 @@ Process::Process(QWidget *parent)
     previewtimer = new QTimer(this);
     connect(previewtimer, &QTimer::timeout, this, &Process::dopreview);
 
-    styleFileTable();
+    styleFileTable(*ui->inputfiletableWidget);
     setWindowBackground();
     setFixedSize(width(), height());
     setAcceptDrops(true);
@@ -69,8 +69,7 @@ void Process::connectControls()
 {
     connect(ui->runButton, &QPushButton::clicked, this, &Process::convertbegin);
     connect(ui->openfileButton, &QPushButton::clicked, this, &Process::setopenfile);
-    ui->inputfiletableWidget->setSelectionBehavior(QAbstractItemView::SelectRows);
-    ui->inputfiletableWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    selectWholeRows(*ui->inputfiletableWidget);
     connect(ui->inputfiletableWidget, &QTableWidget::itemDoubleClicked, this,
             &Process::setopenselected);
     connect(ui->removeButton, &QPushButton::clicked, this, &Process::setremove);
@@ -79,28 +78,6 @@ void Process::connectControls()
     connectSelection();
     connect(ui->aboutpushButton, &QPushButton::clicked, this, &Process::setabout1);
     connect(ui->outputButton, &QPushButton::clicked, this, &Process::setoutputfile);
-}
-
-void Process::styleFileTable()
-{
-    QTableWidget *table = ui->inputfiletableWidget;
-    table->setStyleSheet(QStringLiteral(
-        "background-color:transparent;border:1px solid #6c6c6c;border-radius: 5px;"));
-    const auto headerStyle =
-        QStringLiteral("QHeaderView::section {background-color:GhostWhite;color: black;"
-                       "padding-left: 1px;border: 0px solid #6c6c6c;}");
-    table->horizontalHeader()->setStyleSheet(headerStyle);
-    table->verticalHeader()->setStyleSheet(headerStyle);
-
-    // The corner would be black under the table's transparent background.
-    if (auto *corner = table->findChild<QAbstractButton *>())
-        corner->setStyleSheet(QStringLiteral(
-            "QTableCornerButton::section {background-color:GhostWhite;border: 0px;}"));
-    // A stretched section gets no narrower than its own size: at the least possible one, no
-    // scroll bar appears for the few pixels that the row numbers take.
-    table->horizontalHeader()->resizeSection(1, table->horizontalHeader()->minimumSectionSize());
-    table->setTextElideMode(Qt::ElideLeft); // of a long path the file name is what matters
-    table->setWordWrap(false);
 }
 
 void Process::setWindowBackground()
@@ -191,7 +168,7 @@ void Process::on_pushButton_right_clicked()
     }
 }
 
-// Members that the interface keeps and that do nothing.
+// Members that do nothing: see process.h for why they are here.
 
 void Process::runClicked() {}
 void Process::readOutput() {}

@@ -32,9 +32,11 @@ public:
     explicit Process(QWidget *parent = nullptr);
     ~Process() override;
 
-    /// Kept for the interface's sake; does nothing and returns true.
+    /// Does nothing and returns true. Like the other members that do nothing, and `process`, it is
+    /// part of the interface that this class keeps: callers and connections may name it, though
+    /// nothing in the program does.
     bool loadfile();
-    /// Kept for the interface's sake; returns an empty string.
+    /// Returns an empty string; kept as loadfile() is.
     QString getInisetting();
     /// Shows the picture for an empty list.
     void setdefaultpreview();
@@ -42,6 +44,8 @@ public:
     void addFiles(const QStringList &paths);
 
 public slots:
+    // Do nothing: kept as loadfile() is. The third is connected by its name, so that a press of
+    // Open enters it as well as setopenfile().
     void runClicked();
     void readOutput();
     void on_openfileButton_clicked();
@@ -51,6 +55,7 @@ public slots:
     /// Entered by the run button and by the end of a one-by-one step.
     void convertbegin();
 
+    /// Does nothing: kept as loadfile() is.
     void imageupdate(QString inputfile);
 
     /// Opens the option dialog and waits for it; nothing calls it yet.
@@ -93,6 +98,7 @@ public slots:
     /// Starts pdftk on the PDF just made, writing the intermediate file beside it.
     void dopdftk();
 
+    // Do nothing: kept as loadfile() is.
     void checkxdpi();
     void checkydpi();
 
@@ -115,7 +121,6 @@ private:
     friend struct ProcessProbe; // the tests' view of the fields
 
     void connectControls();
-    void styleFileTable();
     void setWindowBackground();
     void markPage(QPushButton *button);
 
@@ -137,7 +142,7 @@ private:
     QString pdftkin;
     QString pdftkout;
     QStringList tempfiles;
-    QProcess *process = nullptr;
+    QProcess *process = nullptr; // kept as loadfile() is: never started, each step has its own
     Ui_process *ui = nullptr;
     setDialog setdialog;
     QTimer *previewtimer = nullptr;

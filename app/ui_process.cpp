@@ -1,6 +1,7 @@
 #include "ui_process.h"
 
 #include "compressions.h"
+#include "filetable.h"
 #include "pagesizes.h"
 #include "pictures.h"
 
@@ -9,7 +10,6 @@
 #include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -131,7 +131,7 @@ void Ui_process::setupInputPage()
     frame_6 = placeFrame(page, "frame_6", {-10, 0, 571, 281}, QFrame::Sunken);
     frame_6->setStyleSheet(QStringLiteral(".QWidget\n{background-color:#F8F8F8}"));
     label = place<QLabel>(frame_6, "label", {36, 2, 91, 21});
-    setupFileTable();
+    inputfiletableWidget = placeFileTable(frame_6);
     setupFileButtons();
     label_2 = place<QLabel>(frame_6, "label_2", {400, 4, 51, 21});
     previewframe = placeFrame(frame_6, "previewframe", {400, 42, 151, 187}, QFrame::Raised);
@@ -146,31 +146,6 @@ void Ui_process::setupInputPage()
     outputButton = place<QPushButton>(frame_6, "outputButton", {320, 285, 41, 31});
     setFlatIcon(outputButton, iconFromFile(iconPath("folder.ico")), {28, 28});
     stackedWidget_dialog->addWidget(page);
-}
-
-void Ui_process::setupFileTable()
-{
-    auto *table = place<QTableWidget>(frame_6, "inputfiletableWidget", {34, 20, 341, 211});
-    table->setColumnCount(2);
-    for (int column = 0; column < 2; ++column)
-        table->setHorizontalHeaderItem(column, new QTableWidgetItem);
-    table->setAutoFillBackground(true);
-    table->setFrameShadow(QFrame::Raised);
-    table->setLineWidth(2);
-    table->setAutoScroll(true);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // Enabling sorting sorts at once by the header's indicator: without a section the rows stay
-    // as added until the user clicks a header.
-    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    table->setSortingEnabled(true);
-    table->horizontalHeader()->setDefaultSectionSize(165);
-    table->horizontalHeader()->setMinimumSectionSize(40);
-    table->horizontalHeader()->setStretchLastSection(true);
-    // The style's minimum may be above the rows' height, which it would raise.
-    table->verticalHeader()->setMinimumSectionSize(18);
-    table->verticalHeader()->setDefaultSectionSize(18);
-    table->verticalHeader()->setStretchLastSection(false);
-    inputfiletableWidget = table;
 }
 
 void Ui_process::setupFileButtons()

@@ -97,7 +97,6 @@ public:
 
 private:
     void setupInputPage();
-    void setupFileTable();
     void setupFileButtons();
     void setupAppearancePage();
     void setupDescriptionPage();

@@ -6,6 +6,7 @@
 /// A push button that shows only a round picture: its icon, and while it is held down (or has no
 /// icon) the image file that its text names. Nothing is drawn when no such file can be read; the
 /// text itself never is. All else is the plain push button's.
+/// No form of the program has one: it is part of the widget set for those that may.
 class mypushbutton : public QPushButton
 {
     Q_OBJECT
@@ -34,7 +35,7 @@ private:
     bool m_pressed = false;
     QColor m_normalColour = Qt::gray;
     QColor m_hoverColour = Qt::lightGray;
-    // Kept with the button's state for the forms that may use it; the painting reads none of them.
+    // Part of the button's state as its interface has it; the painting reads none of them.
     [[maybe_unused]] QColor m_thirdColour = Qt::black;
     [[maybe_unused]] double m_realNumber = 1.0;
     [[maybe_unused]] qint32 m_integer = 0;

@@ -79,6 +79,38 @@ QImage onBlack(QWidget &widget)
     return picture;
 }
 
+QList<QWidget *> visibleWidgets(QWidget &window)
+{
+    auto widgets = window.findChildren<QWidget *>();
+    erase_if(widgets,
+             [](const QWidget *widget) { return !widget->isVisible() || widget->isWindow(); });
+    return widgets;
+}
+
+void askForMenu(QWidget &widget)
+{
+    const QPoint middle = widget.rect().center();
+    QContextMenuEvent ask(QContextMenuEvent::Mouse, middle, widget.mapToGlobal(middle));
+    QApplication::sendEvent(&widget, &ask);
+}
+
+/// What `work` pops up, which may wait for it to be closed; null when it pops up nothing.
+QImage popupOf(const std::function<void()> &work)
+{
+    QImage picture;
+    const auto look = [&picture] {
+        while (QWidget *popup = QApplication::activePopupWidget()) {
+            picture = onBlack(*popup);
+            popup->close();
+        }
+    };
+    QTimer::singleShot(0, qApp, look);
+    work();
+    look();
+    QCoreApplication::processEvents(); // the timer has fired before the next popup
+    return picture;
+}
+
 /// Dark text on light ground.
 bool isReadable(QWidget *widget)
 {
@@ -101,6 +133,7 @@ private slots:
     void typedTextIsDarkOnLight();
     void messageBoxIsDarkOnLight();
     void everyTipIsDarkOnLight();
+    void everyPopupIsDarkOnLight();
     void dialogsAreDarkOnLight();
     void everyColourRoleIsTheWindowsOwn();
     void styleIsTheWindowsOwn();
@@ -192,11 +225,10 @@ void LookTest::everyTipIsDarkOnLight()
     QStringList tips;
     for (int page = 0; page < 4; ++page) {
         pages->setCurrentIndex(page);
-        auto widgets = fixture.window.findChildren<QWidget *>();
+        auto widgets = visibleWidgets(fixture.window);
         // The parts of the table have no tip of their own and show the table's.
         erase_if(widgets, [table](const QWidget *widget) {
-            return !widget->isVisible() || widget->isWindow() ||
-                   (widget->toolTip().isEmpty() && !table->isAncestorOf(widget));
+            return widget->toolTip().isEmpty() && !table->isAncestorOf(widget);
         });
         for (QWidget *widget : widgets) {
             QLabel *tip = tipOf(widget);
@@ -209,6 +241,38 @@ void LookTest::everyTipIsDarkOnLight()
     QVERIFY(tips.count(table->toolTip()) >= 4);
     tips.removeDuplicates();
     QVERIFY2(tips.size() >= 22, qPrintable(tips.join(QLatin1Char('\n'))));
+}
+
+void LookTest::everyPopupIsDarkOnLight()
+{
+    WindowFixture fixture;
+    fixture.addImages(QStringList(20, u"a.jpg"_s)); // enough for a scroll bar
+    auto *pages = fixture.find<QStackedWidget>("stackedWidget_dialog");
+    QStringList seen;
+    for (int page = 0; page < 4; ++page) {
+        pages->setCurrentIndex(page);
+        QTest::qWait(0);
+        const auto widgets = visibleWidgets(fixture.window);
+        for (QWidget *widget : widgets) {
+            const QImage menu = popupOf([widget] { askForMenu(*widget); });
+            const QImage items = popupOf([widget] {
+                if (auto *box = qobject_cast<QComboBox *>(widget))
+                    box->showPopup();
+            });
+            for (const QImage &popup : {menu, items}) {
+                if (popup.isNull())
+                    continue;
+                const Tones tones = tonesOf(popup);
+                // The menu of an empty field has nothing but grey entries.
+                QVERIFY2(tones.middle > 200 && tones.darkest < 150,
+                         widget->metaObject()->className());
+                seen << QString::fromLatin1(widget->metaObject()->className());
+            }
+        }
+    }
+    QCOMPARE(seen.count(u"QScrollBar"_s), 1);
+    QVERIFY(seen.count(u"QLineEdit"_s) >= 7);
+    QVERIFY(seen.count(u"QComboBox"_s) >= 3);
 }
 
 void LookTest::dialogsAreDarkOnLight()
