@@ -116,6 +116,8 @@ void JpegPages::isCopiedOrLeftToImageMagick_data()
     row("application data 13 of somebody else", jpeg({segment(0xED, "somebody")}, colour), true);
     row("Adobe segment with more in it", jpeg({segment(0xEE, adobe(1).mid(4) + "more")}, colour),
         false);
+    row("Adobe segment with more in it, grey",
+        jpeg({segment(0xEE, adobe(1).mid(4) + "more")}, jpegBody(false)), false);
     row("two Adobe segments", jpeg({adobe(1), adobe(1)}, colour), false);
     row("Adobe segment with an unknown transform", jpeg({adobe(2)}, colour), false);
     row("RGB by Adobe, YCbCr by JFIF", jpeg({jfif(0, 1, 1), adobe(0)}, colour), false);

@@ -165,6 +165,7 @@ void PngPages::isCopiedOrLeftToImageMagick_data()
     row("profile and standard colours",
         withChunk(profileChunk(profile(true)) + chunk("sRGB", QByteArray(1, '\0'))), false);
     row("profile of indexed colours", withChunk(profileChunk(profile(true)), 3), false);
+    row("grey profile of indexed colours", withChunk(profileChunk(profile(false)), 3), false);
     row("profile that cannot be read", withChunk(chunk("iCCP", QByteArray("name\0\0no", 8))),
         false);
     row("profile without a name's end", withChunk(chunk("iCCP", "name")), false);

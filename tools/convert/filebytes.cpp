@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t blockCapacity = 256 * 1024;
+constexpr std::size_t blockCapacity = std::size_t{256} * 1024;
 
 } // namespace
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t outputSize = 64 * 1024;
+constexpr std::size_t outputSize = std::size_t{64} * 1024;
 constexpr std::uint8_t lastFilter = 4;
 
 // zlib reads through a pointer that is not const.

@@ -16,9 +16,9 @@
 namespace {
 
 constexpr std::size_t signatureSize = 8;
-constexpr std::size_t pieceSize = 256 * 1024;
+constexpr std::size_t pieceSize = std::size_t{256} * 1024;
 // Larger chunks that are to be read whole are left to ImageMagick.
-constexpr std::uint32_t mostKept = 4 * 1024 * 1024;
+constexpr std::uint32_t mostKept = std::uint32_t{4} * 1024 * 1024;
 
 enum ColourType : std::uint8_t { grey = 0, trueColour = 2, indexed = 3 };
 
@@ -263,7 +263,7 @@ void PngWalk::standardColours(const std::string &)
 
 void PngWalk::profile(const std::string &content)
 {
-    constexpr std::size_t mostProfile = 16 * 1024 * 1024;
+    constexpr std::size_t mostProfile = std::size_t{16} * 1024 * 1024;
     const std::size_t name = content.find('\0');
     if (name == std::string::npos || name + 2 > content.size() || m_seen.count("IDAT") != 0) {
         m_doubtful = true;

@@ -1,0 +1,99 @@
+#include "pages_fuzz.h"
+
+#include "copyablepage.h"
+#include "diagnosis.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#ifdef FUZZ_PNG
+#include <zlib.h>
+#endif
+
+namespace {
+
+constexpr std::uint32_t longestSide = 32000;
+
+void demand(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void demandExtentsInside(const CopyablePage &page, std::size_t size)
+{
+    std::uint64_t end = 0;
+    for (const Extent &extent : page.extents) {
+        demand(extent.length > 0 && extent.offset >= end && extent.offset <= size &&
+               extent.length <= size - extent.offset);
+        end = extent.offset + extent.length;
+    }
+    demand(page.data.empty() ? !page.extents.empty() : page.extents.empty());
+}
+
+void demandWholePage(const CopyablePage &page, std::size_t size)
+{
+    demand(page.width > 0 && page.width <= longestSide);
+    demand(page.height > 0 && page.height <= longestSide);
+    demand(std::isfinite(page.pageWidth) && page.pageWidth > 0);
+    demand(std::isfinite(page.pageHeight) && page.pageHeight > 0);
+    demand(page.components == 1 || page.components == 3);
+    demand(page.bitsPerComponent >= 1 && page.bitsPerComponent <= 8);
+    demand(page.palette.size() % 3 == 0 && page.palette.size() <= 3 * 256);
+    demand(!page.filter.empty());
+    demandExtentsInside(page, size);
+}
+
+#ifdef FUZZ_PNG
+// A fuzzer does not guess check sums: each chunk gets the right one, but for one in 256.
+void mendSums(std::uint8_t *data, std::size_t size)
+{
+    constexpr std::size_t signature = 8;
+    constexpr std::size_t around = 12;
+    for (std::size_t at = signature; at + around <= size;) {
+        const auto part = [&](std::size_t place) { return std::size_t{data[at + place]}; };
+        const std::size_t length = part(0) << 24 | part(1) << 16 | part(2) << 8 | part(3);
+        if (length > size - at - around)
+            return;
+        std::uint8_t *stored = data + at + 8 + length;
+        const auto sum = crc32(0, data + at + 4, static_cast<uInt>(length + 4));
+        if (stored[0] != 0xFF)
+            for (std::size_t place = 0; place < 4; ++place)
+                stored[place] = static_cast<std::uint8_t>(sum >> (24 - 8 * place));
+        at += length + around;
+    }
+}
+#endif
+
+} // namespace
+
+#ifdef FUZZ_PNG
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *data, std::size_t size, std::size_t most);
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size,
+                                               std::size_t most, unsigned int)
+{
+    const std::size_t changed = LLVMFuzzerMutate(data, size, most);
+    mendSums(data, changed);
+    return changed;
+}
+#endif
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const int file = memfd_create("picture", MFD_CLOEXEC);
+    demand(file >= 0 && write(file, data, size) == static_cast<ssize_t>(size));
+    try {
+        if (const auto pages = copyablePages(file, Compression::Unset)) {
+            demand(!pages->empty());
+            for (const CopyablePage &page : *pages)
+                demandWholePage(page, size);
+        }
+    } catch (const ToolError &) {
+        // An incomplete or damaged file.
+    }
+    close(file);
+    return 0;
+}
