@@ -276,6 +276,8 @@ QByteArray tiff(const TiffForm &form)
             TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, form.unit);
         if (form.orientation >= 0)
             TIFFSetField(tiff, TIFFTAG_ORIENTATION, form.orientation);
+        if (form.description)
+            TIFFSetField(tiff, TIFFTAG_IMAGEDESCRIPTION, form.description);
         if (form.pageName)
             TIFFSetField(tiff, TIFFTAG_PAGENAME, form.pageName);
         QByteArray row((form.size.width() + 7) / 8, '\0');

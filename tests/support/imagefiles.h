@@ -75,6 +75,7 @@ struct TiffForm
     int compression = 4;
     int pages = 1;
     const char *pageName = nullptr;
+    const char *description = nullptr;
     bool bigEndian = false;
     bool big = false;
 };

@@ -1,6 +1,6 @@
 #include "copyablefiles.h"
 #include "copyablepage.h"
-#include "diagnosis.h"
+#include "imagefiles.h"
 #include "toolbench.h"
 
 #include <QColorSpace>
@@ -24,6 +24,8 @@ private slots:
     void pageHasTheRealSize();
     void pictureIsTheRealOne_data();
     void pictureIsTheRealOne();
+    void privateDataStaysBehind_data();
+    void privateDataStaysBehind();
 };
 
 namespace {
@@ -216,8 +218,13 @@ void CopiedPages::pictureIsTheRealOne()
     const QImage byPoppler = drawnBy("pdftoppm", folder.path(), "copied");
     const QImage byMutool = drawnBy("mutool", folder.path(), "inside");
     const QImage real = drawnBy("pdftoppm", folder.path(), "real");
+    const RunResult ours = runBundled("convert", {"picture", "ours.pdf"}, folder.path());
+    QVERIFY2(ours.status == 0, ours.errors.constData());
+    const RunResult check = runProgram("qpdf", {"--check", "ours.pdf"}, folder.path());
+    QVERIFY2(check.status == 0, check.errors.constData());
 
     QCOMPARE(byPoppler.size(), QSize(40, 30));
+    QCOMPARE(drawnBy("pdftoppm", folder.path(), "ours"), byPoppler);
     QCOMPARE(byMutool.size(), byPoppler.size());
     // Readers differ in what they make of a profile.
     if (pages->front().iccProfile.empty()) {
@@ -229,6 +236,49 @@ void CopiedPages::pictureIsTheRealOne()
     const bool isExact = pages->front().filter != "DCTDecode";
     const double ratio = signalToNoise(byPoppler, real);
     QVERIFY2(isExact ? byPoppler == real : ratio >= 40, qPrintable(QString::number(ratio)));
+}
+
+void CopiedPages::privateDataStaysBehind_data()
+{
+    using namespace imagefiles;
+    const QByteArray words = "planted words";
+    const QByteArray fullJpeg = jpeg(
+        {jfif(0, 1, 1, words.leftJustified(15)), segment(0xE0, QByteArray("JFXX\0", 5) + words),
+         segment(0xE1, QByteArray("Exif\0\0", 6) + exifBlock({300, 300, 2}) + words),
+         segment(0xE1, "http://ns.adobe.com/xap/1.0/" + words), segment(0xED, words),
+         segment(0xFE, words)},
+        jpegBody(true));
+    PngForm pngForm;
+    pngForm.before = {chunk("tEXt", QByteArray("Comment\0", 8) + words), chunk("prVt", words)};
+    TiffForm tiffForm;
+    tiffForm.description = words.constData();
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("options");
+    for (const bool isCopied : {true, false}) {
+        const QStringList options = isCopied ? QStringList() : QStringList{"-resize", "595x842"};
+        const QByteArray way = isCopied ? ", copied" : ", converted";
+        QTest::newRow("JPEG" + way) << fullJpeg << options;
+        QTest::newRow("PNG" + way) << png(pngForm) << options;
+        QTest::newRow("TIFF" + way) << tiff(tiffForm) << options;
+    }
+}
+
+void CopiedPages::privateDataStaysBehind()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QStringList, options);
+    QVERIFY(bytes.contains("planted words"));
+    const QTemporaryDir folder;
+    writeContent(folder.filePath("picture"), bytes);
+
+    const RunResult result =
+        runBundled("convert", options + QStringList{"picture", "ours.pdf"}, folder.path());
+
+    QVERIFY2(result.status == 0, result.errors.constData());
+    const RunResult open = runProgram(
+        "qpdf", {"--qdf", "--object-streams=disable", "ours.pdf", "open.pdf"}, folder.path());
+    QVERIFY2(open.status == 0, open.errors.constData());
+    QVERIFY(!contentOf(folder.filePath("open.pdf")).contains("planted"));
 }
 
 QTEST_GUILESS_MAIN(CopiedPages)

@@ -172,7 +172,8 @@ bool takePhotoshop(const std::string &blocks, Density &density)
             return false;
         const std::uint16_t id = bigEndian16(blocks, at + 4);
         // A name that with its length fills an even number of bytes.
-        const std::size_t name = (static_cast<std::uint8_t>(blocks[at + 6]) + 2U) / 2 * 2;
+        const std::size_t named = static_cast<std::uint8_t>(blocks[at + 6]);
+        const std::size_t name = (named + 2) / 2 * 2;
         const std::size_t length = at + 6 + name;
         if (length + 4 > blocks.size())
             return false;

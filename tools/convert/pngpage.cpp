@@ -132,7 +132,7 @@ std::string PngWalk::nextChunk()
     const std::uint32_t length = head.size() == headSize ? bigEndian32(head, 0) : 0;
     if (head.size() < headSize || !m_file.has(std::uint64_t{length} + sumSize))
         throw ToolError("the picture is incomplete: the PNG file ends before its last chunk");
-    const std::string type = head.substr(4);
+    std::string type = head.substr(4);
     if (length > longest || (m_seen.empty() && type != "IHDR"))
         throw ToolError("the picture is damaged: the PNG file has no proper header");
     unsigned long sum =
