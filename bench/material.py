@@ -28,6 +28,9 @@ INFO = "".join(
 SMALL_IMAGES = 300
 IMAGES_TO_FINISH = 100
 PAGES = 100
+FAX_PAGES = 60
+TIFFS = 60
+PHOTOS = 60
 FILES = 10000
 
 
@@ -47,7 +50,12 @@ class Material:
     def __init__(self, folder):
         self.folder = Path(folder)
         self.pixel = self.folder / "pixel.png"
+        self.pixel_bmp = self.folder / "pixel.bmp"
         self.photo = self.folder / "photo.jpg"
+        self.photos = self.folder / "photos"
+        self.greys = self.folder / "greys"
+        self.tiffs = self.folder / "tiffs"
+        self.fax = self.folder / "fax.tif"
         self.small = self.folder / "small"
         self.to_finish = self.folder / "to-finish"
         self.pages = self.folder / "pages"
@@ -89,7 +97,8 @@ class Material:
             path.write_text(text, encoding="ascii")
 
     def _make_images(self):
-        make_image(self.pixel, "-size", "1x1", "xc:teal")
+        for pixel in (self.pixel, self.pixel_bmp):
+            make_image(pixel, "-size", "1x1", "xc:teal")
         subprocess.run(
             [CONVERT, self.pixel, self.pdf], env=self.stock_environment(), check=True
         )
@@ -103,6 +112,17 @@ class Material:
         paper = ["-seed", "7", "-size", "620x877", "plasma:white-gray70", "-resize", "400%"]
         make_image(page, *paper, "-density", "300", "-quality", "85")
         link_all(page, self.pages, [f"page-{n:03}.jpg" for n in range(PAGES)])
+        link_all(self.photo, self.photos, [f"photo-{n:03}.jpg" for n in range(PHOTOS)])
+        self._make_scans(page)
+
+    def _make_scans(self, page):
+        grey, tiff, fax = (self.folder / name for name in ("grey.png", "lzw.tif", "page.tif"))
+        make_image(grey, page, "-colorspace", "Gray", "-depth", "8")
+        make_image(tiff, page, "-compress", "LZW")
+        make_image(fax, page, "-threshold", "60%", "-compress", "Group4")
+        link_all(grey, self.greys, [f"grey-{n:03}.png" for n in range(PAGES)])
+        link_all(tiff, self.tiffs, [f"page-{n:03}.tif" for n in range(TIFFS)])
+        subprocess.run(["tiffcp", *[fax] * FAX_PAGES, self.fax], check=True)
 
     def _make_files(self):
         self.files.mkdir()

@@ -9,6 +9,8 @@ import sys
 from datetime import datetime, timezone
 from pathlib import Path
 
+import chart
+from documents import Documents
 from material import Material
 from rows import Bench
 from timing import Failed
@@ -22,7 +24,11 @@ GROUPS = {
     "memory": lambda bench: bench.memory(3),
     "preview": lambda bench: bench.preview(21),
     "chain": lambda bench: bench.chains(3),
-    "merged": lambda bench: bench.merged(2),
+    "copied-scan": lambda bench: Documents(bench).copied_scan(15),
+    "merged-copies": lambda bench: Documents(bench).merged_copies(3),
+    "converted": lambda bench: Documents(bench).converted(2),
+    "fitted": lambda bench: Documents(bench).fitted(9),
+    "photos": lambda bench: Documents(bench).photos(2),
     "chain-with-finishing": lambda bench: bench.finished_chains(3),
     "preview-memory": lambda bench: bench.preview_memory(),
 }
@@ -87,7 +93,8 @@ def main(build, result, *wanted):
     }
     Path(result).parent.mkdir(parents=True, exist_ok=True)
     Path(result).write_text(json.dumps(content, indent=2) + "\n", encoding="utf-8")
-    print(f"Written to {result}")
+    chart.main(result, Path(result).with_suffix(".svg"))
+    print(f"Written to {result}, and drawn beside it")
 
 
 if __name__ == "__main__":
