@@ -1,13 +1,12 @@
 #include "windowsteps.h"
 
+#include "dropfiles.h"
 #include "process.h"
 #include "samples.h"
 
 #include <QDir>
-#include <QDropEvent>
 #include <QEventLoop>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -22,10 +21,7 @@ QList<QUrl> filesIn(const QString &folder)
 
 void drop(Process &window, const QList<QUrl> &files)
 {
-    QMimeData data;
-    data.setUrls(files);
-    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    window.dropEvent(&event);
+    dropFiles(window, files);
 }
 
 void setField(Process &window, const char *field, const QString &text)

@@ -74,12 +74,8 @@ private slots:
     void optionsAreReadAgainWhenPdftkStarts();
     void intermediateFileStaysInTheFolderThatConvertWasGiven();
     void toolsRunInTheCurrentFolder();
-    void mergeBoxIsReadAgainWhenConvertEnds_data();
-    void mergeBoxIsReadAgainWhenConvertEnds();
     void rowsAddedMidRunAreConvertedToo();
-    void rowsRemovedMidRunEndTheRun();
     void namesThatAgreeOverwriteEachOther();
-    void secondPressStartsASecondChain();
     void failedToolsDoNotStopTheRun();
     void toolThatCannotBeStartedStopsTheRunThere();
     void childProcessesBelongToNobody();
@@ -278,37 +274,6 @@ void ConversionTest::toolsRunInTheCurrentFolder()
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
 }
 
-void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds_data()
-{
-    QTest::addColumn<bool>("mergedFirst");
-    QTest::addColumn<int>("calls");
-    QTest::addColumn<QStringList>("files");
-    QTest::newRow("ticked during a one-by-one run: it ends as a merged one")
-        << false << 2 << QStringList{u"a.pdf: pdftk(convert(a.jpg))"_s};
-    // The step after pdftk finds the file index at the row count, so it only ends the run.
-    QTest::newRow("cleared during a merged run: it ends as a one-by-one run")
-        << true << 2 << QStringList{u"a.pdf: pdftk(convert(a.jpg|b.jpg))"_s};
-}
-
-void ConversionTest::mergeBoxIsReadAgainWhenConvertEnds()
-{
-    QFETCH(bool, mergedFirst);
-    QFETCH(int, calls);
-    WindowFixture fixture;
-    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
-    fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
-    fixture.check("checkBox_joinpdf", mergedFirst);
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.check("checkBox_joinpdf", !mergedFirst);
-    fixture.openGate();
-    QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.calls().size(), calls);
-    QTEST(fixture.outputFiles(), "files");
-    QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window).isEmpty(), !mergedFirst);
-}
-
 void ConversionTest::rowsAddedMidRunAreConvertedToo()
 {
     WindowFixture fixture;
@@ -327,22 +292,6 @@ void ConversionTest::rowsAddedMidRunAreConvertedToo()
     QCOMPARE(seen, QList<int>({2, 0}));
 }
 
-void ConversionTest::rowsRemovedMidRunEndTheRun()
-{
-    WindowFixture fixture;
-    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
-    fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.find<QTableWidget>("inputfiletableWidget")->selectRow(1);
-    fixture.click("removeButton");
-    fixture.openGate();
-    QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
-    QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
-}
-
 void ConversionTest::namesThatAgreeOverwriteEachOther()
 {
     WindowFixture fixture;
@@ -352,26 +301,6 @@ void ConversionTest::namesThatAgreeOverwriteEachOther()
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
              QStringList({u"a.pdf: convert(a.2.jpg)"_s, u"scan.pdf: convert(scan.png)"_s}));
-}
-
-void ConversionTest::secondPressStartsASecondChain()
-{
-    WindowFixture fixture;
-    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
-    fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.click("runButton");
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 2);
-    QTRY_COMPARE(fixture.calls().size(), 2); // a and b run side by side
-
-    // One chain takes c; the other passes the end and starts the count over, so the first goes
-    // through all rows once more.
-    fixture.openGate();
-    QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.calls().size(), 6);
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
-    QCOMPARE(fixture.outputFiles().size(), 3);
 }
 
 void ConversionTest::failedToolsDoNotStopTheRun()

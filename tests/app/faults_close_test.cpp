@@ -1,6 +1,7 @@
 // The window is closed while a tool works: the program ends at once and cleanly, and the tool ends
 // by itself. The program is this executable again, started with arguments.
 
+#include "dropfiles.h"
 #include "faults_fixture.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -36,11 +36,8 @@ int closeDuringARun(int argc, char *argv[])
     window.findChild<QLineEdit *>(u"lineEdit_title"_s)->setText(arguments.at(2));
     window.findChild<QCheckBox *>(u"checkBox_joinpdf"_s)
         ->setChecked(arguments.at(1) == QLatin1String("merged"));
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(folder.filePath(u"a.jpg"_s)),
-                  QUrl::fromLocalFile(folder.filePath(u"b.jpg"_s))});
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    window.dropEvent(&drop);
+    dropFiles(window, {QUrl::fromLocalFile(folder.filePath(u"a.jpg"_s)),
+                       QUrl::fromLocalFile(folder.filePath(u"b.jpg"_s))});
     window.findChild<QPushButton *>(u"runButton"_s)->click();
 
     QTimer watcher;

@@ -20,6 +20,24 @@ struct Mode
 
 const QList<Mode> &allModes();
 
+/// The modes at the corners: without options, and with a description and security.
+inline const Mode &singlePlain()
+{
+    return allModes().at(0);
+}
+inline const Mode &singleFull()
+{
+    return allModes().at(3);
+}
+inline const Mode &mergedPlain()
+{
+    return allModes().at(4);
+}
+inline const Mode &mergedFull()
+{
+    return allModes().at(7);
+}
+
 /// What is to be seen when nothing moves any more. `tellTale()` puts it into lines, so that a
 /// difference reads well.
 struct Outcome

@@ -10,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QList<Mode> plainAndFull{allModes().at(0), allModes().at(3), allModes().at(4),
-                               allModes().at(7)};
+const QList<Mode> plainAndFull{singlePlain(), singleFull(), mergedPlain(), mergedFull()};
 
 const ExpectedOutcomes oneImageDone{
     Outcome{u"c"_s, {u"a.pdf: convert(a.jpg)"_s}, 0, u"0/1"_s},
@@ -66,7 +65,7 @@ void FaultsLoadTest::windowAnswersWhileAToolTakesLongOrTalksMuch()
 
 void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()
 {
-    FaultFixture fixture(allModes().at(3));
+    FaultFixture fixture(singleFull());
     QStringList names;
     QStringList pdfs{u"a.pdf: pdftk(convert(a.jpg))"_s, u"b.pdf: pdftk(convert(b.png))"_s};
     for (int i = 0; i < 58; ++i) {

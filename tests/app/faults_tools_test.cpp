@@ -184,7 +184,7 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
     QFETCH(QString, tool);
     QFETCH(Outcome, expected);
     auto away = std::make_unique<ToolPlace>(tool, ToolPlace::Missing);
-    FaultFixture fixture(allModes().at(3));
+    FaultFixture fixture(singleFull());
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     away.reset();
@@ -195,7 +195,7 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
 
 void FaultsToolsTest::killedToolLetsTheRunGoOn()
 {
-    FaultFixture fixture(allModes().at(0));
+    FaultFixture fixture(singlePlain());
     fixture.tellConvert(u"hang"_s);
     fixture.click("runButton");
     QVERIFY(fixture.waitForCalls(1));

@@ -16,22 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 gibibyte = qint64(1024) * 1024 * 1024;
+const QString settings = u"setting.ini"_s;
 
-/// "name|size text" of each row, "name" where the size has no item.
-QStringList rowsOf(WindowFixture &fixture)
-{
-    QStringList rows;
-    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
-    for (int row = 0; row < table->rowCount(); ++row) {
-        QString text = table->item(row, 0)->text();
-        text.replace(fixture.inputPath({}), QString());
-        if (const QTableWidgetItem *size = table->item(row, 1))
-            text += QLatin1Char('|') + size->text();
-        rows << text;
-    }
-    return rows;
-}
+constexpr qint64 gibibyte = qint64(1024) * 1024 * 1024;
 
 QList<int> selectedRows(WindowFixture &fixture)
 {
@@ -57,12 +44,6 @@ FileDialogFacts openFiles(WindowFixture &fixture, const QStringList &paths)
     if (!answer.happened())
         qFatal("no dialog came");
     return facts;
-}
-
-QByteArray settingsFile()
-{
-    QFile file(u"setting.ini"_s);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
 QList<QUrl> localUrls(const QStringList &paths)
@@ -101,7 +82,7 @@ private slots:
 void FileListTest::init()
 {
     WindowFixture fixture; // goes to the bundle's folder
-    QFile::remove(u"setting.ini"_s);
+    QFile::remove(settings);
 }
 
 void FileListTest::openDialogAsksForImages()
@@ -127,8 +108,8 @@ void FileListTest::chosenFilesAreListedInTheirOrder()
     fixture.addImages({u"z.jpg"_s});
     openFiles(fixture, {fixture.makeFile(u"c.jpg"_s), fixture.makeFile(u"my a.png"_s),
                         fixture.makeFile(u"b.gif"_s, "")});
-    QCOMPARE(rowsOf(fixture), QStringList({u"z.jpg|         0.005KB"_s, u"c.jpg|         0.005KB"_s,
-                                           u"my a.png|         0.005KB"_s, u"b.gif"_s}));
+    QCOMPARE(fixture.rows(), QStringList({u"z.jpg|         0.005KB"_s, u"c.jpg|         0.005KB"_s,
+                                          u"my a.png|         0.005KB"_s, u"b.gif"_s}));
 }
 
 void FileListTest::cancelledDialogChangesNothing()
@@ -136,9 +117,9 @@ void FileListTest::cancelledDialogChangesNothing()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     openFiles(fixture, {});
-    QCOMPARE(rowsOf(fixture), QStringList({u"a.jpg|         0.005KB"_s}));
+    QCOMPARE(fixture.rows(), QStringList({u"a.jpg|         0.005KB"_s}));
     QCOMPARE(selectedRows(fixture), QList<int>());
-    QCOMPARE(settingsFile(), QByteArray("none"));
+    QCOMPARE(contentBesideTheBundle(settings), QByteArray("none"));
 }
 
 void FileListTest::folderOfTheFirstFileIsRemembered()
@@ -150,11 +131,11 @@ void FileListTest::folderOfTheFirstFileIsRemembered()
     file.close();
     QString folder;
     {
-        QSettings(u"setting.ini"_s, QSettings::IniFormat).setValue(u"dir/output"_s, kept);
+        QSettings(settings, QSettings::IniFormat).setValue(u"dir/output"_s, kept);
         WindowFixture fixture;
         folder = QFileInfo(fixture.inputPath(u"a.jpg"_s)).absolutePath();
         openFiles(fixture, {fixture.makeFile(u"a.jpg"_s), file.fileName()});
-        QCOMPARE(settingsFile(),
+        QCOMPARE(contentBesideTheBundle(settings),
                  QByteArray("[dir]\ninput=") + folder.toUtf8() + QByteArray("\noutput=/\n"));
         WindowFixture next; // another run of the program, while the folder still stands
         QCOMPARE(openFiles(next, {}).folder, folder);
@@ -164,12 +145,13 @@ void FileListTest::folderOfTheFirstFileIsRemembered()
 void FileListTest::folderIsRememberedBeforeTheRowsAreMade()
 {
     WindowFixture fixture;
-    QByteArray settings;
+    QByteArray then;
     connect(fixture.find<QTableWidget>("inputfiletableWidget")->model(),
-            &QAbstractItemModel::rowsInserted, this, [&settings] { settings = settingsFile(); });
+            &QAbstractItemModel::rowsInserted, this,
+            [&then] { then = contentBesideTheBundle(settings); });
     const QString path = fixture.makeFile(u"a.jpg"_s);
     openFiles(fixture, {path});
-    QCOMPARE(settings, "[dir]\ninput=" + QFileInfo(path).absolutePath().toUtf8() + '\n');
+    QCOMPARE(then, "[dir]\ninput=" + QFileInfo(path).absolutePath().toUtf8() + '\n');
 }
 
 void FileListTest::firstRowBecomesCurrentAndSelectedToo()
@@ -206,7 +188,7 @@ void FileListTest::sizeColumnShowsTheLowBitsOfTheSize()
     QVERIFY(QFile::resize(path, bytes)); // sparse
     fixture.drop(localUrls({path}));
     openFiles(fixture, {path});
-    QCOMPARE(rowsOf(fixture), QStringList({row, row}));
+    QCOMPARE(fixture.rows(), QStringList({row, row}));
 }
 
 void FileListTest::itemsArePlainTexts()
@@ -253,7 +235,7 @@ void FileListTest::droppedUrlsAreListedUpToTheFirstThatIsNotLocal()
     QFETCH(QList<QUrl>, urls);
     WindowFixture fixture;
     fixture.drop(urls);
-    QTEST(rowsOf(fixture), "rows");
+    QTEST(fixture.rows(), "rows");
 }
 
 void FileListTest::dropLeavesSelectionAndSettingsAlone()
@@ -265,7 +247,7 @@ void FileListTest::dropLeavesSelectionAndSettingsAlone()
     QCOMPARE(table->rowCount(), 3); // a folder is listed like a file
     QCOMPARE(selectedRows(fixture), QList<int>());
     QCOMPARE(table->currentRow(), -1);
-    QCOMPARE(settingsFile(), QByteArray("none"));
+    QCOMPARE(contentBesideTheBundle(settings), QByteArray("none"));
     QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
 }
 
@@ -278,7 +260,7 @@ void FileListTest::dropItselfIsNotAnswered()
     QDropEvent event(QPointF(10, 10), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     fixture.window.dropEvent(&event);
     QVERIFY(!event.isAccepted());
-    QCOMPARE(rowsOf(fixture), QStringList{u"/n/a.jpg"_s});
+    QCOMPARE(fixture.rows(), QStringList{u"/n/a.jpg"_s});
 }
 
 void FileListTest::dragIsAcceptedForUrlsAlone_data()

@@ -10,7 +10,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMetaProperty>
-#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -100,37 +99,6 @@ QStringList itemsOf(const QComboBox *box)
     return items;
 }
 
-/// The named widgets in the order in which they joined their parents; the first time counts.
-class ChildLog : public QObject
-{
-public:
-    ChildLog() { qApp->installEventFilter(this); }
-
-    QStringList names() const
-    {
-        QStringList names;
-        for (const QPointer<QObject> &child : m_children) {
-            const QString name = child ? child->objectName() : QString();
-            if (!name.isEmpty() && !name.startsWith(u"qt_"_s) && !names.contains(name))
-                names << name;
-        }
-        return names;
-    }
-
-    bool eventFilter(QObject * /*target*/, QEvent *event) override
-    {
-        if (event->type() == QEvent::ChildAdded) {
-            QObject *child = static_cast<QChildEvent *>(event)->child();
-            if (child->isWidgetType())
-                m_children << child;
-        }
-        return false;
-    }
-
-private:
-    QList<QPointer<QObject>> m_children;
-};
-
 } // namespace
 
 class LayoutTest : public QObject
@@ -143,7 +111,6 @@ private slots:
     void objectIsAsTheTableSays();
     void thereIsNoObjectBesideTheTable();
     void pagesStandInTheirOrder();
-    void widgetsAreMadeInTheirOrder();
     void fileButtonsShareARow();
     void fileTableHasItsHeaders();
     void rowsStayAsAddedAlthoughSortingIsEnabled();
@@ -222,26 +189,6 @@ void LayoutTest::pagesStandInTheirOrder()
     QCOMPARE(pages->indexOf(form.ui.page_3), 2);
     QCOMPARE(pages->indexOf(form.ui.page_4), 3);
     QCOMPARE(pages->currentIndex(), 0);
-}
-
-void LayoutTest::widgetsAreMadeInTheirOrder()
-{
-    ChildLog log;
-    Form form;
-    QStringList expected;
-    const QStringList sideButtons{u"frame_8"_s,
-                                  u"pushButton_PDFSetting"_s,
-                                  u"pushButton_ImageSetting"_s,
-                                  u"pushButton_Security"_s,
-                                  u"pushButton_Inout"_s,
-                                  u"aboutpushButton"_s,
-                                  u"progressBar"_s};
-    for (const LayoutRow &row : layoutTable) {
-        const QString name = QLatin1String(row.name);
-        if (!sideButtons.contains(name))
-            expected << name;
-    }
-    QCOMPARE(log.names(), expected + sideButtons);
 }
 
 void LayoutTest::fileButtonsShareARow()

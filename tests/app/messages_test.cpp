@@ -30,7 +30,6 @@ private slots:
     void emptyListIsWarnedAboutAndNothingElseChanges();
     void missingOutputFolderIsAskedForAndTheFieldEmptied_data();
     void missingOutputFolderIsAskedForAndTheFieldEmptied();
-    void emptyingTheListMidRunEndsItWithTheWarning();
     void losingTheOutputFolderMidRunEndsIt();
 };
 
@@ -73,24 +72,6 @@ void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
     QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
     QVERIFY(fixture.calls().isEmpty());
-}
-
-void MessagesTest::emptyingTheListMidRunEndsItWithTheWarning()
-{
-    WindowFixture fixture;
-    fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
-    fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.click("removeallButton");
-    QString title;
-    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
-    fixture.openGate();
-    QTRY_VERIFY(answer.happened());
-    QCOMPARE(title, u"Empty input"_s);
-    QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
-    QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
 }
 
 void MessagesTest::losingTheOutputFolderMidRunEndsIt()

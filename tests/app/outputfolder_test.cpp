@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString settings = u"setting.ini"_s;
+
 /// Presses the folder button and chooses `folder`; "" stands for a cancelled dialog.
 FileDialogFacts browse(WindowFixture &fixture, const QString &folder)
 {
@@ -29,12 +31,6 @@ FileDialogFacts browse(WindowFixture &fixture, const QString &folder)
 QString folderField(WindowFixture &fixture)
 {
     return fixture.find<QLineEdit>("outputfolderEdit")->text();
-}
-
-QByteArray settingsFile()
-{
-    QFile file(u"setting.ini"_s);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
 } // namespace
@@ -56,7 +52,7 @@ private slots:
 void OutputFolderTest::init()
 {
     WindowFixture fixture; // goes to the bundle's folder
-    QFile::remove(u"setting.ini"_s);
+    QFile::remove(settings);
 }
 
 void OutputFolderTest::dialogAsksForAFolderBesideTheBundleAtFirst()
@@ -75,7 +71,8 @@ void OutputFolderTest::chosenFolderIsShownAndStored()
     WindowFixture fixture;
     browse(fixture, fixture.outputPath());
     QCOMPARE(folderField(fixture), fixture.outputPath());
-    QCOMPARE(settingsFile(), "[dir]\noutput=" + fixture.outputPath().toUtf8() + '\n');
+    QCOMPARE(contentBesideTheBundle(settings),
+             "[dir]\noutput=" + fixture.outputPath().toUtf8() + '\n');
 }
 
 void OutputFolderTest::laterRunStartsTheDialogThereWithAnEmptyField()
@@ -93,7 +90,7 @@ void OutputFolderTest::cancelEmptiesTheFieldAndStoresNothingChosen()
     browse(fixture, fixture.outputPath());
     browse(fixture, {});
     QCOMPARE(folderField(fixture), QString());
-    QCOMPARE(settingsFile(), QByteArray("[dir]\noutput=\n"));
+    QCOMPARE(contentBesideTheBundle(settings), QByteArray("[dir]\noutput=\n"));
 }
 
 void OutputFolderTest::typedFolderIsUsedButNotStored()
@@ -104,18 +101,18 @@ void OutputFolderTest::typedFolderIsUsedButNotStored()
     fixture.click("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
-    QCOMPARE(settingsFile(), QByteArray("none"));
+    QCOMPARE(contentBesideTheBundle(settings), QByteArray("none"));
 }
 
 void OutputFolderTest::inputFolderIsKept()
 {
-    QFile file(u"setting.ini"_s);
+    QFile file(settings);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[dir]\ninput=/\n");
     file.close();
     WindowFixture fixture;
     browse(fixture, {});
-    QCOMPARE(settingsFile(), QByteArray("[dir]\ninput=/\noutput=\n"));
+    QCOMPARE(contentBesideTheBundle(settings), QByteArray("[dir]\ninput=/\noutput=\n"));
 }
 
 QTEST_MAIN(OutputFolderTest)

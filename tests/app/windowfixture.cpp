@@ -2,16 +2,16 @@
 
 #include "bundlepaths.h"
 #include "childprocesses.h"
+#include "dropfiles.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
-#include <QDropEvent>
 #include <QFile>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QProcess>
+#include <QTableWidget>
 
 #include <csignal>
 
@@ -49,13 +49,7 @@ QString WindowFixture::makeFile(const QString &name, const QByteArray &content) 
 
 void WindowFixture::drop(const QList<QUrl> &urls)
 {
-    QMimeData data;
-    data.setUrls(urls);
-    // Qt hands a drop only to a widget that has accepted the drag before.
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &enter);
-    QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
+    dropFiles(window, urls);
 }
 
 QStringList WindowFixture::addImages(const QStringList &names)
@@ -118,6 +112,19 @@ QList<ToolCall> WindowFixture::calls() const
     return calls;
 }
 
+QStringList WindowFixture::rows()
+{
+    QStringList rows;
+    const auto *table = find<QTableWidget>("inputfiletableWidget");
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QString text = table->item(row, 0)->text().remove(inputPath({}));
+        if (const QTableWidgetItem *size = table->item(row, 1))
+            text += QLatin1Char('|') + size->text();
+        rows << text;
+    }
+    return rows;
+}
+
 QStringList WindowFixture::outputFiles() const
 {
     QStringList files;
@@ -137,6 +144,12 @@ QStringList WindowFixture::outputFiles() const
 bool WindowFixture::waitUntilQuiet()
 {
     return QTest::qWaitFor([] { return !hasChildProcesses(); }, 60000);
+}
+
+QByteArray contentBesideTheBundle(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
 }
 
 ModalAnswer::ModalAnswer(std::function<void(QWidget *)> answerFunction)

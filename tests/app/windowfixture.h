@@ -80,6 +80,8 @@ public:
     void openGate();
 
     QList<ToolCall> calls() const;
+    /// The list's rows as "name|size text", "name" where the size has no item.
+    QStringList rows();
     /// Names and contents of the output folder, as "name: content", sorted.
     QStringList outputFiles() const;
     /// The last run is over: nothing was started or ended for a while and no tool runs.
@@ -88,6 +90,9 @@ public:
 private:
     QTemporaryDir folder;
 };
+
+/// The content of a file in the current directory, "none" when there is none.
+QByteArray contentBesideTheBundle(const QString &name);
 
 /// Answers the next modal box: checks that it comes, hands it to `answer`, and closes it if that
 /// did not. `happened()` says whether the box came.

@@ -2,15 +2,14 @@
 // becomes a PDF that opens, nothing is left behind, and no call passes its bounds. A call that
 // would take too long is ended by the tool itself.
 
+#include "dropfiles.h"
 #include "hostilefiles.h"
 #include "pdffacts.h"
 #include "startup.h"
 #include "windowdriver.h"
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QTableWidget>
@@ -82,10 +81,7 @@ void HostileConversionTest::initTestCase()
 
 void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls) const
 {
-    QMimeData data;
-    data.setUrls(urls);
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    driver.window.dropEvent(&drop);
+    dropFiles(driver.window, urls);
     driver.window.findChild<QLineEdit *>(u"outputfolderEdit"_s)->setText(place(u"out"_s));
 }
 

@@ -1,3 +1,5 @@
+// packaging/assemble-tools, and what a bundle that it has readied stands.
+
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -7,7 +9,6 @@
 
 #include <unistd.h>
 
-/// packaging/assemble-tools, and what a bundle that it has readied stands.
 class ToolAssembly : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// Every file that taught the fuzzer something, read again without it.
+
 #include "pcx_fuzz.h"
 
 #include <QDir>
@@ -6,7 +8,6 @@
 
 #include <cstdint>
 
-/// Every file that taught the fuzzer something, read again without it.
 class TestPcxCorpus : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// The plug-in through Qt's image reader, against ImageMagick's reading of the same file.
+
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -40,7 +42,6 @@ QString imageMagick()
 
 } // namespace
 
-/// The plug-in through Qt's image reader, against ImageMagick's reading of the same file.
 class TestPcxPixels : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// The PCX reader alone: every header field at its bounds, damaged and cut files, streams.
+
 #include "pcxfile.h"
 #include "pcxhandler.h"
 #include "pipe.h"

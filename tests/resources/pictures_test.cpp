@@ -1,3 +1,5 @@
+// The product's pictures as the window reads them: scaled smoothly, crisp at two device pixels.
+
 #include "pictures.h"
 
 #include <QDir>

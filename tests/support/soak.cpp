@@ -5,6 +5,8 @@
 //   soak fake|real COUNT    what the tools beside this program are
 
 #include "childprocesses.h"
+#include "dropfiles.h"
+#include "opendescriptors.h"
 #include "pdffacts.h"
 #include "process.h"
 #include "residentmemory.h"
@@ -13,11 +15,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
-#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -91,10 +91,7 @@ void fillIn(Process &window, const QString &output, const QList<QUrl> &images)
     field("lineEdit_title")->setText(title);
     field("lineEdit_ownerpwd")->setText(password);
     window.findChild<QCheckBox *>(u"checkBox_allowprint"_s)->setChecked(true);
-    QMimeData data;
-    data.setUrls(images);
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    window.dropEvent(&drop);
+    dropFiles(window, images);
     window.findChild<QTableWidget *>()->setCurrentCell(0, 0); // the preview works all along
 }
 

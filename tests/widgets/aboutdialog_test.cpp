@@ -1,3 +1,5 @@
+// The about box: its place and text, its two links, and what opens them.
+
 #include "aboutdialog.h"
 
 #include "deployment.h"

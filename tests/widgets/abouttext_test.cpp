@@ -1,3 +1,5 @@
+// The about box's rich text stays whole whatever the two configured addresses hold.
+
 #include "deployment.h"
 #include "ui_aboutdialog.h"
 

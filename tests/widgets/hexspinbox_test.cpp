@@ -1,3 +1,5 @@
+// The spin box for hexadecimal numbers: what it shows, accepts and refuses.
+
 #include "hexspinbox.h"
 
 #include <QTest>

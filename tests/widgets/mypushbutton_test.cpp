@@ -1,3 +1,5 @@
+// The round picture button: what it paints in each state, and that it is a push button in all else.
+
 #include "mypushbutton.h"
 
 #include <QEnterEvent>

@@ -1,3 +1,5 @@
+// The option dialog: its place, texts and two buttons.
+
 #include "setdialog.h"
 
 #include "ui_setdialog.h"
