@@ -17,11 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 constexpr int runTimeout = 120000; // ms
-
-} // namespace
 
 class ConversionE2eTest : public QObject
 {
