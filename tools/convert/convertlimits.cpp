@@ -66,8 +66,8 @@ size_t mostAtOnce(size_t cores, unsigned long long ram)
 std::vector<std::string> pixelFolders()
 {
     std::vector<std::string> folders = temporaryFolders();
-    std::ranges::stable_partition(folders,
-                                  [](const std::string &folder) { return !isInMemory(folder); });
+    std::stable_partition(folders.begin(), folders.end(),
+                          [](const std::string &folder) { return !isInMemory(folder); });
     return folders;
 }
 

@@ -12,7 +12,10 @@ struct Extent
     std::uint64_t offset;
     std::uint64_t length;
 
-    bool operator==(const Extent &) const = default;
+    bool operator==(const Extent &other) const
+    {
+        return offset == other.offset && length == other.length;
+    }
 };
 
 /// A page whose image goes into the PDF as its compressed data stands.

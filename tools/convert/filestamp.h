@@ -11,7 +11,11 @@ struct FileStamp
     time_t seconds = 0;
     long nanoseconds = 0;
 
-    bool operator==(const FileStamp &) const = default;
+    bool operator==(const FileStamp &other) const
+    {
+        return device == other.device && inode == other.inode && size == other.size &&
+               seconds == other.seconds && nanoseconds == other.nanoseconds;
+    }
 };
 
 /// Of an open file.

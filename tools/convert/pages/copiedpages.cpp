@@ -32,7 +32,7 @@ public:
         const FileDescriptor file(open(m_path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
         if (!file.valid())
             throw systemError("cannot read", m_path);
-        if (fileStamp(file.get()) != m_stamp)
+        if (!(fileStamp(file.get()) == m_stamp))
             throw ToolError("'" + m_path + "' was changed meanwhile");
         for (const Extent &extent : m_extents)
             pass(file, extent, *pipeline);
@@ -76,7 +76,7 @@ std::string drawing(const CopyablePage &page)
            " 0 0 cm\n/Im0 Do\nQ\n";
 }
 
-Handle dictionaryOf(std::map<std::string, Handle> items)
+Handle dictionaryOf(const std::map<std::string, Handle> &items)
 {
     return Handle::newDictionary(items);
 }
