@@ -6,6 +6,7 @@
 #include "losslessinfo.h"
 #include "pdftkcall.h"
 #include "text.h"
+#include "words.h"
 
 #include <QTest>
 
@@ -52,6 +53,8 @@ private slots:
     void loggedArgumentsAreMasked();
     void infoFileBecomesLossless_data();
     void infoFileBecomesLossless();
+    void wordsAreReplacedWhole_data();
+    void wordsAreReplacedWhole();
     void textIsDecoded_data();
     void textIsDecoded();
 };
@@ -465,6 +468,30 @@ void ToolRules::infoFileBecomesLossless()
     QFETCH(std::string, charset);
     QFETCH(std::string, lossless);
     QCOMPARE(losslessInfo(content, charset), lossless);
+}
+
+void ToolRules::wordsAreReplacedWhole_data()
+{
+    QTest::addColumn<std::string>("text");
+    QTest::addColumn<std::string>("result");
+    const auto row = [](const char *name, const char *text, const char *result) {
+        QTest::newRow(name) << std::string(text) << std::string(result);
+    };
+    row("nothing", "", "");
+    row("no word", "input-", "input-");
+    row("the longest", "input-10 input-1", "tenth first");
+    row("a shorter one before any sign", "input-1: input-1~ input-1!", "first: first~ first!");
+    row("what was put in stays", "input-2", "input-1");
+    row("at both ends", "input-10.input-10", "tenth.tenth");
+}
+
+void ToolRules::wordsAreReplacedWhole()
+{
+    QFETCH(std::string, text);
+    QFETCH(std::string, result);
+    const Replacements words = {
+        {"input-1", "first"}, {"input-10", "tenth"}, {"input-11", "no"}, {"input-2", "input-1"}};
+    QCOMPARE(replaced(text, words), result);
 }
 
 void ToolRules::textIsDecoded_data()
