@@ -15,7 +15,8 @@ QString text(double value, QLatin1String unit)
     const auto written =
         std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::fixed, 3);
     const QLatin1String number(buffer.data(), written.ptr - buffer.data());
-    return QString(14 - number.size(), QLatin1Char(' ')) % number % unit;
+    constexpr QStringView field = u"              "; // 14 wide
+    return field.first(field.size() - number.size()) % number % unit;
 }
 
 } // namespace
