@@ -151,6 +151,17 @@ void addJpegs(QList<CopyableFile> &files)
                           jpeg({exif({200, 200, 2}), block}, body), true});
         }
     }
+    for (const char *field : {"tiff:XResolution", "tiff:ResolutionUnit", "exif:PixelXDimension",
+                              "exif:FocalPlaneXResolution", "exif:XResolution"}) {
+        const QByteArray packet = xmp(field, "3");
+        const bool isForeign = QByteArray(field).contains("Pixel");
+        const bool isExif = field == QByteArray("exif:XResolution");
+        files.append({QByteArray("JPEG with EXIF and an XMP field ") + field,
+                      jpeg({jfif(1, 144, 144), exif({200, 200, 2}), packet}, jpegBody(true)),
+                      !isExif});
+        files.append({QByteArray("JPEG with XMP field ") + field,
+                      jpeg({jfif(1, 144, 144), packet}, jpegBody(true)), isForeign});
+    }
     for (int orientation = 1; orientation <= 8; ++orientation)
         files.append({"turned JPEG, orientation " + QByteArray::number(orientation),
                       jpeg({jfif(1, 96, 96), exif({96, 96, 2, orientation})}, jpegBody(true)),

@@ -111,6 +111,18 @@ QByteArray adobe(int transform)
     return segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0", 11) + static_cast<char>(transform));
 }
 
+QByteArray xmp(const QByteArray &name, const QByteArray &value)
+{
+    return segment(0xE1, QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) +
+                             "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                             "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+                             "<rdf:Description rdf:about='' "
+                             "xmlns:tiff='http://ns.adobe.com/tiff/1.0/' "
+                             "xmlns:exif='http://ns.adobe.com/exif/1.0/'><" +
+                             name + ">" + value + "</" + name +
+                             "></rdf:Description></rdf:RDF></x:xmpmeta>");
+}
+
 QByteArray photoshop(double x, double y, int unit)
 {
     constexpr double fixedPoint = 65536;

@@ -21,6 +21,8 @@ QByteArray jpeg(const QList<QByteArray> &segments, const QByteArray &body);
 QByteArray segment(int marker, const QByteArray &payload);
 QByteArray jfif(int unit, quint32 x, quint32 y, const QByteArray &thumbnail = {});
 QByteArray adobe(int transform);
+/// An XMP packet of one field.
+QByteArray xmp(const QByteArray &name, const QByteArray &value);
 QByteArray photoshop(double x, double y, int unit);
 
 /// Resolution fields of an EXIF block; a negative number is a missing field.

@@ -87,6 +87,7 @@ private:
     std::optional<Density> m_photoshop;
     std::optional<std::string> m_jfif;
     std::optional<std::string> m_exif;
+    bool m_xmpStatesDensity = false;
     std::uint64_t m_markerStart = 0;
     bool m_doubtful = false;
     bool m_hasFrame = false;
@@ -259,9 +260,13 @@ Density JpegWalk::density()
         if (unit == 2)
             result.unit = Density::Unit::Centimetre;
     }
+    Density stated = {-1, -1};
     if (m_exif)
-        m_doubtful |= !takeExif(*m_exif, result);
-    return result;
+        m_doubtful |= !takeExif(*m_exif, stated);
+    const bool isStated = stated.x >= 0;
+    // Without EXIF's, each version takes something else from XMP's.
+    m_doubtful |= m_xmpStatesDensity && !isStated;
+    return isStated ? stated : result;
 }
 
 void JpegWalk::takeApplication1(const std::string &bytes)
@@ -273,7 +278,8 @@ void JpegWalk::takeApplication1(const std::string &bytes)
         m_doubtful |= m_exif || !bytes.starts_with(exif);
         m_exif = bytes.substr(exif.size());
     } else {
-        m_doubtful |= !takeXmp(bytes);
+        m_xmpStatesDensity |= xmpStatesDensity(bytes);
+        m_doubtful |= xmpOverridesExif(bytes);
     }
 }
 

@@ -186,16 +186,25 @@ bool takePhotoshop(const std::string &blocks, Density &density)
         if (std::find(doubtfulResources.begin(), doubtfulResources.end(), id) !=
             doubtfulResources.end())
             return false;
-        if (id == resourceXmp && !takeXmp(blocks.substr(value, count)))
+        if (id == resourceXmp && xmpStatesDensity(blocks.substr(value, count)))
             return false;
         at = value + count + count % 2;
     }
     return true;
 }
 
-bool takeXmp(const std::string &packet)
+bool xmpStatesDensity(const std::string &packet)
 {
-    return packet.find("Resolution") == std::string::npos;
+    return packet.find("Resolution") != std::string::npos;
+}
+
+bool xmpOverridesExif(const std::string &packet)
+{
+    constexpr std::array<std::string_view, 3> names = {"exif:XResolution", "exif:YResolution",
+                                                       "exif:ResolutionUnit"};
+    return std::any_of(names.begin(), names.end(), [&packet](std::string_view name) {
+        return packet.find(name) != std::string::npos;
+    });
 }
 
 bool isProfileFor(const std::string &profile, int components)

@@ -14,8 +14,11 @@ bool takeExif(const std::string &block, Density &density);
 /// Photoshop's resource blocks, from the first "8BIM" on.
 bool takePhotoshop(const std::string &blocks, Density &density);
 
-/// An XMP packet. ImageMagick reads densities in it, but the two versions do not read the same.
-bool takeXmp(const std::string &packet);
+/// Whether an XMP packet may state a density: ImageMagick reads it, but not alike in both versions
+/// unless an EXIF block states one too.
+bool xmpStatesDensity(const std::string &packet);
+/// Whether an XMP packet states one under the names of an EXIF block's fields.
+bool xmpOverridesExif(const std::string &packet);
 
 /// Whether `profile` is whole and of a kind that /ICCBased takes for this number of components.
 bool isProfileFor(const std::string &profile, int components);
