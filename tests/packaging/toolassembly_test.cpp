@@ -206,7 +206,8 @@ void ToolAssembly::noPolicyNoImage_data()
         << "mv a.app a:b.app" << QByteArray("cannot work below a folder with a colon in its name");
 }
 
-// A file that the policy forbids, and one that it allows: without a policy neither is touched.
+// A format that the policy forbids, and one that it allows: without a policy neither is made of an
+// image that ImageMagick has to read.
 void ToolAssembly::noPolicyNoImage()
 {
     QFETCH(QString, spoiling);
@@ -216,18 +217,18 @@ void ToolAssembly::noPolicyNoImage()
     QCOMPARE(runProgram("/bin/cp", {"-a", QFileInfo(bundleContents()).path(), copy}, folder.path())
                  .status,
              0);
-    makeImage(folder.filePath("x.png"));
+    makeImage(folder.filePath("x.bmp"));
     QCOMPARE(runProgram("/bin/sh", {"-c", spoiling}, folder.path()).status, 0);
     const QString name = spoiling.startsWith("mv") ? "a:b.app" : "a.app";
     const QString programs = folder.filePath(name + "/Contents/MacOS/");
-    for (const QStringList &call : {QStringList{"x.png", "o.pdf"}, QStringList{"x.png", "o.svg"}}) {
+    for (const QStringList &call : {QStringList{"x.bmp", "o.pdf"}, QStringList{"x.bmp", "o.svg"}}) {
         const RunResult result = runProgram(programs + "convert", call, folder.path());
         QCOMPARE(result.status, 1);
         QCOMPARE(result.errors.count('\n'), 1);
         QVERIFY2(result.errors.contains(sentence), result.errors.constData());
     }
-    QCOMPARE(namesIn(folder.path()), QStringList({name, "x.png"}));
-    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, folder.path()).status, 0);
+    QCOMPARE(namesIn(folder.path()), QStringList({name, "x.bmp"}));
+    QCOMPARE(runBundled("convert", {"x.bmp", "in.pdf"}, folder.path()).status, 0);
     const RunResult finished = runProgram(
         programs + "pdftk", {"in.pdf", "output", "o.pdf", "user_pw", "use"}, folder.path());
     QCOMPARE(finished.errors + finished.output, QByteArray());
