@@ -1,3 +1,4 @@
+#include "bundle.h"
 #include "conversion.h"
 #include "diagnosis.h"
 #include "magick.h"
@@ -12,6 +13,8 @@ Outcome run(const Arguments &arguments)
     if (const std::optional<ConvertCall> call = parseConvertCall(arguments)) {
         for (const std::string &input : call->inputs)
             requireRegularFile(input);
+        // Without a policy nothing is made, also of images that are only copied.
+        policyFolder();
         return Conversion(*call).run();
     }
     if (asksToDelete(arguments))
