@@ -6,8 +6,8 @@
 #include <QBitmap>
 #include <QFile>
 #include <QImageReader>
-#include <QtPlugin>
 #include <QWidget>
+#include <QtPlugin>
 
 #include <unistd.h>
 

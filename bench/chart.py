@@ -25,7 +25,8 @@ def axis(height):
     for tick in TICKS:
         x = place(tick)
         colour = "#444" if tick == 1 else "#ddd"
-        yield f'<line x1="{x:.1f}" y1="{TOP - 8}" x2="{x:.1f}" y2="{height - 8}" stroke="{colour}"/>'
+        ends = f'x1="{x:.1f}" y1="{TOP - 8}" x2="{x:.1f}" y2="{height - 8}"'
+        yield f'<line {ends} stroke="{colour}"/>'
         yield f'<text x="{x:.1f}" y="{TOP - 14}" text-anchor="middle">{tick:g}</text>'
 
 

@@ -1,4 +1,5 @@
-// The program's pictures as compiled in: formats, sizes, sharpness, transparency, alt texts of sources.
+// The program's pictures as compiled in: formats, sizes, sharpness, transparency, alt texts of
+// sources.
 
 #include <QBitmap>
 #include <QDir>

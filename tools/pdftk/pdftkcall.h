@@ -23,8 +23,9 @@ struct PdftkCall
 };
 
 /// The call that `arguments` make, or nothing when they are of another shape. `charset` is what
-/// passwords are decoded from that are not UTF-8. Throws ToolError for a password with a line break in it, which the
-/// tool would cut short, and for one in a call of another shape, which the tool would show.
+/// passwords are decoded from that are not UTF-8. Throws ToolError for a password with a line break
+/// in it, which the tool would cut short, and for one in a call of another shape, which the tool
+/// would show.
 std::optional<PdftkCall> parsePdftkCall(const std::vector<std::string> &arguments,
                                         const std::string &charset);
 
