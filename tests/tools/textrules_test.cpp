@@ -5,7 +5,6 @@
 
 #include <QTest>
 
-
 Q_DECLARE_METATYPE(std::string)
 
 class TextRules : public QObject
