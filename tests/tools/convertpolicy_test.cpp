@@ -1,9 +1,10 @@
+// What the program convert reads and writes, whatever the machine and the user allow.
+
 #include "toolbench.h"
 
 #include <QDir>
 #include <QTest>
 
-/// What the program convert reads and writes, whatever the machine and the user allow.
 class ConvertPolicy : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// What the program convert leaves behind, on success and on failure.
+
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -9,7 +11,6 @@
 
 #include <sys/stat.h>
 
-/// What the program convert leaves behind, on success and on failure.
 class ConvertResults : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// Pages whose image is copied, beside the pages that the real ImageMagick makes of the same files.
+
 #include "copyablefiles.h"
 #include "copyablepage.h"
 #include "imagefiles.h"
@@ -14,7 +16,6 @@
 #include <cmath>
 #include <optional>
 
-/// Pages whose image is copied, beside the pages that the real ImageMagick makes of the same files.
 class CopiedPages : public QObject
 {
     Q_OBJECT

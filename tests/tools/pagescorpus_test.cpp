@@ -1,3 +1,5 @@
+// What the fuzzers of the readers kept, read again without them.
+
 #include "pages_fuzz.h"
 
 #include <QDir>
@@ -7,7 +9,6 @@
 
 #include <cstdint>
 
-/// What the fuzzers of the readers kept, read again without them.
 class PagesCorpus : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// The four fields, from the info file as the application writes it to the finished PDF.
+
 #include "pdffacts.h"
 #include "privatelocales.h"
 #include "toolbench.h"
@@ -5,7 +7,6 @@
 #include <QDir>
 #include <QTest>
 
-/// The four fields, from the info file as the application writes it to the finished PDF.
 class PdftkDescription : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// Passwords and permissions: that they arrive, and that nobody else sees the passwords.
+
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -5,7 +7,6 @@
 #include <QDirIterator>
 #include <QTest>
 
-/// Passwords and permissions: that they arrive, and that nobody else sees the passwords.
 class PdftkSecurity : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// Which TIFF files go into a PDF as they stand, with which bytes, and which are refused.
+
 #include "imagefiles.h"
 #include "pagereading.h"
 
@@ -5,7 +7,6 @@
 
 using namespace imagefiles;
 
-/// Which TIFF files go into a PDF as they stand, with which bytes, and which are refused.
 class TiffPages : public QObject
 {
     Q_OBJECT

@@ -1,10 +1,11 @@
+// What the two programs make of a real tool that fails, in ways that the real ones only show on
+// bad days: a shell script takes its place.
+
 #include "toolbench.h"
 
 #include <QDir>
 #include <QTest>
 
-/// What the two programs make of a real tool that fails, in ways that the real ones only show on
-/// bad days: a shell script takes its place.
 class ToolFailures : public QObject
 {
     Q_OBJECT

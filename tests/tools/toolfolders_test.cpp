@@ -1,3 +1,6 @@
+// The private folders of the two programs: that nobody foresees, shares or keeps them, and that
+// the real tools see plain names in them on every file system.
+
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -10,8 +13,6 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-/// The private folders of the two programs: that nobody foresees, shares or keeps them, and that
-/// the real tools see plain names in them on every file system.
 class ToolFolders : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// Signals and endings: the real tool never outlives ours, whatever way either of them is ended.
+
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -12,7 +14,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Signals and endings: the real tool never outlives ours, whatever way either of them is ended.
 class ToolProcesses : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,5 @@
+// What a new PDF takes over from the one that it replaces, and what is never replaced.
+
 #include "toolbench.h"
 
 #include <QDir>
@@ -6,7 +8,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// What a new PDF takes over from the one that it replaces, and what is never replaced.
 class ToolTargets : public QObject
 {
     Q_OBJECT
