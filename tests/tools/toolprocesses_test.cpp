@@ -30,6 +30,7 @@ private slots:
     void noCoreIsDumped();
     void theRealToolDumpsNoCore();
     void lackOfMemoryIsASentence();
+    void limitOnFileSizesIsAFailure();
     void realConvertStopsOnASignal();
     void killedProgramTakesTheJvmAlong();
     void killedProgramTakesConvertAlong();
@@ -265,6 +266,22 @@ void ToolProcesses::lackOfMemoryIsASentence()
     QCOMPARE(result.errors, QByteArray("pdftk: not enough memory\n"));
     QCOMPARE(result.status, 1);
     QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "info"}));
+}
+
+// The kernel's answer to a file beyond the caller's limit is a signal that ends a program.
+void ToolProcesses::limitOnFileSizesIsAFailure()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath("x.jpg"));
+    writeContent(folder.filePath("o.pdf"), "old");
+    for (const QStringList &options : {QStringList(), QStringList{"-rotate", "90"}}) {
+        const RunResult result = runInShell("ulimit -f 0", bundledTool("convert"),
+                                            options + QStringList{"x.jpg", "o.pdf"}, folder.path());
+        QCOMPARE(result.status, 1);
+        QVERIFY(result.errors.endsWith('\n'));
+        QCOMPARE(namesIn(folder.path()), QStringList({"o.pdf", "x.jpg"}));
+        QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("old"));
+    }
 }
 
 void ToolProcesses::realConvertStopsOnASignal()

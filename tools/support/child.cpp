@@ -18,6 +18,8 @@ void holdSignals()
     signal(SIGTERM, SIG_DFL);
     // A reader that has gone would end us with work left behind.
     signal(SIGPIPE, SIG_IGN);
+    // So would a file larger than the caller allows; writing it fails instead.
+    signal(SIGXFSZ, SIG_IGN);
     const sigset_t held = ChildPool::heldSignals();
     sigprocmask(SIG_BLOCK, &held, nullptr);
 }
