@@ -37,7 +37,7 @@ QByteArray exif()
 {
     return QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x0F\x01\x02\0\x0D\0\0\0\x1A\0\0\0\0\0\0\0",
                       32) +
-           planted + "-EXIF\0";
+           planted + QByteArray("-EXIF\0", 6);
 }
 
 QByteArray photoshop()

@@ -102,7 +102,7 @@ QByteArray pdfWith(const CopyablePage &page, const QByteArray &file, double marg
                              QByteArray::number(margin) + " " + QByteArray::number(margin);
     QByteArray parms;
     for (const auto &[key, value] : page.decodeParms)
-        parms += QByteArray::fromStdString(key + " " + value + " ");
+        parms += QByteArray::fromStdString(key) + " " + QByteArray::fromStdString(value) + " ";
     const QByteArray image =
         "/Type /XObject /Subtype /Image /Width " + QByteArray::number(page.width) + " /Height " +
         QByteArray::number(page.height) + " /BitsPerComponent " +

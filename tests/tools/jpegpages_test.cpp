@@ -44,7 +44,7 @@ QByteArray withFrameByte(int place, char value)
 QByteArray withComponentNames(const char *names)
 {
     QByteArray body = colour;
-    for (int component = 0; component < 3; ++component)
+    for (qsizetype component = 0; component < 3; ++component)
         body[body.indexOf("\xFF\xC0") + 10 + 3 * component] = names[component];
     return body;
 }

@@ -42,7 +42,7 @@ void demandWholePage(const CopyablePage &page, std::size_t size)
     demand(std::isfinite(page.pageHeight) && page.pageHeight > 0);
     demand(page.components == 1 || page.components == 3);
     demand(page.bitsPerComponent >= 1 && page.bitsPerComponent <= 8);
-    demand(page.palette.size() % 3 == 0 && page.palette.size() <= 3 * 256);
+    demand(page.palette.size() % 3 == 0 && page.palette.size() <= std::size_t(3) * 256);
     demand(!page.filter.empty());
     demandExtentsInside(page, size);
 }

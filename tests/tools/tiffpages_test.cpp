@@ -44,7 +44,7 @@ qsizetype fieldAt(const QByteArray &file, int tag)
         return quint8(file[at]) | quint8(file[at + 1]) << 8;
     };
     qsizetype at = number(4) + (number(6) << 16);
-    for (int field = number(at); field > 0; --field)
+    for (qsizetype field = number(at); field > 0; --field)
         if (number(at + 2 + 12 * (field - 1)) == tag)
             return at + 2 + 12 * (field - 1);
     qFatal("no such field");
@@ -64,7 +64,7 @@ QByteArray withFieldByte(const QByteArray &file, int tag, int place, char value)
 QByteArray withNext(const QByteArray &file, const QByteArray &offset)
 {
     const qsizetype at = quint8(file[4]) + (quint8(file[5]) << 8);
-    return QByteArray(file).replace(at + 2 + 12 * quint8(file[at]), 4, offset);
+    return QByteArray(file).replace(at + 2 + qsizetype(12) * quint8(file[at]), 4, offset);
 }
 
 } // namespace

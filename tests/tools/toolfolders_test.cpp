@@ -260,13 +260,13 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean()
     const QStringList tool = shellTool("head -c 2000000 /dev/zero >result.pdf; exit 1");
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir full;
-    const RunResult result = runProgram(
-        TESSARO_ON_IMAGE,
-        image + QStringList{full.path(), "/bin/sh", "-c",
-                            "echo older >\"$1/o.pdf\"; \"$0\" in.pdf output \"$1/o.pdf\"; status=$?"
-                            "; ls -A \"$1\"; cat \"$1/o.pdf\"; exit $status",
-                            bundle.tool("pdftk"), full.path()},
-        m_folder.path());
+    const QString script =
+        "echo older >\"$1/o.pdf\"; \"$0\" in.pdf output \"$1/o.pdf\"; status=$?; ls -A \"$1\"; "
+        "cat \"$1/o.pdf\"; exit $status";
+    const RunResult result = runProgram(TESSARO_ON_IMAGE,
+                                        image + QStringList{full.path(), "/bin/sh", "-c", script,
+                                                            bundle.tool("pdftk"), full.path()},
+                                        m_folder.path());
     QCOMPARE(result.status, 1);
     QCOMPARE(result.output, QByteArray("o.pdf\nolder\n"));
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());

@@ -198,7 +198,7 @@ std::optional<std::vector<std::uint64_t>> TiffWalk::numbers(const Field &field)
     if (field.type != byteType && field.type != shortType && field.type != longType &&
         field.type != long8Type)
         return std::nullopt;
-    const std::size_t size = typeSize(field.type);
+    const std::size_t size = std::max<std::size_t>(typeSize(field.type), 1);
     if (field.count > m_file.size() / size)
         incomplete("a field");
     const std::string bytes = at(field.value, field.count * size, "a field");

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -51,8 +52,10 @@ std::string followed(std::string path)
         const std::string folder = folderOf(path);
         if (!isTrusted(status, folder))
             throw ToolError("cannot replace '" + path + "': a link of another user");
-        const std::string content = contentOfLink(file.get(), path);
-        path = content.starts_with('/') ? content : folder + "/" + content;
+        std::string content = contentOfLink(file.get(), path);
+        if (!content.starts_with('/'))
+            content.insert(0, folder + "/");
+        path = std::move(content);
     }
     errno = ELOOP;
     throw systemError("cannot replace", path);

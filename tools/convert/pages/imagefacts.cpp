@@ -4,6 +4,7 @@
 #include "tiffdirectory.h"
 
 #include <algorithm>
+#include <array>
 #include <csetjmp>
 #include <cstdio>
 #include <memory>
@@ -22,12 +23,16 @@ std::uint64_t colourTable(std::optional<std::uint8_t> flags)
 // The images among the blocks of a GIF file (its public description, appendix A).
 size_t gifImages(FileBytes &file)
 {
-    constexpr std::uint8_t extension = 0x21, image = 0x2C;
+    constexpr std::uint8_t image = 0x2C;
+    static constexpr std::array<std::uint8_t, 2> kinds = {0x21, image}; // an extension, an image
+    const auto isKnown = [](std::optional<std::uint8_t> kind) {
+        return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+    };
     size_t count = 0;
     file.seek(10);
     const std::uint64_t table = colourTable(file.byte());
     file.skip(2 + table);
-    for (auto kind = file.byte(); kind == extension || kind == image; kind = file.byte()) {
+    for (auto kind = file.byte(); isKnown(kind); kind = file.byte()) {
         if (kind == image) {
             ++count;
             file.skip(8);
