@@ -39,7 +39,7 @@ QStringList imageFilters(const QString &path)
     const QByteArray json = outputOf(u"qpdf"_s, {u"--json=1"_s, u"--json-key=objects"_s, path});
     QStringList filters;
     const QJsonObject objects = QJsonDocument::fromJson(json)[u"objects"_s].toObject();
-    for (const QJsonValue &object : objects) {
+    for (const auto &object : objects) {
         if (object[u"/Subtype"_s] != u"/Image"_s)
             continue;
         const QJsonValue filter = object[u"/Filter"_s];

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -234,8 +236,7 @@ void LauncherTest::startsAtOnceAllSucceed()
     for (const char version : {'1', '2'}) {
         write(u"MacOS/tessaro"_s, programText(version) + QByteArray(1'000'000, '\n'));
         std::vector<std::unique_ptr<QProcess>> starts;
-        for (int i = 0; i < 20; ++i)
-            starts.push_back(start(home()));
+        std::generate_n(std::back_inserter(starts), 20, [this] { return start(home()); });
         for (const auto &process : starts) {
             const Ended result = ended(*process);
             QCOMPARE(result.errors, QByteArray());
