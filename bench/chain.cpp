@@ -5,6 +5,7 @@
 // IMAGES and OUTPUT are folders. Prints the milliseconds from the click on the convert button to
 // the end of the run.
 
+#include "dropfiles.h"
 #include "process.h"
 #include "startup.h"
 #include "windowsteps.h"
@@ -22,7 +23,7 @@ int main(int argc, char *argv[])
         return 2;
     Process window;
     window.show();
-    drop(window, filesIn(QString::fromLocal8Bit(argv[1])));
+    dropFiles(window, filesIn(QString::fromLocal8Bit(argv[1])));
     setField(window, "outputfolderEdit", QString::fromLocal8Bit(argv[2]));
     if (argc == 5) {
         setField(window, "lineEdit_title", QString::fromLocal8Bit(argv[3]));

@@ -5,6 +5,7 @@
 // FOLDER holds the files. With "add-asked" the bare table's filler asks for the sizes, too. Prints
 // the samples in milliseconds, each from the drop or the click to the painted list.
 
+#include "dropfiles.h"
 #include "process.h"
 #include "samples.h"
 #include "startup.h"
@@ -60,7 +61,7 @@ public:
 
     double add(const QList<QUrl> &urls)
     {
-        return measured([&] { drop(window, urls); });
+        return measured([&] { dropFiles(window, urls); });
     }
 
     double removeAll()

@@ -3,6 +3,7 @@
 //   bench_preview time IMAGE TURNS    one firing beside decoding and scaling alone, milliseconds
 //   bench_preview memory IMAGE        resident MiB after the 20th and after the 500th firing
 
+#include "dropfiles.h"
 #include "previewbox.h"
 #include "process.h"
 #include "residentmemory.h"
@@ -39,7 +40,7 @@ double decodeAndScale(const QString &path)
 
 void select(Process &window, const QString &path)
 {
-    drop(window, {QUrl::fromLocalFile(path)});
+    dropFiles(window, {QUrl::fromLocalFile(path)});
     window.findChild<QTableWidget *>()->setCurrentCell(0, 0);
 }
 

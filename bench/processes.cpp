@@ -5,6 +5,7 @@
 //
 // Prints the KiB of resident memory for each of COUNT images.
 
+#include "dropfiles.h"
 #include "process.h"
 #include "residentmemory.h"
 #include "startup.h"
@@ -55,7 +56,7 @@ void runInWindow(const QString &folder, int count)
     setField(window, "outputfolderEdit", folder);
     setField(window, "lineEdit_title", u"A"_s);
     setField(window, "lineEdit_ownerpwd", u"b"_s);
-    drop(window, images(folder, count));
+    dropFiles(window, images(folder, count));
     printGrowth(count, [&window] { convertAll(window); });
 }
 

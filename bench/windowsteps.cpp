@@ -1,6 +1,5 @@
 #include "windowsteps.h"
 
-#include "dropfiles.h"
 #include "process.h"
 #include "samples.h"
 
@@ -17,11 +16,6 @@ QList<QUrl> filesIn(const QString &folder)
     for (const QFileInfo &file : files)
         urls << QUrl::fromLocalFile(file.absoluteFilePath());
     return urls;
-}
-
-void drop(Process &window, const QList<QUrl> &files)
-{
-    dropFiles(window, files);
 }
 
 void setField(Process &window, const char *field, const QString &text)

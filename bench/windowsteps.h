@@ -6,13 +6,10 @@
 
 class Process;
 
-/// What the measurements do with the real window.
+/// What the measurements and the soak do with the real window. Drops: demo/dropfiles.h.
 
 /// The files of `folder` by name.
 QList<QUrl> filesIn(const QString &folder);
-
-/// Drops `files` on the window.
-void drop(Process &window, const QList<QUrl> &files);
 
 /// Sets the text of the field named `field`.
 void setField(Process &window, const char *field, const QString &text);

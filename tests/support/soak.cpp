@@ -11,13 +11,13 @@
 #include "process.h"
 #include "residentmemory.h"
 #include "startup.h"
+#include "windowsteps.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -84,12 +84,9 @@ bool isConverted(const QString &pdf, bool realTools)
 
 void fillIn(Process &window, const QString &output, const QList<QUrl> &images)
 {
-    const auto field = [&window](const char *name) {
-        return window.findChild<QLineEdit *>(QLatin1String(name));
-    };
-    field("outputfolderEdit")->setText(output);
-    field("lineEdit_title")->setText(title);
-    field("lineEdit_ownerpwd")->setText(password);
+    setField(window, "outputfolderEdit", output);
+    setField(window, "lineEdit_title", title);
+    setField(window, "lineEdit_ownerpwd", password);
     window.findChild<QCheckBox *>(u"checkBox_allowprint"_s)->setChecked(true);
     dropFiles(window, images);
     window.findChild<QTableWidget *>()->setCurrentCell(0, 0); // the preview works all along
