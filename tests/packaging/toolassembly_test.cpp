@@ -9,6 +9,8 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class ToolAssembly : public QObject
 {
     Q_OBJECT
@@ -51,14 +53,14 @@ QStringList filesBelow(const QString &folder)
 void verifyWorking(const QString &convert, const QString &pdftk)
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    writeContent(folder.filePath("svg.png"), "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
-    QCOMPARE(runProgram(convert, {"x.png", "o.pdf"}, folder.path()).errors, QByteArray());
-    QVERIFY(runProgram(convert, {"svg.png", "no.pdf"}, folder.path()).status > 0);
-    const RunResult result =
-        runProgram(pdftk, {"o.pdf", "output", "o-1.pdf", "user_pw", "use"}, folder.path());
+    makeImage(folder.filePath(u"x.png"_s));
+    writeContent(folder.filePath(u"svg.png"_s), "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+    QCOMPARE(runProgram(convert, {u"x.png"_s, u"o.pdf"_s}, folder.path()).errors, QByteArray());
+    QVERIFY(runProgram(convert, {u"svg.png"_s, u"no.pdf"_s}, folder.path()).status > 0);
+    const RunResult result = runProgram(
+        pdftk, {u"o.pdf"_s, u"output"_s, u"o-1.pdf"_s, u"user_pw"_s, u"use"_s}, folder.path());
     QCOMPARE(result.output + result.errors, QByteArray());
-    QVERIFY(readPdf(folder.filePath("o-1.pdf")).needsPassword);
+    QVERIFY(readPdf(folder.filePath(u"o-1.pdf"_s)).needsPassword);
 }
 
 } // namespace
@@ -76,7 +78,7 @@ void ToolAssembly::wrongMachinesAreNamed_data()
     QTest::addColumn<QByteArray>("message");
     const auto row = [](const char *name, const char *variable, const char *version,
                         const char *message) {
-        QTest::newRow(name) << QString(variable) << QByteArray(version)
+        QTest::newRow(name) << variable << QByteArray(version)
                             << QByteArray("assemble-tools: ") + message + "\n";
     };
     row("no convert", "TESSARO_CONVERT", "",
@@ -108,10 +110,10 @@ void ToolAssembly::wrongMachinesAreNamed()
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
     if (!version.isEmpty())
-        addScript(folder.filePath("candidate"), "echo '" + version + "'");
+        addScript(folder.filePath(u"candidate"_s), "echo '" + version + "'");
     const RunResult result = assembleTools(
         bundle.contents(),
-        {{variable, folder.filePath("missing") + ":" + folder.filePath("candidate")}});
+        {{variable, folder.filePath(u"missing"_s) + u':' + folder.filePath(u"candidate"_s)}});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors, message);
 }
@@ -119,8 +121,8 @@ void ToolAssembly::wrongMachinesAreNamed()
 void ToolAssembly::aPolicyThatDoesNotHoldIsFound()
 {
     const ToolBundle bundle({}, {});
-    const RunResult result =
-        assembleTools(bundle.contents(), {{"TESSARO_CONVERT", TESSARO_LAWLESS_CONVERT}});
+    const RunResult result = assembleTools(
+        bundle.contents(), {{u"TESSARO_CONVERT"_s, QStringLiteral(TESSARO_LAWLESS_CONVERT)}});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
              QByteArray("assemble-tools: the image policy does not hold: a forbidden "
@@ -132,9 +134,9 @@ void ToolAssembly::missingProgramsAreNamed()
     const QTemporaryDir folder;
     const RunResult result = assembleTools(folder.path());
     QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors,
-             ("assemble-tools: the bundle '" + folder.path() + "' has no program MacOS/convert.\n")
-                 .toUtf8());
+    QCOMPARE(result.errors, (u"assemble-tools: the bundle '"_s + folder.path() +
+                             u"' has no program MacOS/convert.\n"_s)
+                                .toUtf8());
 }
 
 void ToolAssembly::assemblingTwiceGivesTheSame()
@@ -142,52 +144,53 @@ void ToolAssembly::assemblingTwiceGivesTheSame()
     const ToolBundle bundle({}, {});
     QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
     const QStringList files = filesBelow(bundle.contents());
-    QVERIFY(files.contains("Resources/pdftk.jsa"));
+    QVERIFY(files.contains(u"Resources/pdftk.jsa"_s));
     QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
     QCOMPARE(filesBelow(bundle.contents()), files);
-    verifyWorking(bundle.tool("convert"), bundle.tool("pdftk"));
+    verifyWorking(bundle.tool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
 void ToolAssembly::magickAloneIsCalledAsConvert()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
-    const QString magick = folder.filePath("magick");
-    QVERIFY(QFile::copy(TESSARO_ONLY_MAGICK, magick));
-    QCOMPARE(assembleTools(bundle.contents(), {{"TESSARO_CONVERT", magick}}).errors, QByteArray());
-    QCOMPARE(contentOf(bundle.contents() + "/Resources/convert.tool"),
-             (magick + "\nconvert\n").toUtf8());
-    verifyWorking(bundle.tool("convert"), bundle.tool("pdftk"));
+    const QString magick = folder.filePath(u"magick"_s);
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_ONLY_MAGICK), magick));
+    QCOMPARE(assembleTools(bundle.contents(), {{u"TESSARO_CONVERT"_s, magick}}).errors,
+             QByteArray());
+    QCOMPARE(contentOf(bundle.contents() + u"/Resources/convert.tool"_s),
+             (magick + u"\nconvert\n"_s).toUtf8());
+    verifyWorking(bundle.tool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
 void ToolAssembly::changedToolsAreProvenAgain()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
-    const QString tool = folder.filePath("magick");
-    const Variables variables = {{"TESSARO_CONVERT", tool}};
-    QVERIFY(QFile::copy(TESSARO_ONLY_MAGICK, tool));
+    const QString tool = folder.filePath(u"magick"_s);
+    const Variables variables = {{u"TESSARO_CONVERT"_s, tool}};
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_ONLY_MAGICK), tool));
     QCOMPARE(assembleTools(bundle.contents(), variables).errors, QByteArray());
-    const RunResult same = assembleTools(bundle.contents(), variables, {"--if-changed"});
+    const RunResult same = assembleTools(bundle.contents(), variables, {u"--if-changed"_s});
     QCOMPARE(same.errors + same.output, QByteArray());
     QCOMPARE(same.status, 0);
-    QVERIFY(QFile::remove(tool) && QFile::copy(TESSARO_LAWLESS_CONVERT, tool));
-    const RunResult changed = assembleTools(bundle.contents(), variables, {"--if-changed"});
+    QVERIFY(QFile::remove(tool) && QFile::copy(QStringLiteral(TESSARO_LAWLESS_CONVERT), tool));
+    const RunResult changed = assembleTools(bundle.contents(), variables, {u"--if-changed"_s});
     QCOMPARE(changed.status, 1);
     QVERIFY2(changed.output.startsWith("The tools under the program have changed"),
              changed.output.constData());
     QVERIFY2(changed.errors.startsWith("assemble-tools: the image "), changed.errors.constData());
     // What has failed its proof is not taken for proven.
-    QCOMPARE(assembleTools(bundle.contents(), variables, {"--if-changed"}).status, 1);
+    QCOMPARE(assembleTools(bundle.contents(), variables, {u"--if-changed"_s}).status, 1);
 }
 
 void ToolAssembly::lostPolicyIsMendedOnTheNextLook()
 {
     const ToolBundle bundle({}, {});
-    const QString policy = bundle.contents() + "/Resources/magick/limits/policy.xml";
+    const QString policy = bundle.contents() + u"/Resources/magick/limits/policy.xml"_s;
     QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
     QVERIFY(QFile::remove(policy));
-    QCOMPARE(assembleTools(bundle.contents(), {}, {"--if-changed"}).errors, QByteArray());
+    QCOMPARE(assembleTools(bundle.contents(), {}, {u"--if-changed"_s}).errors, QByteArray());
     QVERIFY(QFile::exists(policy));
 }
 
@@ -213,32 +216,35 @@ void ToolAssembly::noPolicyNoImage()
     QFETCH(QString, spoiling);
     QFETCH(QByteArray, sentence);
     const QTemporaryDir folder;
-    const QString copy = folder.filePath("a.app");
-    QCOMPARE(runProgram("/bin/cp", {"-a", QFileInfo(bundleContents()).path(), copy}, folder.path())
-                 .status,
-             0);
-    makeImage(folder.filePath("x.bmp"));
-    QCOMPARE(runProgram("/bin/sh", {"-c", spoiling}, folder.path()).status, 0);
-    const QString name = spoiling.startsWith("mv") ? "a:b.app" : "a.app";
-    const QString programs = folder.filePath(name + "/Contents/MacOS/");
-    for (const QStringList &call : {QStringList{"x.bmp", "o.pdf"}, QStringList{"x.bmp", "o.svg"}}) {
-        const RunResult result = runProgram(programs + "convert", call, folder.path());
+    const QString copy = folder.filePath(u"a.app"_s);
+    QCOMPARE(
+        runProgram(u"/bin/cp"_s, {u"-a"_s, QFileInfo(bundleContents()).path(), copy}, folder.path())
+            .status,
+        0);
+    makeImage(folder.filePath(u"x.bmp"_s));
+    QCOMPARE(runProgram(u"/bin/sh"_s, {u"-c"_s, spoiling}, folder.path()).status, 0);
+    const QString name = spoiling.startsWith(u"mv"_s) ? u"a:b.app"_s : u"a.app"_s;
+    const QString programs = folder.filePath(name + u"/Contents/MacOS/"_s);
+    for (const QStringList &call :
+         {QStringList{u"x.bmp"_s, u"o.pdf"_s}, QStringList{u"x.bmp"_s, u"o.svg"_s}}) {
+        const RunResult result = runProgram(programs + u"convert"_s, call, folder.path());
         QCOMPARE(result.status, 1);
         QCOMPARE(result.errors.count('\n'), 1);
         QVERIFY2(result.errors.contains(sentence), result.errors.constData());
     }
-    QCOMPARE(namesIn(folder.path()), QStringList({name, "x.bmp"}));
-    QCOMPARE(runBundled("convert", {"x.bmp", "in.pdf"}, folder.path()).status, 0);
-    const RunResult finished = runProgram(
-        programs + "pdftk", {"in.pdf", "output", "o.pdf", "user_pw", "use"}, folder.path());
+    QCOMPARE(namesIn(folder.path()), QStringList({name, u"x.bmp"_s}));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.bmp"_s, u"in.pdf"_s}, folder.path()).status, 0);
+    const RunResult finished =
+        runProgram(programs + u"pdftk"_s,
+                   {u"in.pdf"_s, u"output"_s, u"o.pdf"_s, u"user_pw"_s, u"use"_s}, folder.path());
     QCOMPARE(finished.errors + finished.output, QByteArray());
 }
 
 void ToolAssembly::nothingIsWritableByOthers()
 {
-    const QString resources = bundleContents() + "/Resources";
+    const QString resources = bundleContents() + u"/Resources"_s;
     for (const QString &file : filesBelow(resources)) {
-        const QFile::Permissions permissions = QFile::permissions(resources + "/" + file);
+        const QFile::Permissions permissions = QFile::permissions(resources + u'/' + file);
         QVERIFY2(!(permissions & (QFile::WriteOther | QFile::WriteGroup)), qPrintable(file));
         QVERIFY2(permissions & QFile::ReadOther, qPrintable(file));
     }
@@ -247,20 +253,20 @@ void ToolAssembly::nothingIsWritableByOthers()
 void ToolAssembly::movedBundleWorks()
 {
     const QTemporaryDir folder;
-    const QString copy = folder.filePath("my app. copy");
-    const RunResult copied =
-        runProgram("/bin/cp", {"-a", QFileInfo(bundleContents()).path(), copy}, folder.path());
+    const QString copy = folder.filePath(u"my app. copy"_s);
+    const RunResult copied = runProgram(
+        u"/bin/cp"_s, {u"-a"_s, QFileInfo(bundleContents()).path(), copy}, folder.path());
     QCOMPARE(copied.status, 0);
-    const QString programs = copy + "/Contents/MacOS/";
-    verifyWorking(programs + "convert", programs + "pdftk");
+    const QString programs = copy + u"/Contents/MacOS/"_s;
+    verifyWorking(programs + u"convert"_s, programs + u"pdftk"_s);
 }
 
 void ToolAssembly::linkedProgramsFindTheirBundle()
 {
     const QTemporaryDir folder;
-    for (const char *name : {"convert", "pdftk"})
+    for (const QString &name : {u"convert"_s, u"pdftk"_s})
         QVERIFY(QFile::link(bundledTool(name), folder.filePath(name)));
-    verifyWorking(folder.filePath("convert"), folder.filePath("pdftk"));
+    verifyWorking(folder.filePath(u"convert"_s), folder.filePath(u"pdftk"_s));
 }
 
 void ToolAssembly::unfitArchiveChangesNothing_data()
@@ -276,19 +282,19 @@ void ToolAssembly::unfitArchiveChangesNothing_data()
 void ToolAssembly::unfitArchiveChangesNothing()
 {
     QFETCH(QString, state);
-    const ToolBundle bundle({"/usr/bin/convert"}, {});
-    QByteArray archive = contentOf(bundleContents() + "/Resources/pdftk.jsa");
+    const ToolBundle bundle({u"/usr/bin/convert"_s}, {});
+    QByteArray archive = contentOf(bundleContents() + u"/Resources/pdftk.jsa"_s);
     QVERIFY(archive.size() > 1'000'000);
     const QHash<QString, QByteArray> contents = {
-        {"empty", ""},
-        {"other", QByteArray(1'000'000, 'x')},
-        {"short", archive.left(archive.size() / 2)},
-        {"version", archive.replace("OpenJDK", "OtherJD")}};
-    writeContent(bundle.contents() + "/Resources/pdftk.tool",
-                 contentOf(bundleContents() + "/Resources/pdftk.tool"));
-    if (state != "missing")
-        writeContent(bundle.contents() + "/Resources/pdftk.jsa", contents.value(state));
-    verifyWorking(bundledTool("convert"), bundle.tool("pdftk"));
+        {u"empty"_s, ""},
+        {u"other"_s, QByteArray(1'000'000, 'x')},
+        {u"short"_s, archive.left(archive.size() / 2)},
+        {u"version"_s, archive.replace("OpenJDK", "OtherJD")}};
+    writeContent(bundle.contents() + u"/Resources/pdftk.tool"_s,
+                 contentOf(bundleContents() + u"/Resources/pdftk.tool"_s));
+    if (state != u"missing"_s)
+        writeContent(bundle.contents() + u"/Resources/pdftk.jsa"_s, contents.value(state));
+    verifyWorking(bundledTool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
 QTEST_GUILESS_MAIN(ToolAssembly)

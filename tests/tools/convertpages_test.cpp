@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class ConvertPages : public QObject
 {
     Q_OBJECT
@@ -36,56 +38,61 @@ private:
 
 RunResult ConvertPages::makeReal(const QStringList &words) const
 {
-    const QString realTool = contentOf(bundleContents() + "/Resources/convert.tool").trimmed();
+    const QString realTool =
+        QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s)).trimmed();
     return runProgram(realTool, words, m_folder.path());
 }
 
 RunResult ConvertPages::convert(const QStringList &words, const Variables &variables) const
 {
-    return runBundled("convert", words + QStringList{"o.pdf"}, m_folder.path(), variables);
+    return runBundled(u"convert"_s, words + QStringList{u"o.pdf"_s}, m_folder.path(), variables);
 }
 
 // Each image has a width of its own, by which its page is known.
 void ConvertPages::initTestCase()
 {
     int width = 11;
-    for (const char *name :
-         {"1.bmp", "2.gif", "3.jpg", "4.pbm", "5.pcx", "6.png", "7.ppm", "8.tif"}) {
-        makeImage(place("source.png"), {width++, 10});
-        QCOMPARE(makeReal({"source.png", "-density", "72", "-units", "PixelsPerInch", name}).status,
+    for (const QString &name : {u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"4.pbm"_s, u"5.pcx"_s,
+                                u"6.png"_s, u"7.ppm"_s, u"8.tif"_s}) {
+        makeImage(place(u"source.png"_s), {width++, 10});
+        QCOMPARE(makeReal({u"source.png"_s, u"-density"_s, u"72"_s, u"-units"_s, u"PixelsPerInch"_s,
+                           name})
+                     .status,
                  0);
     }
-    QCOMPARE(makeReal({"1.bmp", "2.gif", "3.jpg", "-density", "72", "-units", "PixelsPerInch",
-                       "several.tif"})
+    QCOMPARE(makeReal({u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"-density"_s, u"72"_s, u"-units"_s,
+                       u"PixelsPerInch"_s, u"several.tif"_s})
                  .status,
              0);
-    QCOMPARE(makeReal({"1.bmp", "-monochrome", "2.gif", "-compress", "Group4", "-density", "72",
-                       "-units", "PixelsPerInch", "faxes.tif"})
+    QCOMPARE(makeReal({u"1.bmp"_s, u"-monochrome"_s, u"2.gif"_s, u"-compress"_s, u"Group4"_s,
+                       u"-density"_s, u"72"_s, u"-units"_s, u"PixelsPerInch"_s, u"faxes.tif"_s})
                  .status,
              0);
-    QCOMPARE(makeReal({"2.gif", "3.jpg", "-repage", "0x0+0+0", "several.gif"}).status, 0);
+    QCOMPARE(
+        makeReal({u"2.gif"_s, u"3.jpg"_s, u"-repage"_s, u"0x0+0+0"_s, u"several.gif"_s}).status, 0);
 }
 
 // qpdf finds no fault in any PDF that was made here.
 void ConvertPages::cleanup()
 {
-    if (!QFile::exists(place("o.pdf")))
+    if (!QFile::exists(place(u"o.pdf"_s)))
         return;
-    const RunResult check = runProgram("/usr/bin/qpdf", {"--check", "o.pdf"}, m_folder.path());
+    const RunResult check =
+        runProgram(u"/usr/bin/qpdf"_s, {u"--check"_s, u"o.pdf"_s}, m_folder.path());
     QVERIFY2(check.status == 0, (check.output + check.errors).constData());
-    QFile::remove(place("o.pdf"));
+    QFile::remove(place(u"o.pdf"_s));
 }
 
 void ConvertPages::everyFormatMergesInOrder()
 {
-    const QStringList names = {"8.tif", "3.jpg", "1.bmp", "6.png", "2.gif",
-                               "5.pcx", "4.pbm", "7.ppm", "3.jpg"};
+    const QStringList names = {u"8.tif"_s, u"3.jpg"_s, u"1.bmp"_s, u"6.png"_s, u"2.gif"_s,
+                               u"5.pcx"_s, u"4.pbm"_s, u"7.ppm"_s, u"3.jpg"_s};
     QCOMPARE(convert(names).errors, QByteArray());
-    const PdfFacts facts = readPdf(place("o.pdf"));
+    const PdfFacts facts = readPdf(place(u"o.pdf"_s));
     QCOMPARE(facts.pages, names.size());
     for (qsizetype page = 0; page < names.size(); ++page) {
         QCOMPARE(convert({names.at(page)}).errors, QByteArray());
-        QCOMPARE(facts.pageSizes.at(page), readPdf(place("o.pdf")).pageSizes.at(0));
+        QCOMPARE(facts.pageSizes.at(page), readPdf(place(u"o.pdf"_s)).pageSizes.at(0));
     }
 }
 
@@ -94,19 +101,20 @@ void ConvertPages::severalImagesOfAFileStayInPlace_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QList<int>>("widths");
-    const QStringList turned = {"-rotate", "180"};
+    const QStringList turned = {u"-rotate"_s, u"180"_s};
     QTest::newRow("a TIFF file among others")
-        << QStringList{} << QStringList{"several.tif", "3.jpg", "several.tif"}
+        << QStringList{} << QStringList{u"several.tif"_s, u"3.jpg"_s, u"several.tif"_s}
         << QList<int>{11, 12, 13, 13, 11, 12, 13};
     QTest::newRow("a turned TIFF file")
-        << turned << QStringList{"3.jpg", "several.tif"} << QList<int>{13, 11, 12, 13};
+        << turned << QStringList{u"3.jpg"_s, u"several.tif"_s} << QList<int>{13, 11, 12, 13};
     QTest::newRow("a copied TIFF file")
-        << QStringList{} << QStringList{"faxes.tif", "3.jpg"} << QList<int>{11, 12, 13};
+        << QStringList{} << QStringList{u"faxes.tif"_s, u"3.jpg"_s} << QList<int>{11, 12, 13};
     // The real tool gives each image of an animation the size of the whole.
-    QTest::newRow("an animation") << QStringList{} << QStringList{"3.jpg", "several.gif", "3.jpg"}
+    QTest::newRow("an animation") << QStringList{}
+                                  << QStringList{u"3.jpg"_s, u"several.gif"_s, u"3.jpg"_s}
                                   << QList<int>{13, 12, 12, 13};
     QTest::newRow("a turned animation")
-        << turned << QStringList{"several.gif", "3.jpg"} << QList<int>{12, 12, 13};
+        << turned << QStringList{u"several.gif"_s, u"3.jpg"_s} << QList<int>{12, 12, 13};
 }
 
 void ConvertPages::severalImagesOfAFileStayInPlace()
@@ -116,7 +124,7 @@ void ConvertPages::severalImagesOfAFileStayInPlace()
     QFETCH(QList<int>, widths);
     QCOMPARE(convert(options + names).errors, QByteArray());
     QList<int> found;
-    for (const QSizeF &size : readPdf(place("o.pdf")).pageSizes)
+    for (const QSizeF &size : readPdf(place(u"o.pdf"_s)).pageSizes)
         found.append(qRound(size.width()));
     QCOMPARE(found, widths);
 }
@@ -125,10 +133,9 @@ void ConvertPages::twoThousandImages()
 {
     QStringList names;
     for (int i = 0; i < 1000; ++i)
-        names << "3.jpg"
-              << "6.png";
-    QCOMPARE(convert(names << "1.bmp").errors, QByteArray());
-    QCOMPARE(readPdf(place("o.pdf")).pages, 2001);
+        names << u"3.jpg"_s << u"6.png"_s;
+    QCOMPARE(convert(names << u"1.bmp"_s).errors, QByteArray());
+    QCOMPARE(readPdf(place(u"o.pdf"_s)).pages, 2001);
 }
 
 void ConvertPages::oneDamagedAmongMany_data()
@@ -137,9 +144,9 @@ void ConvertPages::oneDamagedAmongMany_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("kept");
     for (const char *name : {"3.jpg", "6.png", "several.tif", "7.ppm", "2.gif"}) {
-        for (const QStringList &options : {QStringList{}, QStringList{"-rotate", "90"}})
+        for (const QStringList &options : {QStringList{}, QStringList{u"-rotate"_s, u"90"_s}})
             QTest::addRow("%s%s", name, options.isEmpty() ? "" : ", turned")
-                << options << QString(name) << 60;
+                << options << name << 60;
     }
 }
 
@@ -149,29 +156,31 @@ void ConvertPages::oneDamagedAmongMany()
     QFETCH(QString, name);
     QFETCH(int, kept);
     const QByteArray whole = contentOf(place(name));
-    const QString damaged = "damaged." + name.section('.', 1);
+    const QString damaged = u"damaged."_s + name.section(u'.', 1);
     writeContent(place(damaged), whole.left(whole.size() * kept / 100));
-    const QStringList names = {"1.bmp", "3.jpg", damaged, "6.png", "7.ppm", "8.tif"};
+    const QStringList names = {u"1.bmp"_s, u"3.jpg"_s, damaged, u"6.png"_s, u"7.ppm"_s, u"8.tif"_s};
     const RunResult result = convert(options + names);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(damaged.toUtf8()), result.errors.constData());
-    QVERIFY(!QFile::exists(place("o.pdf")));
-    QVERIFY(
-        QDir(m_folder.path()).entryList({".tessaro*"}, QDir::AllEntries | QDir::Hidden).isEmpty());
+    QVERIFY(!QFile::exists(place(u"o.pdf"_s)));
+    QVERIFY(QDir(m_folder.path())
+                .entryList({u".tessaro*"_s}, QDir::AllEntries | QDir::Hidden)
+                .isEmpty());
 }
 
 // A tag that nobody knows is no reason to refuse an image.
 void ConvertPages::warningsOfASuccessAreLogged()
 {
-    QByteArray tiff = contentOf(place("8.tif"));
+    QByteArray tiff = contentOf(place(u"8.tif"_s));
     const qsizetype software = tiff.indexOf(QByteArray("\x12\x01\x03\0", 4));
     QVERIFY(software > 0);
     tiff.replace(software, 2, QByteArray("\x0F\xFD", 2));
-    writeContent(place("strange.tif"), tiff);
-    const RunResult result = convert({"strange.tif"}, {{"TESSARO_TOOL_LOG", place("log")}});
+    writeContent(place(u"strange.tif"_s), tiff);
+    const RunResult result =
+        convert({u"strange.tif"_s}, {{u"TESSARO_TOOL_LOG"_s, place(u"log"_s)}});
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(readPdf(place("o.pdf")).pages, 1);
-    const QByteArray log = contentOf(place("log"));
+    QCOMPARE(readPdf(place(u"o.pdf"_s)).pages, 1);
+    const QByteArray log = contentOf(place(u"log"_s));
     QVERIFY2(log.contains("exit status 0") && log.contains("strange.tif"), log.constData());
     QVERIFY2(log.contains("Unknown field"), log.constData());
 }
@@ -180,14 +189,14 @@ void ConvertPages::informationIsTheSame_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"3.jpg", "6.png", "faxes.tif", "1.bmp"})
-        QTest::newRow(name) << QString(name);
+        QTest::newRow(name) << name;
 }
 
 void ConvertPages::informationIsTheSame()
 {
     QFETCH(QString, name);
     QCOMPARE(convert({name}).errors, QByteArray());
-    const QByteArray text = contentOf(place("o.pdf"));
+    const QByteArray text = contentOf(place(u"o.pdf"_s));
     QVERIFY(text.contains("/Producer (Tessaro Image to PDF Converter "));
     QVERIFY(text.contains("/Title (o)"));
     QVERIFY(text.contains("/CreationDate (D:") && text.contains("/ModDate (D:"));
@@ -206,15 +215,16 @@ void ConvertPages::shrunkJpegHasTheRealSize_data()
 void ConvertPages::shrunkJpegHasTheRealSize()
 {
     QFETCH(QSize, size);
-    makeImage(place("large.jpg"), size);
-    QCOMPARE(makeReal({"large.jpg", "+set", "density", "large.ppm"}).status, 0);
-    const QStringList options = {"-resize", "297x421"};
+    makeImage(place(u"large.jpg"_s), size);
+    QCOMPARE(makeReal({u"large.jpg"_s, u"+set"_s, u"density"_s, u"large.ppm"_s}).status, 0);
+    const QStringList options = {u"-resize"_s, u"297x421"_s};
     QList<QSizeF> sizes;
-    for (const char *name : {"large.jpg", "large.ppm"}) {
+    for (const QString &name : {u"large.jpg"_s, u"large.ppm"_s}) {
         QCOMPARE(convert(options + QStringList{name}).errors, QByteArray());
-        sizes += readPdf(place("o.pdf")).pageSizes;
+        sizes += readPdf(place(u"o.pdf"_s)).pageSizes;
     }
-    const double density = makeReal({"large.jpg", "-format", "%x", "info:"}).output.toDouble();
+    const double density =
+        makeReal({u"large.jpg"_s, u"-format"_s, u"%x"_s, u"info:"_s}).output.toDouble();
     QCOMPARE(sizes.at(0).width() * std::max(density, 72.0) / 72, sizes.at(1).width());
 }
 

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class ConvertPolicy : public QObject
 {
     Q_OBJECT
@@ -44,7 +46,7 @@ const QByteArray permissive = "<policymap><policy domain=\"coder\" rights=\"read
 
 void ConvertPolicy::namesTheVersionThatRan()
 {
-    const RunResult result = runBundled("convert", {"-version"}, QDir::tempPath());
+    const RunResult result = runBundled(u"convert"_s, {u"-version"_s}, QDir::tempPath());
     qInfo().noquote() << result.output.split('\n').first();
     QCOMPARE(result.status, 0);
     QVERIFY(result.output.startsWith("Version: ImageMagick"));
@@ -64,9 +66,9 @@ void ConvertPolicy::forbiddenContentIsRefused()
 {
     QFETCH(QByteArray, content);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("x.png"), content);
-    QVERIFY(runBundled("convert", {"x.png", "o.pdf"}, folder.path()).status != 0);
-    QCOMPARE(namesIn(folder.path()), QStringList{"x.png"});
+    writeContent(folder.filePath(u"x.png"_s), content);
+    QVERIFY(runBundled(u"convert"_s, {u"x.png"_s, u"o.pdf"_s}, folder.path()).status != 0);
+    QCOMPARE(namesIn(folder.path()), QStringList{u"x.png"_s});
 }
 
 void ConvertPolicy::forbiddenFormatsAreRefused_data()
@@ -114,7 +116,7 @@ void ConvertPolicy::forbiddenFormatsAreRefused_data()
                               "clipboard:",
 
                               "scan:x"})
-        QTest::newRow(input) << QString(input);
+        QTest::newRow(input) << input;
 }
 
 // With an option in front, the call is handed to the real tool as it is: the policy alone holds.
@@ -122,17 +124,17 @@ void ConvertPolicy::forbiddenFormatsAreRefused()
 {
     QFETCH(QString, input);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    writeContent(folder.filePath("x.ps"), postScript);
-    writeContent(folder.filePath("x.svg"), svg);
-    writeContent(folder.filePath("x.mvg"), mvg);
-    writeContent(folder.filePath("x.msl"), msl);
-    writeContent(folder.filePath("x.pdf"), pdf);
-    writeContent(folder.filePath("x.list"), "x.png\n");
+    makeImage(folder.filePath(u"x.png"_s));
+    writeContent(folder.filePath(u"x.ps"_s), postScript);
+    writeContent(folder.filePath(u"x.svg"_s), svg);
+    writeContent(folder.filePath(u"x.mvg"_s), mvg);
+    writeContent(folder.filePath(u"x.msl"_s), msl);
+    writeContent(folder.filePath(u"x.pdf"_s), pdf);
+    writeContent(folder.filePath(u"x.list"_s), "x.png\n");
     const QStringList names = namesIn(folder.path());
     for (const QStringList &arguments :
-         {QStringList{input, "o.pdf"}, QStringList{"-size", "9x9", input, "o.pdf"}}) {
-        QVERIFY(runBundled("convert", arguments, folder.path()).status != 0);
+         {QStringList{input, u"o.pdf"_s}, QStringList{u"-size"_s, u"9x9"_s, input, u"o.pdf"_s}}) {
+        QVERIFY(runBundled(u"convert"_s, arguments, folder.path()).status != 0);
         QCOMPARE(namesIn(folder.path()), names);
     }
 }
@@ -157,12 +159,12 @@ void ConvertPolicy::usersOwnPolicyChangesNothing()
     QFETCH(QString, variable);
     const QTemporaryDir home, folder;
     QDir(home.path()).mkpath(place);
-    writeContent(home.filePath(place + "/policy.xml"), permissive);
-    writeContent(folder.filePath("x.png"), mvg);
-    const RunResult result =
-        runBundled("convert", {"x.png", "o.pdf"}, folder.path(), {{variable, home.path()}});
+    writeContent(home.filePath(place + u"/policy.xml"_s), permissive);
+    writeContent(folder.filePath(u"x.png"_s), mvg);
+    const RunResult result = runBundled(u"convert"_s, {u"x.png"_s, u"o.pdf"_s}, folder.path(),
+                                        {{variable, home.path()}});
     QVERIFY(result.status != 0);
-    QCOMPARE(namesIn(folder.path()), QStringList{"x.png"});
+    QCOMPARE(namesIn(folder.path()), QStringList{u"x.png"_s});
 }
 
 void ConvertPolicy::plainFormatsAreConverted_data()
@@ -172,7 +174,7 @@ void ConvertPolicy::plainFormatsAreConverted_data()
          {"x.bmp", "x.gif",  "x.jpg",  "x.jpeg", "x.pbm", "x.pcx", "x.png", "x.ppm",
           "x.tif", "x.tiff", "x.webp", "x.jp2",  "x.pnm", "x.pgm", "x.tga", "x.xbm",
           "x.xpm", "x.psd",  "x.ico",  "x.sgi",  "x.sun", "x.JPG"})
-        QTest::newRow(name) << QString(name);
+        QTest::newRow(name) << name;
 }
 
 // The samples are the real tool's own: its readers and writers agree on every format.
@@ -180,13 +182,14 @@ void ConvertPolicy::plainFormatsAreConverted()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("source.png"), {40, 30});
-    const QString realTool = contentOf(bundleContents() + "/Resources/convert.tool").trimmed();
-    QCOMPARE(runProgram(realTool, {"source.png", name}, folder.path()).status, 0);
-    const RunResult result = runBundled("convert", {name, "o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"source.png"_s), {40, 30});
+    const QString realTool =
+        QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s)).trimmed();
+    QCOMPARE(runProgram(realTool, {u"source.png"_s, name}, folder.path()).status, 0);
+    const RunResult result = runBundled(u"convert"_s, {name, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.status, 0);
-    QVERIFY(contentOf(folder.filePath("o.pdf")).startsWith("%PDF-"));
+    QVERIFY(contentOf(folder.filePath(u"o.pdf"_s)).startsWith("%PDF-"));
 }
 
 void ConvertPolicy::everyCompressionIsWritten_data()
@@ -194,18 +197,19 @@ void ConvertPolicy::everyCompressionIsWritten_data()
     QTest::addColumn<QString>("word");
     for (const char *word :
          {"None", "Bzip", "Fax", "Group4", "JPEG", "JPEG2000", "Lossless", "LZW", "RLE", "zip"})
-        QTest::newRow(word) << QString(word);
+        QTest::newRow(word) << word;
 }
 
 void ConvertPolicy::everyCompressionIsWritten()
 {
     QFETCH(QString, word);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"), {40, 30});
-    for (const QStringList &colour : {QStringList{}, QStringList{"-monochrome"}}) {
-        const RunResult result = runBundled(
-            "convert", QStringList{"-compress", word} + colour + QStringList{"x.png", "o.pdf"},
-            folder.path());
+    makeImage(folder.filePath(u"x.png"_s), {40, 30});
+    for (const QStringList &colour : {QStringList{}, QStringList{u"-monochrome"_s}}) {
+        const RunResult result = runBundled(u"convert"_s,
+                                            QStringList{u"-compress"_s, word} + colour +
+                                                QStringList{u"x.png"_s, u"o.pdf"_s},
+                                            folder.path());
         QCOMPARE(result.errors, QByteArray());
         QCOMPARE(result.status, 0);
     }
@@ -216,16 +220,16 @@ void ConvertPolicy::onlyPdfIsWritten_data()
     QTest::addColumn<QString>("output");
     for (const char *output :
          {"o.png", "o.ps", "o.svg", "ps:o.pdf2", "o.mvg", "info:o.txt", "o.html"})
-        QTest::newRow(output) << QString(output);
+        QTest::newRow(output) << output;
 }
 
 void ConvertPolicy::onlyPdfIsWritten()
 {
     QFETCH(QString, output);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    QVERIFY(runBundled("convert", {"x.png", output}, folder.path()).status != 0);
-    const QString name = output.section(':', -1);
+    makeImage(folder.filePath(u"x.png"_s));
+    QVERIFY(runBundled(u"convert"_s, {u"x.png"_s, output}, folder.path()).status != 0);
+    const QString name = output.section(u':', -1);
     QCOMPARE(contentOf(folder.filePath(name)), QByteArray());
 }
 
@@ -244,8 +248,9 @@ void ConvertPolicy::sidesUpTo32000PixelsAreConverted()
     QFETCH(QSize, size);
     QFETCH(bool, accepted);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"), size);
-    QCOMPARE(runBundled("convert", {"x.png", "o.pdf"}, folder.path()).status == 0, accepted);
+    makeImage(folder.filePath(u"x.png"_s), size);
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"o.pdf"_s}, folder.path()).status == 0,
+             accepted);
 }
 
 QTEST_GUILESS_MAIN(ConvertPolicy)

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class ConvertPrivacy : public QObject
 {
     Q_OBJECT
@@ -63,21 +65,24 @@ QByteArray withSegments(const QByteArray &jpeg)
 // The samples are the real tool's own, with everything that it writes into these formats.
 void ConvertPrivacy::initTestCase()
 {
-    makeImage(m_folder.filePath("source.png"), {60, 40});
-    const QString realTool = contentOf(bundleContents() + "/Resources/convert.tool").trimmed();
-    const QStringList words = {"-set", "comment", planted, "-set", "label",     planted,
-                               "-set", "Author",  planted, "-set", "exif:Make", planted};
-    for (const char *name : {"source.jpg", "x.tif", "x.png", "x.gif", "x.ppm", "x.jp2", "x.webp"})
-        QCOMPARE(runProgram(realTool, QStringList{"source.png"} + words + QStringList{name},
+    makeImage(m_folder.filePath(u"source.png"_s), {60, 40});
+    const QString realTool =
+        QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s)).trimmed();
+    const QString text = QString::fromUtf8(planted);
+    const QStringList words = {u"-set"_s, u"comment"_s, text, u"-set"_s, u"label"_s,     text,
+                               u"-set"_s, u"Author"_s,  text, u"-set"_s, u"exif:Make"_s, text};
+    for (const QString &name :
+         {u"source.jpg"_s, u"x.tif"_s, u"x.png"_s, u"x.gif"_s, u"x.ppm"_s, u"x.jp2"_s, u"x.webp"_s})
+        QCOMPARE(runProgram(realTool, QStringList{u"source.png"_s} + words + QStringList{name},
                             m_folder.path())
                      .status,
                  0);
-    const QByteArray jpeg = withSegments(contentOf(m_folder.filePath("source.jpg")));
-    writeContent(m_folder.filePath("x.jpg"), jpeg);
-    for (const char *name : {"from-jpeg.tif", "from-jpeg.png", "from-jpeg.webp"})
-        QCOMPARE(runProgram(realTool, {"x.jpg", name}, m_folder.path()).status, 0);
-    for (const char *name : {"x.jpg", "x.tif", "x.png", "x.gif", "from-jpeg.tif"})
-        QVERIFY2(contentOf(m_folder.filePath(name)).contains(planted), name);
+    const QByteArray jpeg = withSegments(contentOf(m_folder.filePath(u"source.jpg"_s)));
+    writeContent(m_folder.filePath(u"x.jpg"_s), jpeg);
+    for (const QString &name : {u"from-jpeg.tif"_s, u"from-jpeg.png"_s, u"from-jpeg.webp"_s})
+        QCOMPARE(runProgram(realTool, {u"x.jpg"_s, name}, m_folder.path()).status, 0);
+    for (const QString &name : {u"x.jpg"_s, u"x.tif"_s, u"x.png"_s, u"x.gif"_s, u"from-jpeg.tif"_s})
+        QVERIFY2(contentOf(m_folder.filePath(name)).contains(planted), qPrintable(name));
 }
 
 void ConvertPrivacy::nothingButThePictureTravels_data()
@@ -86,17 +91,17 @@ void ConvertPrivacy::nothingButThePictureTravels_data()
     QTest::addColumn<QStringList>("options");
     const QList<std::pair<const char *, QStringList>> ways = {
         {"as it is", {}},
-        {"turned", {"-rotate", "90"}},
-        {"fitted", {"-resize", "20x20"}},
-        {"as JPEG", {"-compress", "JPEG"}},
-        {"as JPEG 2000, turned", {"-rotate", "90", "-compress", "JPEG2000"}},
-        {"as Zip", {"-compress", "zip"}},
-        {"in Group 4, black and white", {"-compress", "Group4", "-monochrome"}},
+        {"turned", {u"-rotate"_s, u"90"_s}},
+        {"fitted", {u"-resize"_s, u"20x20"_s}},
+        {"as JPEG", {u"-compress"_s, u"JPEG"_s}},
+        {"as JPEG 2000, turned", {u"-rotate"_s, u"90"_s, u"-compress"_s, u"JPEG2000"_s}},
+        {"as Zip", {u"-compress"_s, u"zip"_s}},
+        {"in Group 4, black and white", {u"-compress"_s, u"Group4"_s, u"-monochrome"_s}},
     };
     for (const char *name : {"x.jpg", "x.tif", "x.png", "x.gif", "x.ppm", "x.jp2", "x.webp",
                              "from-jpeg.tif", "from-jpeg.png", "from-jpeg.webp"}) {
         for (const auto &[way, options] : ways)
-            QTest::addRow("%s, %s", name, way) << QString(name) << options;
+            QTest::addRow("%s, %s", name, way) << name << options;
     }
 }
 
@@ -105,14 +110,15 @@ void ConvertPrivacy::nothingButThePictureTravels()
     QFETCH(QString, name);
     QFETCH(QStringList, options);
     const RunResult result =
-        runBundled("convert", options + QStringList{name, "o.pdf"}, m_folder.path());
+        runBundled(u"convert"_s, options + QStringList{name, u"o.pdf"_s}, m_folder.path());
     QCOMPARE(result.errors, QByteArray());
-    QVERIFY(!contentOf(m_folder.filePath("o.pdf")).contains(planted));
-    QCOMPARE(runProgram("/usr/bin/qpdf", {"--qdf", "--stream-data=uncompress", "o.pdf", "text.pdf"},
+    QVERIFY(!contentOf(m_folder.filePath(u"o.pdf"_s)).contains(planted));
+    QCOMPARE(runProgram(u"/usr/bin/qpdf"_s,
+                        {u"--qdf"_s, u"--stream-data=uncompress"_s, u"o.pdf"_s, u"text.pdf"_s},
                         m_folder.path())
                  .status,
              0);
-    const QByteArray text = contentOf(m_folder.filePath("text.pdf"));
+    const QByteArray text = contentOf(m_folder.filePath(u"text.pdf"_s));
     for (const QByteArray &word :
          {planted, QByteArray("Exif"), QByteArray("8BIM"), QByteArray("xmpmeta"),
           QByteArray("/Metadata"), QByteArray("/Thumb"), QByteArray("/Author")})
@@ -123,7 +129,7 @@ void ConvertPrivacy::colourProfileTravels_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::newRow("copied") << QStringList{};
-    QTest::newRow("converted") << QStringList{"-rotate", "90"};
+    QTest::newRow("converted") << QStringList{u"-rotate"_s, u"90"_s};
 }
 
 void ConvertPrivacy::colourProfileTravels()
@@ -132,11 +138,12 @@ void ConvertPrivacy::colourProfileTravels()
     QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::red);
     image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
-    QVERIFY(image.save(m_folder.filePath("profile.jpg")));
-    QCOMPARE(runBundled("convert", options + QStringList{"profile.jpg", "o.pdf"}, m_folder.path())
+    QVERIFY(image.save(m_folder.filePath(u"profile.jpg"_s)));
+    QCOMPARE(runBundled(u"convert"_s, options + QStringList{u"profile.jpg"_s, u"o.pdf"_s},
+                        m_folder.path())
                  .errors,
              QByteArray());
-    QVERIFY(contentOf(m_folder.filePath("o.pdf")).contains("/ICCBased"));
+    QVERIFY(contentOf(m_folder.filePath(u"o.pdf"_s)).contains("/ICCBased"));
 }
 
 QTEST_GUILESS_MAIN(ConvertPrivacy)

@@ -11,6 +11,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 class ConvertResults : public QObject
 {
     Q_OBJECT
@@ -42,9 +44,9 @@ private slots:
 
 namespace {
 
-QByteArray bytesOf(const char *utf8)
+RunResult convertIn(const QTemporaryDir &folder, const QStringList &words)
 {
-    return utf8;
+    return runBundled(u"convert"_s, words, folder.path());
 }
 
 QByteArray bigEndian(quint32 number)
@@ -97,7 +99,7 @@ void addOddNames()
                              "a<b>&c",
                              "x.y.z"})
         QTest::newRow(name) << QString::fromUtf8(name);
-    QTest::newRow("200 bytes of UTF-8") << QString::fromUtf8(bytesOf("\xC3\xBC").repeated(100));
+    QTest::newRow("200 bytes of UTF-8") << QString(100, u'\u00FC');
 }
 
 } // namespace
@@ -107,10 +109,11 @@ void ConvertResults::optionsReachTheTool_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QSizeF>("size");
     QTest::newRow("none") << QStringList{} << QSizeF(40, 20);
-    QTest::newRow("a page size") << QStringList{"-resize", "80x80"} << QSizeF(80, 40);
-    QTest::newRow("a turn") << QStringList{"-rotate", "90"} << QSizeF(20, 40);
-    QTest::newRow("all of them") << QStringList{"-resize",   "80x80", "-rotate",    "270",
-                                                "-compress", "zip",   "-monochrome"}
+    QTest::newRow("a page size") << QStringList{u"-resize"_s, u"80x80"_s} << QSizeF(80, 40);
+    QTest::newRow("a turn") << QStringList{u"-rotate"_s, u"90"_s} << QSizeF(20, 40);
+    QTest::newRow("all of them") << QStringList{u"-resize"_s,    u"80x80"_s,     u"-rotate"_s,
+                                                u"270"_s,        u"-compress"_s, u"zip"_s,
+                                                u"-monochrome"_s}
                                  << QSizeF(40, 80);
 }
 
@@ -119,11 +122,10 @@ void ConvertResults::optionsReachTheTool()
     QFETCH(QStringList, options);
     QFETCH(QSizeF, size);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.ppm"), {40, 20});
-    const RunResult result =
-        runBundled("convert", options + QStringList{"x.ppm", "o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.ppm"_s), {40, 20});
+    const RunResult result = convertIn(folder, options + QStringList{u"x.ppm"_s, u"o.pdf"_s});
     QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(readPdf(folder.filePath("o.pdf")).pageSizes, QList<QSizeF>{size});
+    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pageSizes, QList<QSizeF>{size});
 }
 
 void ConvertResults::anyNameIsAnOutput_data()
@@ -135,9 +137,9 @@ void ConvertResults::anyNameIsAnOutput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    const QString file = name + ".pdf";
-    const RunResult result = runBundled("convert", {"x.png", "x.png", file}, folder.path());
+    makeImage(folder.filePath(u"x.png"_s));
+    const QString file = name + u".pdf"_s;
+    const RunResult result = convertIn(folder, {u"x.png"_s, u"x.png"_s, file});
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.status, 0);
     QCOMPARE(namesIn(folder.path()).size(), 2);
@@ -156,12 +158,12 @@ void ConvertResults::anyNameIsAnInput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
-    const QString file = name + ".png";
+    const QString file = name + u".png"_s;
     makeImage(folder.filePath(file));
     for (const QString &input : {file, folder.filePath(file)}) {
-        const RunResult result = runBundled("convert", {input, input, "o.pdf"}, folder.path());
+        const RunResult result = convertIn(folder, {input, input, u"o.pdf"_s});
         QCOMPARE(result.errors, QByteArray());
-        QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 2);
+        QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 2);
     }
 }
 
@@ -169,7 +171,7 @@ void ConvertResults::anyExtensionIsAnInput_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"x.dng", "x.map", "x.pdf", "x.svg", "x.html", "x.1", "x"})
-        QTest::newRow(name) << QString(name);
+        QTest::newRow(name) << name;
 }
 
 // The content alone says what it is.
@@ -177,68 +179,68 @@ void ConvertResults::anyExtensionIsAnInput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.bmp"));
-    QVERIFY(QFile::rename(folder.filePath("x.bmp"), folder.filePath(name)));
-    const RunResult result = runBundled("convert", {name, "o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.bmp"_s));
+    QVERIFY(QFile::rename(folder.filePath(u"x.bmp"_s), folder.filePath(name)));
+    const RunResult result = convertIn(folder, {name, u"o.pdf"_s});
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 1);
+    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
 }
 
 void ConvertResults::sixtyScannedPagesGiveSixty()
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("0.jpg"), {2480, 3508});
+    makeImage(folder.filePath(u"0.jpg"_s), {2480, 3508});
     QStringList arguments;
     for (int page = 0; page < 60; ++page) {
-        arguments << QString::number(page) + ".jpg";
-        QFile::link("0.jpg", folder.filePath(arguments.last()));
+        arguments << QString::number(page) + u".jpg"_s;
+        QFile::link(u"0.jpg"_s, folder.filePath(arguments.last()));
     }
-    const RunResult result = runBundled("convert", arguments << "o.pdf", folder.path());
+    const RunResult result = convertIn(folder, arguments << u"o.pdf"_s);
     QCOMPARE(result.errors, QByteArray());
-    const PdfFacts facts = readPdf(folder.filePath("o.pdf"));
+    const PdfFacts facts = readPdf(folder.filePath(u"o.pdf"_s));
     QCOMPARE(facts.pageSizes, QList<QSizeF>(60, facts.pageSizes.value(0)));
 }
 
 void ConvertResults::thousandsOfLongNamesFit()
 {
     const QTemporaryDir folder;
-    const QString deep = folder.filePath(QString(190, 'd'));
+    const QString deep = folder.filePath(QString(190, u'd'));
     QDir().mkpath(deep);
-    makeImage(deep + "/x.ppm", {1, 1});
-    const RunResult result =
-        runBundled("convert", QStringList(3000, deep + "/x.ppm") << "o.pdf", folder.path());
+    makeImage(deep + u"/x.ppm"_s, {1, 1});
+    const RunResult result = convertIn(folder, QStringList(3000, deep + u"/x.ppm"_s) << u"o.pdf"_s);
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 3000);
+    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 3000);
 }
 
 void ConvertResults::failureLeavesTheOlderPdf_data()
 {
     QTest::addColumn<QStringList>("inputs");
-    QTest::newRow("the only image is missing") << QStringList{"missing.png"};
-    QTest::newRow("one of three is missing") << QStringList{"x.png", "missing.png", "x.png"};
-    QTest::newRow("the last is no image") << QStringList{"x.png", "text.png"};
-    QTest::newRow("the first is empty") << QStringList{"empty.png", "x.png"};
-    QTest::newRow("one is a PostScript file") << QStringList{"x.png", "ps.png"};
-    QTest::newRow("one is cut off within its header") << QStringList{"x.png", "short.png"};
-    QTest::newRow("one is a folder") << QStringList{"x.png", "folder"};
+    QTest::newRow("the only image is missing") << QStringList{u"missing.png"_s};
+    QTest::newRow("one of three is missing")
+        << QStringList{u"x.png"_s, u"missing.png"_s, u"x.png"_s};
+    QTest::newRow("the last is no image") << QStringList{u"x.png"_s, u"text.png"_s};
+    QTest::newRow("the first is empty") << QStringList{u"empty.png"_s, u"x.png"_s};
+    QTest::newRow("one is a PostScript file") << QStringList{u"x.png"_s, u"ps.png"_s};
+    QTest::newRow("one is cut off within its header") << QStringList{u"x.png"_s, u"short.png"_s};
+    QTest::newRow("one is a folder") << QStringList{u"x.png"_s, u"folder"_s};
 }
 
 void ConvertResults::failureLeavesTheOlderPdf()
 {
     QFETCH(QStringList, inputs);
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    writeContent(folder.filePath("text.png"), "no image\n");
-    writeContent(folder.filePath("empty.png"), "");
-    writeContent(folder.filePath("ps.png"), "%!PS\nshowpage\n");
-    writeContent(folder.filePath("short.png"), contentOf(folder.filePath("x.png")).left(20));
-    QDir(folder.path()).mkdir("folder");
-    writeContent(folder.filePath("o.pdf"), "older");
+    makeImage(folder.filePath(u"x.png"_s));
+    writeContent(folder.filePath(u"text.png"_s), "no image\n");
+    writeContent(folder.filePath(u"empty.png"_s), "");
+    writeContent(folder.filePath(u"ps.png"_s), "%!PS\nshowpage\n");
+    writeContent(folder.filePath(u"short.png"_s), contentOf(folder.filePath(u"x.png"_s)).left(20));
+    QDir(folder.path()).mkdir(u"folder"_s);
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
     const QStringList names = namesIn(folder.path());
-    const RunResult result = runBundled("convert", inputs + QStringList{"o.pdf"}, folder.path());
+    const RunResult result = convertIn(folder, inputs + QStringList{u"o.pdf"_s});
     QCOMPARE(result.status, 1);
     QVERIFY(!result.errors.isEmpty());
-    QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("older"));
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
     QCOMPARE(namesIn(folder.path()), names);
 }
 
@@ -256,14 +258,14 @@ void ConvertResults::whatIsNoRegularFileFailsAtOnce()
 {
     QFETCH(QString, input);
     const QTemporaryDir folder;
-    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath("fifo")).constData(), 0600), 0);
-    QFile::link("fifo", folder.filePath("link"));
-    QFile::link("loop", folder.filePath("loop"));
-    makeImage(folder.filePath("x.png"));
-    const RunResult result = runBundled("convert", {"x.png", input, "o.pdf"}, folder.path());
+    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"fifo"_s)).constData(), 0600), 0);
+    QFile::link(u"fifo"_s, folder.filePath(u"link"_s));
+    QFile::link(u"loop"_s, folder.filePath(u"loop"_s));
+    makeImage(folder.filePath(u"x.png"_s));
+    const RunResult result = convertIn(folder, {u"x.png"_s, input, u"o.pdf"_s});
     QCOMPARE(result.status, 1);
     QVERIFY(result.errors.startsWith("convert: cannot read '" + input.toUtf8() + "'"));
-    QVERIFY(!QFile::exists(folder.filePath("o.pdf")));
+    QVERIFY(!QFile::exists(folder.filePath(u"o.pdf"_s)));
 }
 
 void ConvertResults::outputFolderMayBeRelativeOrOdd_data()
@@ -281,17 +283,17 @@ void ConvertResults::outputFolderMayBeRelativeOrOdd()
     QFETCH(QString, output);
     const QTemporaryDir folder;
     QDir(folder.path()).mkpath(QDir::cleanPath(output));
-    makeImage(folder.filePath("x.png"));
-    const RunResult result = runBundled("convert", {"x.png", output + "/o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.png"_s));
+    const RunResult result = convertIn(folder, {u"x.png"_s, output + u"/o.pdf"_s});
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(namesIn(folder.filePath(output)), QStringList{"o.pdf"});
+    QCOMPARE(namesIn(folder.filePath(output)), QStringList{u"o.pdf"_s});
 }
 
 void ConvertResults::missingOutputFolderIsNamed()
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    const RunResult result = runBundled("convert", {"x.png", "no/o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.png"_s));
+    const RunResult result = convertIn(folder, {u"x.png"_s, u"no/o.pdf"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
              QByteArray("convert: cannot use the folder 'no': No such file or directory\n"));
@@ -330,7 +332,7 @@ void ConvertResults::decompressionBombIsRefused()
     QFETCH(QByteArray, content);
     const QTemporaryDir folder;
     writeContent(folder.filePath(name), content);
-    const RunResult result = runBundled("convert", {name, "o.pdf"}, folder.path());
+    const RunResult result = convertIn(folder, {name, u"o.pdf"_s});
     QCOMPARE(result.status, 1);
     QVERIFY(!result.errors.isEmpty());
     QCOMPARE(namesIn(folder.path()), QStringList{name});
@@ -339,52 +341,55 @@ void ConvertResults::decompressionBombIsRefused()
 void ConvertResults::tenCallsAtOnceInOneFolder()
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.jpg"), {900, 700});
+    makeImage(folder.filePath(u"x.jpg"_s), {900, 700});
     std::vector<std::unique_ptr<QProcess>> calls;
     calls.reserve(10);
     for (int i = 0; i < 10; ++i)
-        calls.push_back(startProgram(bundledTool("convert"),
-                                     {"x.jpg", "o" + QString::number(i % 5) + ".pdf"},
+        calls.push_back(startProgram(bundledTool(u"convert"_s),
+                                     {u"x.jpg"_s, u"o"_s + QString::number(i % 5) + u".pdf"_s},
                                      folder.path()));
     for (const auto &call : calls) {
         QVERIFY(call->waitForFinished(120'000));
         QCOMPARE(call->readAllStandardError(), QByteArray());
         QCOMPARE(call->exitCode(), 0);
     }
-    QCOMPARE(namesIn(folder.path()),
-             QStringList({"o0.pdf", "o1.pdf", "o2.pdf", "o3.pdf", "o4.pdf", "x.jpg"}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"o0.pdf"_s, u"o1.pdf"_s, u"o2.pdf"_s,
+                                                  u"o3.pdf"_s, u"o4.pdf"_s, u"x.jpg"_s}));
     for (int i = 0; i < 5; ++i)
-        QCOMPARE(readPdf(folder.filePath("o" + QString::number(i) + ".pdf")).pages, 1);
+        QCOMPARE(readPdf(folder.filePath(u"o"_s + QString::number(i) + u".pdf"_s)).pages, 1);
 }
 
 void ConvertResults::messagesNameTheUsersFiles()
 {
     const QTemporaryDir folder;
-    writeContent(folder.filePath("my bad%d.png"), "no image\n");
-    const RunResult result = runBundled("convert", {"my bad%d.png", "o.pdf"}, folder.path());
+    writeContent(folder.filePath(u"my bad%d.png"_s), "no image\n");
+    const RunResult result = convertIn(folder, {u"my bad%d.png"_s, u"o.pdf"_s});
     QVERIFY2(result.errors.contains("`my bad%d.png'"), result.errors.constData());
 }
 
 void ConvertResults::callIsLoggedOnRequest()
 {
     const QTemporaryDir folder, logs;
-    makeImage(folder.filePath("x.png"));
-    writeContent(folder.filePath("bad.png"), "no image\n");
-    const QString log = logs.filePath("log");
-    const Variables variables = {{"TESSARO_TOOL_LOG", log}};
-    runBundled("convert", {"-rotate", "90", "x.png", "o.pdf"}, folder.path(), variables);
-    runBundled("convert", {"bad.png", "o.pdf"}, folder.path(), variables);
-    runBundled("convert", {"-size", "1x1", "xc:red", "o.pdf"}, folder.path(), variables);
-    const QString text = contentOf(log);
-    QVERIFY2(text.contains(QRegularExpression(
-                 "^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ convert exit status 0 after \\d+ ms\n"
-                 "  argument: -rotate\n  argument: 90\n  argument: x.png\n  argument: o.pdf\n"
-                 "\\S+ convert exit status 1 after \\d+ ms\n"
-                 "  argument: bad.png\n  argument: o.pdf\n  message: .*bad.png.*\n")),
+    makeImage(folder.filePath(u"x.png"_s));
+    writeContent(folder.filePath(u"bad.png"_s), "no image\n");
+    const QString log = logs.filePath(u"log"_s);
+    const Variables variables = {{u"TESSARO_TOOL_LOG"_s, log}};
+    for (const QStringList &words :
+         {QStringList{u"-rotate"_s, u"90"_s, u"x.png"_s}, QStringList{u"bad.png"_s},
+          QStringList{u"-size"_s, u"1x1"_s, u"xc:red"_s}})
+        runBundled(u"convert"_s, words + QStringList{u"o.pdf"_s}, folder.path(), variables);
+    const QString text = QString::fromUtf8(contentOf(log));
+    QVERIFY2(
+        text.contains(QRegularExpression(
+            u"^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ convert exit status 0 after \\d+ ms\n"
+            "  argument: -rotate\n  argument: 90\n  argument: x.png\n  argument: o.pdf\n"
+            "\\S+ convert exit status 1 after \\d+ ms\n"
+            "  argument: bad.png\n  argument: o.pdf\n  message: .*bad.png.*\n"_s)),
+        qPrintable(text));
+    QVERIFY2(text.contains(u"  argument: xc:red\n  argument: o.pdf\n  message: "_s),
              qPrintable(text));
-    QVERIFY2(text.contains("  argument: xc:red\n  argument: o.pdf\n  message: "), qPrintable(text));
     QCOMPARE(QFile::permissions(log) & (QFile::ReadOther | QFile::ReadGroup), QFile::Permissions());
-    QCOMPARE(namesIn(logs.path()), QStringList{"log"});
+    QCOMPARE(namesIn(logs.path()), QStringList{u"log"_s});
 }
 
 QTEST_GUILESS_MAIN(ConvertResults)

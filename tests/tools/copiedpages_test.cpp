@@ -16,6 +16,8 @@
 #include <cmath>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 class CopiedPages : public QObject
 {
     Q_OBJECT
@@ -36,16 +38,17 @@ using Pages = std::optional<std::vector<CopyablePage>>;
 // The real tool under the bundle's policy, as the program convert runs it.
 void runRealTool(const QString &folder, const QStringList &arguments)
 {
-    const QString configuration = bundleContents() + "/Resources/magick";
-    QStringList command = QString::fromUtf8(contentOf(bundleContents() + "/Resources/convert.tool"))
-                              .split('\n', Qt::SkipEmptyParts);
+    const QString configuration = bundleContents() + u"/Resources/magick"_s;
+    QStringList command =
+        QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s))
+            .split(u'\n', Qt::SkipEmptyParts);
     const QString program = command.takeFirst();
     const RunResult result = runProgram(program, command + arguments, folder,
-                                        {{"MAGICK_CONFIGURE_PATH", configuration + "/limits"},
-                                         {"XDG_CONFIG_HOME", configuration + "/rights"},
-                                         {"HOME", configuration},
-                                         {"MAGICK_THREAD_LIMIT", "1"},
-                                         {"LC_ALL", "C.UTF-8"}});
+                                        {{u"MAGICK_CONFIGURE_PATH"_s, configuration + u"/limits"_s},
+                                         {u"XDG_CONFIG_HOME"_s, configuration + u"/rights"_s},
+                                         {u"HOME"_s, configuration},
+                                         {u"MAGICK_THREAD_LIMIT"_s, u"1"_s},
+                                         {u"LC_ALL"_s, u"C.UTF-8"_s}});
     QVERIFY2(result.status == 0, result.errors.constData());
 }
 
@@ -59,7 +62,7 @@ Pages readPages(const QString &path)
 
 QList<QSizeF> mediaBoxes(const QByteArray &pdf)
 {
-    static const QRegularExpression box("/MediaBox \\[0 0 (\\S+) (\\S+)\\]");
+    static const QRegularExpression box(u"/MediaBox \\[0 0 (\\S+) (\\S+)\\]"_s);
     QList<QSizeF> sizes;
     for (const QRegularExpressionMatch &match : box.globalMatch(QString::fromLatin1(pdf)))
         sizes.append({match.captured(1).toDouble(), match.captured(2).toDouble()});
@@ -132,16 +135,17 @@ QByteArray pdfWith(const CopyablePage &page, const QByteArray &file, double marg
 // The page of NAME.pdf, a pixel for each point.
 QImage drawnBy(const QString &reader, const QString &folder, const QString &name)
 {
-    const QString pdf = name + ".pdf";
-    const QString png = name + "-by-" + reader;
+    const QString pdf = name + u".pdf"_s;
+    const QString png = name + u"-by-"_s + reader;
     const QStringList arguments =
-        reader == "mutool" ? QStringList{"draw", "-q", "-r", "72", "-o", png + ".png", pdf}
-                           : QStringList{"-r", "72", "-png", "-singlefile", pdf, png};
+        reader == u"mutool"_s
+            ? QStringList{u"draw"_s, u"-q"_s, u"-r"_s, u"72"_s, u"-o"_s, png + u".png"_s, pdf}
+            : QStringList{u"-r"_s, u"72"_s, u"-png"_s, u"-singlefile"_s, pdf, png};
     const RunResult result = runProgram(reader, arguments, folder);
     // Debian's mutool warns that it knows no profiles.
-    if (result.status != 0 || (reader == "pdftoppm" && !result.errors.isEmpty()))
+    if (result.status != 0 || (reader == u"pdftoppm"_s && !result.errors.isEmpty()))
         QTest::qFail(result.errors.constData(), __FILE__, __LINE__);
-    return QImage(folder + "/" + png + ".png").convertToFormat(QImage::Format_RGB888);
+    return QImage(folder + u'/' + png + u".png"_s).convertToFormat(QImage::Format_RGB888);
 }
 
 // Peak signal-to-noise ratio in decibels; infinite for equal pictures, 0 for such of unlike size.
@@ -176,21 +180,20 @@ void CopiedPages::pageHasTheRealSize()
     QFETCH(const QByteArray, bytes);
     QFETCH(const bool, isCopied);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("picture"), bytes);
+    writeContent(folder.filePath(u"picture"_s), bytes);
 
-    const Pages pages = readPages(folder.filePath("picture"));
+    const Pages pages = readPages(folder.filePath(u"picture"_s));
 
     QCOMPARE(pages.has_value(), isCopied);
     if (!isCopied)
         return;
-    runRealTool(folder.path(), {"picture", "real.pdf"});
-    const QList<QSizeF> sizes = mediaBoxes(contentOf(folder.filePath("real.pdf")));
+    runRealTool(folder.path(), {u"picture"_s, u"real.pdf"_s});
+    const QList<QSizeF> sizes = mediaBoxes(contentOf(folder.filePath(u"real.pdf"_s)));
     QCOMPARE(qsizetype(pages->size()), sizes.size());
     for (size_t number = 0; number < pages->size(); ++number) {
         const CopyablePage &page = pages->at(number);
         const QSizeF real = sizes.at(qsizetype(number));
-        const QString sight = QStringLiteral("%1 x %2, not %3 x %4")
-                                  .arg(page.pageWidth)
+        const QString sight = u"%1 x %2, not %3 x %4"_s.arg(page.pageWidth)
                                   .arg(page.pageHeight)
                                   .arg(real.width())
                                   .arg(real.height());
@@ -208,30 +211,30 @@ void CopiedPages::pictureIsTheRealOne()
 {
     QFETCH(const QByteArray, bytes);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("picture"), bytes);
-    const Pages pages = readPages(folder.filePath("picture"));
+    writeContent(folder.filePath(u"picture"_s), bytes);
+    const Pages pages = readPages(folder.filePath(u"picture"_s));
     QVERIFY(pages && pages->size() == 1);
-    writeContent(folder.filePath("copied.pdf"), pdfWith(pages->front(), bytes, 0));
+    writeContent(folder.filePath(u"copied.pdf"_s), pdfWith(pages->front(), bytes, 0));
     // Poppler 22.12 draws a picture that ends on a pixel's edge one pixel larger.
-    writeContent(folder.filePath("inside.pdf"), pdfWith(pages->front(), bytes, 0.001));
-    runRealTool(folder.path(), {"picture", "real.pdf"});
+    writeContent(folder.filePath(u"inside.pdf"_s), pdfWith(pages->front(), bytes, 0.001));
+    runRealTool(folder.path(), {u"picture"_s, u"real.pdf"_s});
 
-    const QImage byPoppler = drawnBy("pdftoppm", folder.path(), "copied");
-    const QImage byMutool = drawnBy("mutool", folder.path(), "inside");
-    const QImage real = drawnBy("pdftoppm", folder.path(), "real");
-    const RunResult ours = runBundled("convert", {"picture", "ours.pdf"}, folder.path());
+    const QImage byPoppler = drawnBy(u"pdftoppm"_s, folder.path(), u"copied"_s);
+    const QImage byMutool = drawnBy(u"mutool"_s, folder.path(), u"inside"_s);
+    const QImage real = drawnBy(u"pdftoppm"_s, folder.path(), u"real"_s);
+    const RunResult ours = runBundled(u"convert"_s, {u"picture"_s, u"ours.pdf"_s}, folder.path());
     QVERIFY2(ours.status == 0, ours.errors.constData());
-    const RunResult check = runProgram("qpdf", {"--check", "ours.pdf"}, folder.path());
+    const RunResult check = runProgram(u"qpdf"_s, {u"--check"_s, u"ours.pdf"_s}, folder.path());
     QVERIFY2(check.status == 0, check.errors.constData());
 
     QCOMPARE(byPoppler.size(), QSize(40, 30));
-    QCOMPARE(drawnBy("pdftoppm", folder.path(), "ours"), byPoppler);
+    QCOMPARE(drawnBy(u"pdftoppm"_s, folder.path(), u"ours"_s), byPoppler);
     QCOMPARE(byMutool.size(), byPoppler.size());
     // Readers differ in what they make of a profile.
     if (pages->front().iccProfile.empty()) {
         QImage source = QImage::fromData(bytes).convertToFormat(QImage::Format_RGB888);
         source.setColorSpace({});
-        QCOMPARE(drawnBy("pdftoppm", folder.path(), "inside"), source);
+        QCOMPARE(drawnBy(u"pdftoppm"_s, folder.path(), u"inside"_s), source);
         QCOMPARE(byMutool, source);
     }
     const bool isExact = pages->front().filter != "DCTDecode";
@@ -256,7 +259,8 @@ void CopiedPages::privateDataStaysBehind_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QStringList>("options");
     for (const bool isCopied : {true, false}) {
-        const QStringList options = isCopied ? QStringList() : QStringList{"-resize", "595x842"};
+        const QStringList options =
+            isCopied ? QStringList() : QStringList{u"-resize"_s, u"595x842"_s};
         const QByteArray way = isCopied ? ", copied" : ", converted";
         QTest::newRow("JPEG" + way) << fullJpeg << options;
         QTest::newRow("PNG" + way) << png(pngForm) << options;
@@ -270,16 +274,17 @@ void CopiedPages::privateDataStaysBehind()
     QFETCH(const QStringList, options);
     QVERIFY(bytes.contains("planted words"));
     const QTemporaryDir folder;
-    writeContent(folder.filePath("picture"), bytes);
+    writeContent(folder.filePath(u"picture"_s), bytes);
 
     const RunResult result =
-        runBundled("convert", options + QStringList{"picture", "ours.pdf"}, folder.path());
+        runBundled(u"convert"_s, options + QStringList{u"picture"_s, u"ours.pdf"_s}, folder.path());
 
     QVERIFY2(result.status == 0, result.errors.constData());
     const RunResult open = runProgram(
-        "qpdf", {"--qdf", "--object-streams=disable", "ours.pdf", "open.pdf"}, folder.path());
+        u"qpdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s, u"ours.pdf"_s, u"open.pdf"_s},
+        folder.path());
     QVERIFY2(open.status == 0, open.errors.constData());
-    QVERIFY(!contentOf(folder.filePath("open.pdf")).contains("planted"));
+    QVERIFY(!contentOf(folder.filePath(u"open.pdf"_s)).contains("planted"));
 }
 
 QTEST_GUILESS_MAIN(CopiedPages)

@@ -5,6 +5,8 @@
 #include <QTemporaryFile>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray streamOf(const CopyablePage &page, const QByteArray &file)
@@ -53,6 +55,6 @@ void compareRefusal()
     QFETCH(const QByteArray, file);
     for (const Compression asked : {Compression::Unset, Compression::Other}) {
         const Reading reading = readImage(file, asked);
-        QVERIFY2(reading.refusal.startsWith("the picture is "), qPrintable(reading.refusal));
+        QVERIFY2(reading.refusal.startsWith(u"the picture is "_s), qPrintable(reading.refusal));
     }
 }

@@ -9,6 +9,8 @@
 
 #include <cstdint>
 
+using namespace Qt::StringLiterals;
+
 class PagesCorpus : public QObject
 {
     Q_OBJECT
@@ -21,12 +23,12 @@ private slots:
 void PagesCorpus::keepsTheReadersPromises_data()
 {
     QTest::addColumn<QString>("path");
-    for (const char *format : {"jpeg", "png", "tiff"}) {
-        const QDir folder(QStringLiteral(PAGES_CORPUS) + "/" + format);
+    for (const QString &format : {u"jpeg"_s, u"png"_s, u"tiff"_s}) {
+        const QDir folder(u"" PAGES_CORPUS "/"_s + format);
         const QStringList names = folder.entryList(QDir::Files);
-        QVERIFY2(!names.isEmpty(), format);
+        QVERIFY2(!names.isEmpty(), qPrintable(format));
         for (const QString &name : names)
-            QTest::newRow(qPrintable(format + ("/" + name))) << folder.filePath(name);
+            QTest::newRow(qPrintable(format + u'/' + name)) << folder.filePath(name);
     }
 }
 

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class PdftkDescription : public QObject
 {
     Q_OBJECT
@@ -53,20 +55,20 @@ const QString emoji = QString::fromUtf8("M\xC3\xBCller \xE2\x82\xAC\xF0\x9F\x98\
 
 void PdftkDescription::initTestCase()
 {
-    QVERIFY(m_locales.add("en_US", "ISO-8859-1"));
+    QVERIFY(m_locales.add(u"en_US"_s, u"ISO-8859-1"_s));
     m_locales.use("C");
-    makeImage(m_folder.filePath("x.png"));
-    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, m_folder.path()).status, 0);
+    makeImage(m_folder.filePath(u"x.png"_s));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
 RunResult PdftkDescription::finish(const QStringList &tail, const Variables &variables) const
 {
-    return runBundled("pdftk", QStringList{"in.pdf"} + tail, m_folder.path(), variables);
+    return runBundled(u"pdftk"_s, QStringList{u"in.pdf"_s} + tail, m_folder.path(), variables);
 }
 
 void PdftkDescription::namesTheVersionThatRan()
 {
-    const RunResult result = runBundled("pdftk", {"--version"}, m_folder.path());
+    const RunResult result = runBundled(u"pdftk"_s, {u"--version"_s}, m_folder.path());
     qInfo().noquote() << result.output.trimmed().split('\n').first();
     QCOMPARE(result.status, 0);
     QVERIFY(result.output.contains("pdftk"));
@@ -77,18 +79,20 @@ void PdftkDescription::fieldsArriveAsTyped_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QStringList>("fields");
     const QList<std::pair<const char *, QStringList>> texts = {
-        {"plain words", {"a title", "a subject", "some, keywords", "an author"}},
+        {"plain words", {u"a title"_s, u"a subject"_s, u"some, keywords"_s, u"an author"_s}},
         {"beyond ASCII", {emoji, umlauts, emoji, QString::fromUtf8("\xE6\x97\xA5\xE6\x9C\xAC")}},
-        {"blanks around", {"  two before", "two after  ", " ", "\ttab\tin\tit"}},
-        {"what looks like markup", {"a &amp; b", "<b> \"q\" 'a'", "&#252;", "InfoKey:Title"}},
-        {"labels as lines of a value", {"a\nInfoBegin\nInfoKey:x", "b", "c\n", "d\nInfoValue:"}},
-        {"empty but one", {"", "", "", "author"}},
-        {"a title alone", {"only", "", "", ""}},
-        {"backslashes and brackets", {"a\\b", "(open", "closed)", "\\303\\274"}},
+        {"blanks around", {u"  two before"_s, u"two after  "_s, u" "_s, u"\ttab\tin\tit"_s}},
+        {"what looks like markup",
+         {u"a &amp; b"_s, u"<b> \"q\" 'a'"_s, u"&#252;"_s, u"InfoKey:Title"_s}},
+        {"labels as lines of a value",
+         {u"a\nInfoBegin\nInfoKey:x"_s, u"b"_s, u"c\n"_s, u"d\nInfoValue:"_s}},
+        {"empty but one", {u""_s, u""_s, u""_s, u"author"_s}},
+        {"a title alone", {u"only"_s, u""_s, u""_s, u""_s}},
+        {"backslashes and brackets", {u"a\\b"_s, u"(open"_s, u"closed)"_s, u"\\303\\274"_s}},
     };
     for (const char *locale : {"C", "POSIX", "C.UTF-8", "none_such.UTF-8"}) {
         for (const auto &[name, fields] : texts)
-            QTest::addRow("%s under %s", name, locale) << QString(locale) << fields;
+            QTest::addRow("%s under %s", name, locale) << locale << fields;
     }
 }
 
@@ -99,34 +103,35 @@ void PdftkDescription::fieldsArriveAsTyped()
     QByteArrayList values;
     for (const QString &field : fields)
         values.append(field.toUtf8());
-    writeContent(m_folder.filePath("info"), infoFile(values));
+    writeContent(m_folder.filePath(u"info"_s), infoFile(values));
     const RunResult result =
-        finish({"update_info", "info", "output", "out.pdf"}, {{"LC_ALL", locale}});
+        finish({u"update_info"_s, u"info"_s, u"output"_s, u"out.pdf"_s}, {{u"LC_ALL"_s, locale}});
     QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(fieldsOf(m_folder.filePath("out.pdf")), fields);
+    QCOMPARE(fieldsOf(m_folder.filePath(u"out.pdf"_s)), fields);
 }
 
 void PdftkDescription::fieldsArriveInTheLocalesCharset()
 {
-    writeContent(m_folder.filePath("info"),
+    writeContent(m_folder.filePath(u"info"_s),
                  infoFile({umlauts.toLatin1(), "\xA4", " \xE9 ", "plain"}));
-    const RunResult result =
-        finish({"update_info", "info", "output", "out.pdf"}, {{"LC_ALL", "en_US.ISO-8859-1"}});
+    const RunResult result = finish({u"update_info"_s, u"info"_s, u"output"_s, u"out.pdf"_s},
+                                    {{u"LC_ALL"_s, u"en_US.ISO-8859-1"_s}});
     QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(fieldsOf(m_folder.filePath("out.pdf")),
-             QStringList(
-                 {umlauts, QString::fromLatin1("\xA4"), QString::fromLatin1(" \xE9 "), "plain"}));
+    QCOMPARE(fieldsOf(m_folder.filePath(u"out.pdf"_s)),
+             QStringList({umlauts, QString::fromLatin1("\xA4"), QString::fromLatin1(" \xE9 "),
+                          u"plain"_s}));
 }
 
 void PdftkDescription::newerFormIsLeftToTheTool()
 {
-    writeContent(m_folder.filePath("info"), "InfoBegin\nInfoKey: Title\nInfoValue: M&#252;ller\n"
-                                            "InfoBegin\nInfoKey: Author\nInfoValue: a &amp; b\n");
-    const RunResult result = finish({"update_info", "info", "output", "out.pdf"});
+    writeContent(m_folder.filePath(u"info"_s),
+                 "InfoBegin\nInfoKey: Title\nInfoValue: M&#252;ller\n"
+                 "InfoBegin\nInfoKey: Author\nInfoValue: a &amp; b\n");
+    const RunResult result = finish({u"update_info"_s, u"info"_s, u"output"_s, u"out.pdf"_s});
     QCOMPARE(result.errors + result.output, QByteArray());
-    const PdfFacts facts = readPdf(m_folder.filePath("out.pdf"));
+    const PdfFacts facts = readPdf(m_folder.filePath(u"out.pdf"_s));
     QCOMPARE(facts.title, umlauts);
-    QCOMPARE(facts.author, QString("a & b"));
+    QCOMPARE(facts.author, u"a & b"_s);
 }
 
 void PdftkDescription::fileNamesPassInEveryLocale_data()
@@ -134,11 +139,9 @@ void PdftkDescription::fileNamesPassInEveryLocale_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("name");
     for (const char *locale : {"C", "C.UTF-8", "en_US.ISO-8859-1"}) {
-        for (const QString &name :
-             {emoji, QString("-dash"), QString("50%d [x]"), QString("a:b*c"), QString(" blanks "),
-              QString("output"), QString("PROMPT"), QString(umlauts[1]).repeated(100)})
-            QTest::addRow("%s under %s", qPrintable(name.left(20)), locale)
-                << QString(locale) << name;
+        for (const QString &name : {emoji, u"-dash"_s, u"50%d [x]"_s, u"a:b*c"_s, u" blanks "_s,
+                                    u"output"_s, u"PROMPT"_s, QString(umlauts[1]).repeated(100)})
+            QTest::addRow("%s under %s", qPrintable(name.left(20)), locale) << locale << name;
     }
 }
 
@@ -147,47 +150,50 @@ void PdftkDescription::fileNamesPassInEveryLocale()
     QFETCH(QString, locale);
     QFETCH(QString, name);
     const QTemporaryDir folder;
-    const QString input = name + ".pdf", output = name + "-1.pdf", info = name + ".txt";
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath(input)));
+    const QString input = name + u".pdf"_s, output = name + u"-1.pdf"_s, info = name + u".txt"_s;
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(input)));
     writeContent(folder.filePath(info), infoFile({"t", "", "", ""}));
-    const RunResult result = runBundled("pdftk", {input, "update_info", info, "output", output},
-                                        folder.path(), {{"LC_ALL", locale}});
+    const RunResult result =
+        runBundled(u"pdftk"_s, {input, u"update_info"_s, info, u"output"_s, output}, folder.path(),
+                   {{u"LC_ALL"_s, locale}});
     QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(readPdf(folder.filePath(output)).title, QString("t"));
+    QCOMPARE(readPdf(folder.filePath(output)).title, u"t"_s);
     QCOMPARE(namesIn(folder.path()).size(), 3);
 }
 
 void PdftkDescription::missingInfoFileFails()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    writeContent(folder.filePath("out.pdf"), "older");
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    writeContent(folder.filePath(u"out.pdf"_s), "older");
     const RunResult result = runBundled(
-        "pdftk", {"in.pdf", "update_info", "no.txt", "output", "out.pdf"}, folder.path());
+        u"pdftk"_s, {u"in.pdf"_s, u"update_info"_s, u"no.txt"_s, u"output"_s, u"out.pdf"_s},
+        folder.path());
     QVERIFY(result.status > 0);
     QVERIFY2(result.errors.contains("no.txt"), result.errors.constData());
-    QCOMPARE(contentOf(folder.filePath("out.pdf")), QByteArray("older"));
-    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "out.pdf"}));
+    QCOMPARE(contentOf(folder.filePath(u"out.pdf"_s)), QByteArray("older"));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"out.pdf"_s}));
 }
 
 // What the application calls when it cannot write its info file.
 void PdftkDescription::missingInputFails()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    const RunResult result = runBundled("pdftk", {"in.pdf111", "output", "out.pdf"}, folder.path());
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    const RunResult result =
+        runBundled(u"pdftk"_s, {u"in.pdf111"_s, u"output"_s, u"out.pdf"_s}, folder.path());
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("in.pdf111"), result.errors.constData());
-    QCOMPARE(namesIn(folder.path()), QStringList{"in.pdf"});
+    QCOMPARE(namesIn(folder.path()), QStringList{u"in.pdf"_s});
 }
 
 void PdftkDescription::otherCallsAreHandedOn()
 {
-    QCOMPARE(finish({"cat", "1", "1", "output", "twice.pdf"}).status, 0);
-    QCOMPARE(readPdf(m_folder.filePath("twice.pdf")).pages, 2);
-    const RunResult dump = finish({"dump_data"});
+    QCOMPARE(finish({u"cat"_s, u"1"_s, u"1"_s, u"output"_s, u"twice.pdf"_s}).status, 0);
+    QCOMPARE(readPdf(m_folder.filePath(u"twice.pdf"_s)).pages, 2);
+    const RunResult dump = finish({u"dump_data"_s});
     QVERIFY2(dump.output.contains("NumberOfPages: 1"), dump.output.constData());
-    QVERIFY(finish({"no_such_operation"}).status > 0);
+    QVERIFY(finish({u"no_such_operation"_s}).status > 0);
 }
 
 QTEST_GUILESS_MAIN(PdftkDescription)

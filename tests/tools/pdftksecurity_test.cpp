@@ -7,6 +7,8 @@
 #include <QDirIterator>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class PdftkSecurity : public QObject
 {
     Q_OBJECT
@@ -37,8 +39,8 @@ namespace {
 
 QByteArray encryptionOf(const QString &path, const QString &password)
 {
-    return runProgram("/usr/bin/qpdf", {"--show-encryption", "--password=" + password, path},
-                      QDir::tempPath())
+    return runProgram(u"/usr/bin/qpdf"_s,
+                      {u"--show-encryption"_s, u"--password="_s + password, path}, QDir::tempPath())
         .output;
 }
 
@@ -49,7 +51,7 @@ QStringList allowedIn(const QByteArray &report)
     for (const char *line : {"print high resolution", "extract for any purpose", "modify other",
                              "modify annotations"}) {
         if (report.contains(QByteArray(line) + ": allowed"))
-            allowed.append(line);
+            allowed.append(QString::fromUtf8(line));
     }
     return allowed;
 }
@@ -58,10 +60,10 @@ QStringList allowedIn(const QByteArray &report)
 QByteArray everythingInProc(const QString &own)
 {
     QByteArray all;
-    for (const QString &process : QDir("/proc").entryList(QDir::Dirs)) {
+    for (const QString &process : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
         if (process.toInt() > 0 && process != own)
-            all += contentOf("/proc/" + process + "/cmdline") +
-                   contentOf("/proc/" + process + "/environ");
+            all += contentOf(u"/proc/"_s + process + u"/cmdline"_s) +
+                   contentOf(u"/proc/"_s + process + u"/environ"_s);
     }
     return all;
 }
@@ -70,14 +72,14 @@ QByteArray everythingInProc(const QString &own)
 
 void PdftkSecurity::initTestCase()
 {
-    makeImage(m_folder.filePath("x.png"));
-    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, m_folder.path()).status, 0);
+    makeImage(m_folder.filePath(u"x.png"_s));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
 RunResult PdftkSecurity::finish(const QStringList &tail, const Variables &variables) const
 {
-    return runBundled("pdftk", QStringList{"in.pdf", "output", "out.pdf"} + tail, m_folder.path(),
-                      variables);
+    return runBundled(u"pdftk"_s, QStringList{u"in.pdf"_s, u"output"_s, u"out.pdf"_s} + tail,
+                      m_folder.path(), variables);
 }
 
 void PdftkSecurity::eachPermissionAlone_data()
@@ -85,31 +87,34 @@ void PdftkSecurity::eachPermissionAlone_data()
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QStringList>("allowed");
     QTest::newRow("none") << QStringList{} << QStringList{};
-    QTest::newRow("printing") << QStringList{"printing"} << QStringList{"print high resolution"};
-    QTest::newRow("copying") << QStringList{"copycontents"}
-                             << QStringList{"extract for any purpose"};
-    QTest::newRow("modifying") << QStringList{"modifycontents"} << QStringList{"modify other"};
-    QTest::newRow("commenting") << QStringList{"modifyannotations"}
-                                << QStringList{"modify annotations"};
-    QTest::newRow("all four") << QStringList{"printing", "modifycontents", "copycontents",
-                                             "modifyannotations"}
-                              << QStringList{"print high resolution", "extract for any purpose",
-                                             "modify other", "modify annotations"};
+    QTest::newRow("printing") << QStringList{u"printing"_s}
+                              << QStringList{u"print high resolution"_s};
+    QTest::newRow("copying") << QStringList{u"copycontents"_s}
+                             << QStringList{u"extract for any purpose"_s};
+    QTest::newRow("modifying") << QStringList{u"modifycontents"_s}
+                               << QStringList{u"modify other"_s};
+    QTest::newRow("commenting") << QStringList{u"modifyannotations"_s}
+                                << QStringList{u"modify annotations"_s};
+    QTest::newRow("all four") << QStringList{u"printing"_s, u"modifycontents"_s, u"copycontents"_s,
+                                             u"modifyannotations"_s}
+                              << QStringList{u"print high resolution"_s,
+                                             u"extract for any purpose"_s, u"modify other"_s,
+                                             u"modify annotations"_s};
 }
 
 void PdftkSecurity::eachPermissionAlone()
 {
     QFETCH(QStringList, words);
     QFETCH(QStringList, allowed);
-    QStringList tail = {"owner_pw", "own", "user_pw", "use"};
+    QStringList tail = {u"owner_pw"_s, u"own"_s, u"user_pw"_s, u"use"_s};
     for (const QString &word : words)
-        tail << "allow" << word;
+        tail << u"allow"_s << word;
     const RunResult result = finish(tail);
     QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(allowedIn(encryptionOf(m_folder.filePath("out.pdf"), "use")), allowed);
-    const PdfFacts facts = readPdf(m_folder.filePath("out.pdf"), "use");
-    QCOMPARE(facts.mayPrint, words.contains("printing"));
-    QCOMPARE(facts.mayCopy, words.contains("copycontents"));
+    QCOMPARE(allowedIn(encryptionOf(m_folder.filePath(u"out.pdf"_s), u"use"_s)), allowed);
+    const PdfFacts facts = readPdf(m_folder.filePath(u"out.pdf"_s), "use");
+    QCOMPARE(facts.mayPrint, words.contains(u"printing"_s));
+    QCOMPARE(facts.mayCopy, words.contains(u"copycontents"_s));
 }
 
 void PdftkSecurity::passwordsOpenTheResult_data()
@@ -128,7 +133,7 @@ void PdftkSecurity::passwordsOpenTheResult_data()
                                        << "allow";
     QTest::newRow("the word for a question") << "PROMPT"
                                              << "user_pw";
-    QTest::newRow("32 characters") << QString(32, 'o') << QString(32, 'u');
+    QTest::newRow("32 characters") << QString(32, u'o') << QString(32, u'u');
     QTest::newRow("Latin-1 letters")
         << QString::fromUtf8("\xC3\xBC\xC3\x9F") << QString::fromUtf8("\xC3\xA9");
 }
@@ -137,15 +142,15 @@ void PdftkSecurity::passwordsOpenTheResult()
 {
     QFETCH(QString, owner);
     QFETCH(QString, user);
-    for (const char *locale : {"C", "C.UTF-8"}) {
+    for (const QString &locale : {u"C"_s, u"C.UTF-8"_s}) {
         QStringList tail;
         if (!owner.isEmpty())
-            tail << "owner_pw" << owner;
+            tail << u"owner_pw"_s << owner;
         if (!user.isEmpty())
-            tail << "user_pw" << user;
-        const RunResult result = finish(tail, {{"LC_ALL", locale}});
+            tail << u"user_pw"_s << user;
+        const RunResult result = finish(tail, {{u"LC_ALL"_s, locale}});
         QCOMPARE(result.errors + result.output, QByteArray());
-        const QString path = m_folder.filePath("out.pdf");
+        const QString path = m_folder.filePath(u"out.pdf"_s);
         QCOMPARE(readPdf(path).needsPassword, !user.isEmpty());
         QVERIFY(readPdf(path).encrypted);
         // The standard security handler takes passwords in Latin-1.
@@ -158,50 +163,53 @@ void PdftkSecurity::passwordsOpenTheResult()
 void PdftkSecurity::refusedPasswordsFailAsTheToolFails_data()
 {
     QTest::addColumn<QStringList>("tail");
-    QTest::newRow("a blank splits it") << QStringList{"owner_pw", "two", "words"};
+    QTest::newRow("a blank splits it") << QStringList{u"owner_pw"_s, u"two"_s, u"words"_s};
     QTest::newRow("letters beyond Latin-1")
-        << QStringList{"user_pw", QString::fromUtf8("\xE6\x97\xA5")};
-    QTest::newRow("a tabulator") << QStringList{"user_pw", "a\tb"};
-    QTest::newRow("the same one twice") << QStringList{"owner_pw", "gleich", "user_pw", "gleich"};
-    QTest::newRow("two owner's passwords") << QStringList{"owner_pw", "a1", "owner_pw", "a2"};
+        << QStringList{u"user_pw"_s, QString::fromUtf8("\xE6\x97\xA5")};
+    QTest::newRow("a tabulator") << QStringList{u"user_pw"_s, u"a\tb"_s};
+    QTest::newRow("the same one twice")
+        << QStringList{u"owner_pw"_s, u"gleich"_s, u"user_pw"_s, u"gleich"_s};
+    QTest::newRow("two owner's passwords")
+        << QStringList{u"owner_pw"_s, u"a1"_s, u"owner_pw"_s, u"a2"_s};
 }
 
 void PdftkSecurity::refusedPasswordsFailAsTheToolFails()
 {
     QFETCH(QStringList, tail);
-    const RunResult plain =
-        runProgram("/usr/bin/pdftk", QStringList{"in.pdf", "output", "plain.pdf"} + tail,
-                   m_folder.path(), {{"LC_ALL", "C.UTF-8"}});
-    writeContent(m_folder.filePath("out.pdf"), "older");
+    const RunResult plain = runProgram(u"/usr/bin/pdftk"_s,
+                                       QStringList{u"in.pdf"_s, u"output"_s, u"plain.pdf"_s} + tail,
+                                       m_folder.path(), {{u"LC_ALL"_s, u"C.UTF-8"_s}});
+    writeContent(m_folder.filePath(u"out.pdf"_s), "older");
     const RunResult result = finish(tail);
     QCOMPARE(result.status, plain.status);
     QVERIFY(result.status > 0);
-    QCOMPARE(contentOf(m_folder.filePath("out.pdf")), QByteArray("older"));
+    QCOMPARE(contentOf(m_folder.filePath(u"out.pdf"_s)), QByteArray("older"));
     for (int i = 1; i < tail.size(); i += 2)
         QVERIFY(!result.errors.contains(tail[i].toUtf8()));
 }
 
 void PdftkSecurity::passwordsWithLineBreaksAreRefused()
 {
-    writeContent(m_folder.filePath("out.pdf"), "older");
-    const RunResult result = finish({"user_pw", "Geheim\nrest"});
+    writeContent(m_folder.filePath(u"out.pdf"_s), "older");
+    const RunResult result = finish({u"user_pw"_s, u"Geheim\nrest"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors, QByteArray("pdftk: a password must not hold a line break\n"));
-    QCOMPARE(contentOf(m_folder.filePath("out.pdf")), QByteArray("older"));
+    QCOMPARE(contentOf(m_folder.filePath(u"out.pdf"_s)), QByteArray("older"));
 }
 
 // A real tool that would show what it is given.
 void PdftkSecurity::otherCallsWithPasswordsAreRefused()
 {
-    const QStringList tool = shellTool("echo \"$@\"");
+    const QStringList tool = shellTool(u"echo \"$@\""_s);
     const ToolBundle bundle(tool, tool);
-    const QStringList call = {"in.pdf", "cat", "1", "output", "x.pdf", "owner_pw", "Geheim"};
-    const RunResult result = runProgram(bundle.tool("pdftk"), call, m_folder.path());
+    const QStringList call = {u"in.pdf"_s, u"cat"_s,      u"1"_s,     u"output"_s,
+                              u"x.pdf"_s,  u"owner_pw"_s, u"Geheim"_s};
+    const RunResult result = runProgram(bundle.tool(u"pdftk"_s), call, m_folder.path());
     QCOMPARE(result.status, 1);
     QCOMPARE(result.output, QByteArray());
     QVERIFY2(result.errors.startsWith("pdftk: passwords are taken only behind"),
              result.errors.constData());
-    const RunResult without = runProgram(bundle.tool("pdftk"), call.mid(0, 5), m_folder.path());
+    const RunResult without = runProgram(bundle.tool(u"pdftk"_s), call.mid(0, 5), m_folder.path());
     QCOMPARE(without.output, QByteArray("in.pdf cat 1 output x.pdf\n"));
 }
 
@@ -209,38 +217,41 @@ void PdftkSecurity::anyResultNameTakesPasswords_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"x.PDF", ".pdf", "-1.pdf", "x", "PROMPT", "x%d.pdf"})
-        QTest::newRow(name) << QString(name);
+        QTest::newRow(name) << name;
 }
 
 void PdftkSecurity::anyResultNameTakesPasswords()
 {
     QFETCH(QString, name);
     const RunResult result = runBundled(
-        "pdftk", {"in.pdf", "output", name, "owner_pw", "own", "user_pw", "use"}, m_folder.path());
+        u"pdftk"_s,
+        {u"in.pdf"_s, u"output"_s, name, u"owner_pw"_s, u"own"_s, u"user_pw"_s, u"use"_s},
+        m_folder.path());
     QCOMPARE(result.errors + result.output, QByteArray());
     QVERIFY(!readPdf(m_folder.filePath(name), "use").needsPassword);
-    const RunResult again = runBundled("pdftk", {name, "output", name}, m_folder.path());
+    const RunResult again = runBundled(u"pdftk"_s, {name, u"output"_s, name}, m_folder.path());
     QVERIFY2(again.errors.contains("PASSWORD REQUIRED"), again.errors.constData());
 }
 
 void PdftkSecurity::permissionsWithoutPasswordEncryptNothing()
 {
-    QCOMPARE(finish({"allow", "printing", "allow", "copycontents"}).status, 0);
-    QVERIFY(!readPdf(m_folder.filePath("out.pdf")).encrypted);
+    QCOMPARE(finish({u"allow"_s, u"printing"_s, u"allow"_s, u"copycontents"_s}).status, 0);
+    QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s)).encrypted);
 }
 
 // The process list as `ps` reads it, over and over while the JVM starts and works.
 void PdftkSecurity::passwordsAreNowhereDuringTheCall()
 {
-    const std::unique_ptr<QProcess> call = startProgram(
-        bundledTool("pdftk"),
-        {"in.pdf", "output", "out.pdf", "owner_pw", "Geheim-Owner", "user_pw", "Geheim-User"},
-        m_folder.path());
+    const std::unique_ptr<QProcess> call =
+        startProgram(bundledTool(u"pdftk"_s),
+                     {u"in.pdf"_s, u"output"_s, u"out.pdf"_s, u"owner_pw"_s, u"Geheim-Owner"_s,
+                      u"user_pw"_s, u"Geheim-User"_s},
+                     m_folder.path());
     QVERIFY(call->waitForStarted());
     const QString own = QString::number(QCoreApplication::applicationPid());
     // Ours needs a moment from its start to its first instruction, as any program does.
-    QTRY_VERIFY(
-        !contentOf("/proc/" + QString::number(call->processId()) + "/cmdline").contains("Geheim"));
+    QTRY_VERIFY(!contentOf(u"/proc/"_s + QString::number(call->processId()) + u"/cmdline"_s)
+                     .contains("Geheim"));
     int samples = 0, withRealTool = 0;
     while (!call->waitForFinished(1)) {
         const QByteArray all = everythingInProc(own);
@@ -250,23 +261,27 @@ void PdftkSecurity::passwordsAreNowhereDuringTheCall()
     }
     qInfo() << samples << "samples," << withRealTool << "with the real tool at work";
     QVERIFY(withRealTool > 0);
-    QVERIFY(!readPdf(m_folder.filePath("out.pdf"), "Geheim-User").needsPassword);
+    QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s), "Geheim-User").needsPassword);
 }
 
 void PdftkSecurity::passwordsAreNowhereAfterTheCall()
 {
     const QTemporaryDir logs, temporary;
-    const Variables variables = {{"TESSARO_TOOL_LOG", logs.filePath("log")},
-                                 {"TMPDIR", temporary.path()}};
-    QCOMPARE(finish({"owner_pw", "Geheim-Owner", "user_pw", "Geheim-User"}, variables).status, 0);
-    QVERIFY(finish({"owner_pw", "Geheim-Owner", "Geheim-Rest"}, variables).status > 0);
-    QVERIFY(finish({"user_pw", QString(32, 'x') + "Geheim-Rest", "oops"}, variables).status > 0);
-    QVERIFY(runBundled("pdftk",
-                       {"in.pdf", "input_pw", "Geheim-Input", "cat", "output", "no/x.pdf",
-                        "owner_pw", "Geheim-Owner", "Geheim-Rest"},
+    const Variables variables = {{u"TESSARO_TOOL_LOG"_s, logs.filePath(u"log"_s)},
+                                 {u"TMPDIR"_s, temporary.path()}};
+    QCOMPARE(finish({u"owner_pw"_s, u"Geheim-Owner"_s, u"user_pw"_s, u"Geheim-User"_s}, variables)
+                 .status,
+             0);
+    QVERIFY(finish({u"owner_pw"_s, u"Geheim-Owner"_s, u"Geheim-Rest"_s}, variables).status > 0);
+    QVERIFY(
+        finish({u"user_pw"_s, QString(32, u'x') + u"Geheim-Rest"_s, u"oops"_s}, variables).status >
+        0);
+    QVERIFY(runBundled(u"pdftk"_s,
+                       {u"in.pdf"_s, u"input_pw"_s, u"Geheim-Input"_s, u"cat"_s, u"output"_s,
+                        u"no/x.pdf"_s, u"owner_pw"_s, u"Geheim-Owner"_s, u"Geheim-Rest"_s},
                        m_folder.path(), variables)
                 .status > 0);
-    QVERIFY(contentOf(logs.filePath("log")).contains("********"));
+    QVERIFY(contentOf(logs.filePath(u"log"_s)).contains("********"));
     for (const QString &folder : {m_folder.path(), logs.path(), temporary.path()}) {
         QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (files.hasNext()) {

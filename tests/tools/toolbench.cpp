@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Longer than anything here takes on a busy machine.
@@ -14,7 +16,7 @@ constexpr int patience = 300'000;
 
 QString bundledTool(const QString &name)
 {
-    return bundleContents() + "/MacOS/" + name;
+    return bundleContents() + u"/MacOS/"_s + name;
 }
 
 QString bundleContents()
@@ -92,28 +94,29 @@ void makeImage(const QString &path, QSize size)
 
 ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool)
 {
-    QDir().mkpath(contents() + "/MacOS");
-    for (const char *policy : {"limits", "rights/ImageMagick"}) {
-        const QString folder = "/Resources/magick/" + QString(policy);
+    QDir().mkpath(contents() + u"/MacOS"_s);
+    for (const QString &folder :
+         {u"/Resources/magick/limits"_s, u"/Resources/magick/rights/ImageMagick"_s}) {
         QDir().mkpath(contents() + folder);
-        QFile::copy(bundleContents() + folder + "/policy.xml", contents() + folder + "/policy.xml");
+        QFile::copy(bundleContents() + folder + u"/policy.xml"_s,
+                    contents() + folder + u"/policy.xml"_s);
     }
-    for (const char *name : {"convert", "pdftk"})
+    for (const QString &name : {u"convert"_s, u"convert-pages.so"_s, u"pdftk"_s})
         QFile::copy(bundledTool(name), tool(name));
-    QFile::copy(bundledTool("convert-pages.so"), tool("convert-pages.so"));
-    writeContent(contents() + "/Resources/convert.tool", convertTool.join('\n').toUtf8());
-    writeContent(contents() + "/Resources/pdftk.tool", pdftkTool.join('\n').toUtf8());
+    writeContent(contents() + u"/Resources/convert.tool"_s, convertTool.join(u'\n').toUtf8());
+    writeContent(contents() + u"/Resources/pdftk.tool"_s, pdftkTool.join(u'\n').toUtf8());
 }
 
 RunResult runInShell(const QString &setting, const QString &program, const QStringList &arguments,
                      const QString &folder, const Variables &variables)
 {
-    return runProgram("/bin/sh",
-                      QStringList{"-c", setting + "\nexec \"$0\" \"$@\"", program} + arguments,
+    return runProgram(u"/bin/sh"_s,
+                      QStringList{u"-c"_s, setting + u"\nexec \"$0\" \"$@\""_s, program} +
+                          arguments,
                       folder, variables);
 }
 
 QStringList shellTool(const QString &script)
 {
-    return {"/bin/sh", "-c", script, "fake"};
+    return {u"/bin/sh"_s, u"-c"_s, script, u"fake"_s};
 }

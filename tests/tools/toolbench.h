@@ -56,8 +56,11 @@ class ToolBundle
 {
 public:
     ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool);
-    QString contents() const { return m_folder.filePath("Tessaro.app/Contents"); }
-    QString tool(const QString &name) const { return contents() + "/MacOS/" + name; }
+    QString contents() const { return m_folder.filePath(QStringLiteral("Tessaro.app/Contents")); }
+    QString tool(const QString &name) const
+    {
+        return contents() + QStringLiteral("/MacOS/") + name;
+    }
 
 private:
     QTemporaryDir m_folder;

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class ToolFailures : public QObject
 {
     Q_OBJECT
@@ -27,16 +29,16 @@ namespace {
 // The same script for both programs: RESULT stands for what each of them has to write.
 ToolBundle bundleOf(QString script)
 {
-    const auto tool = [&script](const char *result) {
-        return shellTool(QString(script).replace("RESULT", result));
+    const auto tool = [&script](const QString &result) {
+        return shellTool(QString(script).replace(u"RESULT"_s, result));
     };
-    return {tool("page-1"), tool("result.pdf")};
+    return {tool(u"page-1"_s), tool(u"result.pdf"_s)};
 }
 
 QStringList callOf(const QString &program)
 {
-    return program == "convert" ? QStringList{"in.pdf", "o.pdf"}
-                                : QStringList{"in.pdf", "output", "o.pdf"};
+    return program == u"convert"_s ? QStringList{u"in.pdf"_s, u"o.pdf"_s}
+                                   : QStringList{u"in.pdf"_s, u"output"_s, u"o.pdf"_s};
 }
 
 } // namespace
@@ -71,43 +73,44 @@ void ToolFailures::failureIsPassedOn()
     QFETCH(QByteArray, errors);
     const ToolBundle bundle = bundleOf(script);
     const QTemporaryDir pixels;
-    for (const char *program : {"convert", "pdftk"}) {
+    for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const QTemporaryDir folder;
-        writeContent(folder.filePath("in.pdf"), "in");
-        writeContent(folder.filePath("o.pdf"), "older");
+        writeContent(folder.filePath(u"in.pdf"_s), "in");
+        writeContent(folder.filePath(u"o.pdf"_s), "older");
         const RunResult result = runProgram(bundle.tool(program), callOf(program), folder.path(),
-                                            {{"TMPDIR", pixels.path()}});
+                                            {{u"TMPDIR"_s, pixels.path()}});
         QCOMPARE(result.status, status);
         QCOMPARE(result.errors, errors);
-        QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("older"));
-        QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "o.pdf"}));
+        QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
+        QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"o.pdf"_s}));
         QCOMPARE(namesIn(pixels.path()), QStringList());
     }
 }
 
 void ToolFailures::successIsQuiet()
 {
-    const ToolBundle bundle = bundleOf("echo warning; echo warning >&2; cp ../in.pdf RESULT");
-    for (const char *program : {"convert", "pdftk"}) {
+    const ToolBundle bundle = bundleOf(u"echo warning; echo warning >&2; cp ../in.pdf RESULT"_s);
+    for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const QTemporaryDir folder;
-        makeImage(folder.filePath("x.png"));
-        QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, folder.path()).status, 0);
-        QFile::remove(folder.filePath("x.png"));
+        makeImage(folder.filePath(u"x.png"_s));
+        QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, folder.path()).status, 0);
+        QFile::remove(folder.filePath(u"x.png"_s));
         const RunResult result = runProgram(bundle.tool(program), callOf(program), folder.path());
         QCOMPARE(result.status, 0);
         QCOMPARE(result.output + result.errors, QByteArray());
-        QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "o.pdf"}));
+        QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"o.pdf"_s}));
     }
 }
 
 void ToolFailures::noiseIsBounded()
 {
     const QStringList tool =
-        shellTool("head -c 50000000 /dev/zero; head -c 50000000 /dev/zero >&2; exit 4");
+        shellTool(u"head -c 50000000 /dev/zero; head -c 50000000 /dev/zero >&2; exit 4"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const RunResult result = runProgram(bundle.tool("convert"), callOf("convert"), folder.path());
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const RunResult result =
+        runProgram(bundle.tool(u"convert"_s), callOf(u"convert"_s), folder.path());
     QCOMPARE(result.status, 4);
     QCOMPARE(result.output.size(), 256 * 1024);
     QCOMPARE(result.errors.size(), 256 * 1024);
@@ -115,12 +118,13 @@ void ToolFailures::noiseIsBounded()
 
 void ToolFailures::realToolSeesPlainNames()
 {
-    const QStringList tool = shellTool("echo \"$@\" >&2; cat input-1.png >&2; exit 1");
+    const QStringList tool = shellTool(u"echo \"$@\" >&2; cat input-1.png >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("a %d[0].png"), "content\n");
-    const RunResult result = runProgram(bundle.tool("convert"),
-                                        {"-rotate", "90", "a %d[0].png", "-5%.pdf"}, folder.path());
+    writeContent(folder.filePath(u"a %d[0].png"_s), "content\n");
+    const RunResult result =
+        runProgram(bundle.tool(u"convert"_s),
+                   {u"-rotate"_s, u"90"_s, u"a %d[0].png"_s, u"-5%.pdf"_s}, folder.path());
     // The tool was given "input-1.png"; the name is put back.
     QCOMPARE(result.errors, QByteArray("-rotate 90 a %d[0].png +profile !icc,!icm,* +set comment "
                                        "+set label pdf:page-1\ncontent\n"));
@@ -128,18 +132,18 @@ void ToolFailures::realToolSeesPlainNames()
 
 void ToolFailures::realToolSeesACleanEnvironment()
 {
-    const QStringList tool = shellTool("env | sort >&2; exit 1");
+    const QStringList tool = shellTool(u"env | sort >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const Variables variables = {{"MAGICK_CODER_MODULE_PATH", "/evil"},
-                                 {"LC_MESSAGES", "de_DE"},
-                                 {"LANGUAGE", "de"},
-                                 {"_JAVA_OPTIONS", "-evil"},
-                                 {"JAVA_TOOL_OPTIONS", "-evil"},
-                                 {"HOME", "/evil"},
-                                 {"KEPT", "this"}};
-    for (const char *program : {"convert", "pdftk"}) {
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const Variables variables = {{u"MAGICK_CODER_MODULE_PATH"_s, u"/evil"_s},
+                                 {u"LC_MESSAGES"_s, u"de_DE"_s},
+                                 {u"LANGUAGE"_s, u"de"_s},
+                                 {u"_JAVA_OPTIONS"_s, u"-evil"_s},
+                                 {u"JAVA_TOOL_OPTIONS"_s, u"-evil"_s},
+                                 {u"HOME"_s, u"/evil"_s},
+                                 {u"KEPT"_s, u"this"_s}};
+    for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const QByteArray environment =
             runProgram(bundle.tool(program), callOf(program), folder.path(), variables).errors;
         QVERIFY(!environment.contains("evil"));
@@ -153,12 +157,12 @@ void ToolFailures::missingConfigurationIsNamed()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    for (const char *program : {"convert", "pdftk"}) {
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const RunResult result = runProgram(bundle.tool(program), callOf(program), folder.path());
         QCOMPARE(result.status, 1);
-        QCOMPARE(result.errors, QString("%1: cannot read '%2/Resources/%1.tool'; run "
-                                        "packaging/assemble-tools again\n")
+        QCOMPARE(result.errors, QString(u"%1: cannot read '%2/Resources/%1.tool'; run "
+                                        "packaging/assemble-tools again\n"_s)
                                     .arg(program, bundle.contents())
                                     .toUtf8());
     }
@@ -166,22 +170,23 @@ void ToolFailures::missingConfigurationIsNamed()
 
 void ToolFailures::missingRealToolIsNamed()
 {
-    const ToolBundle bundle({"/no/such/tool"}, {"/no/such/tool"});
+    const ToolBundle bundle({u"/no/such/tool"_s}, {u"/no/such/tool"_s});
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const RunResult result = runProgram(bundle.tool("pdftk"), callOf("pdftk"), folder.path());
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const RunResult result = runProgram(bundle.tool(u"pdftk"_s), callOf(u"pdftk"_s), folder.path());
     QCOMPARE(result.status, 127);
     QCOMPARE(result.errors,
              QByteArray("cannot start '/no/such/tool': No such file or directory\n"));
-    QCOMPARE(namesIn(folder.path()), QStringList{"in.pdf"});
+    QCOMPARE(namesIn(folder.path()), QStringList{u"in.pdf"_s});
 }
 
 // /proc takes no new folder from anybody, root included.
 void ToolFailures::onlyReadableFolderIsNamed()
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    const RunResult result = runBundled("convert", {"x.png", "/proc/o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.png"_s));
+    const RunResult result =
+        runBundled(u"convert"_s, {u"x.png"_s, u"/proc/o.pdf"_s}, folder.path());
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.startsWith("convert: cannot make a folder in '/proc'"),
              result.errors.constData());

@@ -13,6 +13,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class ToolFolders : public QObject
 {
     Q_OBJECT
@@ -40,51 +42,53 @@ private:
 
 namespace {
 
-const QString wholePdf = "printf '%%PDF-1.4\\n%%%%EOF\\n'";
+const QString wholePdf = u"printf '%%PDF-1.4\\n%%%%EOF\\n'"_s;
 
 QStringList ourFoldersIn(const QString &folder)
 {
-    return QDir(folder).entryList({".tessaro-*"}, QDir::Dirs | QDir::Hidden);
+    return QDir(folder).entryList({u".tessaro-*"_s}, QDir::Dirs | QDir::Hidden);
 }
 
 // A folder as a call that was killed leaves it.
 void leaveOver(const QString &folder)
 {
     QVERIFY(QDir().mkpath(folder));
-    for (const char *file : {".tessaro", "o.pdf", "input-1"})
-        writeContent(folder + "/" + file, "left over");
+    for (const QString &file : {u".tessaro"_s, u"o.pdf"_s, u"input-1"_s})
+        writeContent(folder + u'/' + file, "left over");
 }
 
 } // namespace
 
 void ToolFolders::initTestCase()
 {
-    makeImage(m_folder.filePath("x.png"));
-    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, m_folder.path()).status, 0);
+    makeImage(m_folder.filePath(u"x.png"_s));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
 void ToolFolders::privateFolderIsForTheUserAlone()
 {
-    const QStringList tool = shellTool("stat -c '%a' . >&2; exit 1");
+    const QStringList tool = shellTool(u"stat -c '%a' . >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
-    for (const char *mask : {"umask 000", "umask 022", "umask 0777"}) {
-        const RunResult result =
-            runInShell(mask, bundle.tool("pdftk"), {"in.pdf", "output", "o.pdf"}, m_folder.path());
+    for (const QString &mask : {u"umask 000"_s, u"umask 022"_s, u"umask 0777"_s}) {
+        const RunResult result = runInShell(
+            mask, bundle.tool(u"pdftk"_s), {u"in.pdf"_s, u"output"_s, u"o.pdf"_s}, m_folder.path());
         QCOMPARE(result.errors, QByteArray("700\n"));
     }
 }
 
 void ToolFolders::namesCannotBeForeseen()
 {
-    const QStringList tool = shellTool("basename \"$PWD\" >&2; exit 1");
+    const QStringList tool = shellTool(u"basename \"$PWD\" >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
     QSet<QByteArray> names;
     for (int i = 0; i < 20; ++i) {
-        const QByteArray name =
-            runProgram(bundle.tool("pdftk"), {"in.pdf", "output", "o.pdf"}, m_folder.path()).errors;
-        QVERIFY2(
-            QRegularExpression("^\\.tessaro-[A-Za-z0-9]{6}\n$").match(QString(name)).hasMatch(),
-            name.constData());
+        const QByteArray name = runProgram(bundle.tool(u"pdftk"_s),
+                                           {u"in.pdf"_s, u"output"_s, u"o.pdf"_s}, m_folder.path())
+                                    .errors;
+        QVERIFY2(QRegularExpression(u"^\\.tessaro-[A-Za-z0-9]{6}\n$"_s)
+                     .match(QString::fromUtf8(name))
+                     .hasMatch(),
+                 name.constData());
         names.insert(name);
     }
     QCOMPARE(names.size(), 20);
@@ -93,17 +97,18 @@ void ToolFolders::namesCannotBeForeseen()
 // However few descriptors there are: a PDF or one sentence, and no folder.
 void ToolFolders::nothingIsLeftWithoutDescriptors()
 {
-    const QStringList tool = shellTool(wholePdf + " >result.pdf");
+    const QStringList tool = shellTool(wholePdf + u" >result.pdf"_s);
     const ToolBundle bundle(tool, tool);
     int failed = 0;
     for (int descriptors = 3; descriptors < 24; ++descriptors) {
         const QTemporaryDir folder, pixels;
-        writeContent(folder.filePath("in.pdf"), "in");
-        for (const QStringList &call : {QStringList{"convert", "in.pdf", "o.pdf"},
-                                        QStringList{"pdftk", "in.pdf", "output", "o.pdf"}}) {
-            const RunResult result =
-                runInShell("ulimit -n " + QString::number(descriptors), bundle.tool(call.first()),
-                           call.mid(1), folder.path(), {{"TMPDIR", pixels.path()}});
+        writeContent(folder.filePath(u"in.pdf"_s), "in");
+        for (const QStringList &call :
+             {QStringList{u"convert"_s, u"in.pdf"_s, u"o.pdf"_s},
+              QStringList{u"pdftk"_s, u"in.pdf"_s, u"output"_s, u"o.pdf"_s}}) {
+            const RunResult result = runInShell(u"ulimit -n "_s + QString::number(descriptors),
+                                                bundle.tool(call.first()), call.mid(1),
+                                                folder.path(), {{u"TMPDIR"_s, pixels.path()}});
             if (result.status != 0) {
                 ++failed;
                 QCOMPARE(result.errors.count('\n'), 1);
@@ -119,27 +124,30 @@ void ToolFolders::nothingIsLeftWithoutDescriptors()
 void ToolFolders::leftoversAreClearedAway()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    leaveOver(folder.filePath(".tessaro-aB3xYz"));
-    leaveOver(folder.filePath(".tessaro-000000"));
-    QVERIFY(QDir(folder.path()).mkdir(".tessaro-killed"));
-    const RunResult result = runBundled("pdftk", {"in.pdf", "output", "o.pdf"}, folder.path());
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    leaveOver(folder.filePath(u".tessaro-aB3xYz"_s));
+    leaveOver(folder.filePath(u".tessaro-000000"_s));
+    QVERIFY(QDir(folder.path()).mkdir(u".tessaro-killed"_s));
+    const RunResult result =
+        runBundled(u"pdftk"_s, {u"in.pdf"_s, u"output"_s, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "o.pdf"}));
-    QCOMPARE(readPdf(folder.filePath("o.pdf")).pages, 1);
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"o.pdf"_s}));
+    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
 }
 
 void ToolFolders::leftoversAreFoundAmongManyFiles()
 {
-    const QStringList tool = shellTool(wholePdf + " >result.pdf");
+    const QStringList tool = shellTool(wholePdf + u" >result.pdf"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
     for (int i = 0; i < 3000; ++i)
         writeContent(folder.filePath(QString::number(i)), "");
-    writeContent(folder.filePath("in.pdf"), "in");
-    leaveOver(folder.filePath(".tessaro-aB3xYz"));
-    QCOMPARE(runProgram(bundle.tool("pdftk"), {"in.pdf", "output", "o.pdf"}, folder.path()).status,
-             0);
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    leaveOver(folder.filePath(u".tessaro-aB3xYz"_s));
+    QCOMPARE(
+        runProgram(bundle.tool(u"pdftk"_s), {u"in.pdf"_s, u"output"_s, u"o.pdf"_s}, folder.path())
+            .status,
+        0);
     QCOMPARE(ourFoldersIn(folder.path()), QStringList());
 }
 
@@ -148,29 +156,30 @@ void ToolFolders::leftoversAreFoundAmongManyFiles()
 void ToolFolders::foreignFoldersAreLeftAlone()
 {
     const QTemporaryDir folder, elsewhere;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    leaveOver(folder.filePath(".tessaro-inwork"));
-    leaveOver(folder.filePath(".tessaro-other0"));
-    QVERIFY(QDir(folder.path()).mkdir(".tessaro-backup"));
-    writeContent(folder.filePath(".tessaro-backup/work"), "the user's own");
-    writeContent(elsewhere.filePath(".tessaro"), "");
-    writeContent(elsewhere.filePath("work"), "another user's");
-    QFile::link(elsewhere.path(), folder.filePath(".tessaro-linked"));
-    const QByteArray others = QFile::encodeName(folder.filePath(".tessaro-other0"));
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    leaveOver(folder.filePath(u".tessaro-inwork"_s));
+    leaveOver(folder.filePath(u".tessaro-other0"_s));
+    QVERIFY(QDir(folder.path()).mkdir(u".tessaro-backup"_s));
+    writeContent(folder.filePath(u".tessaro-backup/work"_s), "the user's own");
+    writeContent(elsewhere.filePath(u".tessaro"_s), "");
+    writeContent(elsewhere.filePath(u"work"_s), "another user's");
+    QFile::link(elsewhere.path(), folder.filePath(u".tessaro-linked"_s));
+    const QByteArray others = QFile::encodeName(folder.filePath(u".tessaro-other0"_s));
     const bool isRoot = geteuid() == 0;
     if (isRoot)
         QCOMPARE(chown(others.constData(), 65534, 65534), 0);
-    const int lock = open(QFile::encodeName(folder.filePath(".tessaro-inwork")).constData(),
+    const int lock = open(QFile::encodeName(folder.filePath(u".tessaro-inwork"_s)).constData(),
                           O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     QCOMPARE(flock(lock, LOCK_EX), 0);
-    const RunResult result = runBundled("pdftk", {"in.pdf", "output", "o.pdf"}, folder.path());
+    const RunResult result =
+        runBundled(u"pdftk"_s, {u"in.pdf"_s, u"output"_s, u"o.pdf"_s}, folder.path());
     close(lock);
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(contentOf(folder.filePath(".tessaro-inwork/o.pdf")), QByteArray("left over"));
-    QCOMPARE(contentOf(folder.filePath(".tessaro-backup/work")), QByteArray("the user's own"));
-    QCOMPARE(contentOf(elsewhere.filePath("work")), QByteArray("another user's"));
-    QVERIFY(QFile::exists(folder.filePath(".tessaro-linked")));
-    QCOMPARE(QFile::exists(folder.filePath(".tessaro-other0/o.pdf")), isRoot);
+    QCOMPARE(contentOf(folder.filePath(u".tessaro-inwork/o.pdf"_s)), QByteArray("left over"));
+    QCOMPARE(contentOf(folder.filePath(u".tessaro-backup/work"_s)), QByteArray("the user's own"));
+    QCOMPARE(contentOf(elsewhere.filePath(u"work"_s)), QByteArray("another user's"));
+    QVERIFY(QFile::exists(folder.filePath(u".tessaro-linked"_s)));
+    QCOMPARE(QFile::exists(folder.filePath(u".tessaro-other0/o.pdf"_s)), isRoot);
 }
 
 void ToolFolders::inputsHavePlainNamesEverywhere_data()
@@ -185,20 +194,22 @@ void ToolFolders::inputsHavePlainNamesEverywhere_data()
 void ToolFolders::inputsHavePlainNamesEverywhere()
 {
     QFETCH(QString, refused);
-    const QStringList tool = shellTool("printf '%s\\n' \"$1\" >../word; cat \"$1\" >../content; " +
-                                       wholePdf + " >result.pdf");
+    const QStringList tool =
+        shellTool(u"printf '%s\\n' \"$1\" >../word; cat \"$1\" >../content; "_s + wholePdf +
+                  u" >result.pdf"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("x[1]*?{a}.pdf"), "content");
-    QStringList call = {bundle.tool("pdftk"), "x[1]*?{a}.pdf", "output", "o.pdf"};
+    writeContent(folder.filePath(u"x[1]*?{a}.pdf"_s), "content");
+    QStringList call = {bundle.tool(u"pdftk"_s), u"x[1]*?{a}.pdf"_s, u"output"_s, u"o.pdf"_s};
     if (!refused.isEmpty())
-        call = QStringList{TESSARO_WITHOUTLINKS, refused} + call;
+        call = QStringList{QStringLiteral(TESSARO_WITHOUTLINKS), refused} + call;
     const RunResult result = runProgram(call.first(), call.mid(1), folder.path());
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(contentOf(folder.filePath("word")).trimmed(), QByteArray("input-1"));
-    QCOMPARE(contentOf(folder.filePath("content")), QByteArray("content"));
-    QCOMPARE(contentOf(folder.filePath("x[1]*?{a}.pdf")), QByteArray("content"));
-    QCOMPARE(namesIn(folder.path()), QStringList({"content", "o.pdf", "word", "x[1]*?{a}.pdf"}));
+    QCOMPARE(contentOf(folder.filePath(u"word"_s)).trimmed(), QByteArray("input-1"));
+    QCOMPARE(contentOf(folder.filePath(u"content"_s)), QByteArray("content"));
+    QCOMPARE(contentOf(folder.filePath(u"x[1]*?{a}.pdf"_s)), QByteArray("content"));
+    QCOMPARE(namesIn(folder.path()),
+             QStringList({u"content"_s, u"o.pdf"_s, u"word"_s, u"x[1]*?{a}.pdf"_s}));
 }
 
 void ToolFolders::inputsArePlainOnImages_data()
@@ -216,40 +227,40 @@ void ToolFolders::inputsArePlainOnImages()
     if (geteuid() != 0)
         QSKIP("only root can mount a file system; the other rows refuse links by other means");
     const QTemporaryDir stick, folder, places;
-    writeContent(folder.filePath("x[1].jpg"),
-                 "-write jpg:" + QFile::encodeName(folder.filePath("victim")));
-    writeContent(folder.filePath("victim"), "kept");
-    for (const char *name : {"cat[1].png", "st*r.png", "wh?t.png", "br{a,b}ce.png"})
+    writeContent(folder.filePath(u"x[1].jpg"_s),
+                 "-write jpg:" + QFile::encodeName(folder.filePath(u"victim"_s)));
+    writeContent(folder.filePath(u"victim"_s), "kept");
+    for (const QString &name : {u"cat[1].png"_s, u"st*r.png"_s, u"wh?t.png"_s, u"br{a,b}ce.png"_s})
         makeImage(folder.filePath(name));
-    writeContent(folder.filePath("info"), "InfoKey:Title\nInfoValue:on a stick\n");
-    writeContent(folder.filePath("work"),
+    writeContent(folder.filePath(u"info"_s), "InfoKey:Title\nInfoValue:on a stick\n");
+    writeContent(folder.filePath(u"work"_s),
                  "cd \"$1\"; shift\n"
                  "\"$1\" 'cat[1].png' 'st*r.png' 'wh?t.png' 'br{a,b}ce.png' \"$3/all.pdf\" || "
                  "exit 1\n"
                  "\"$1\" 'x[1].jpg' \"$3/hostile.pdf\" && exit 2\n"
                  "\"$2\" \"$3/all.pdf\" update_info info output \"$3/done.pdf\" || exit 3\n"
                  "ls -A \"$3\"; cp \"$3/done.pdf\" .\n");
-    const RunResult result =
-        runProgram(TESSARO_ON_IMAGE,
-                   {kind, "16", stick.path(), "/bin/sh", folder.filePath("work"), folder.path(),
-                    bundledTool("convert"), bundledTool("pdftk"), stick.path()},
-                   folder.path(), {{"TMPDIR", places.path()}});
+    const RunResult result = runProgram(
+        QStringLiteral(TESSARO_ON_IMAGE),
+        {kind, u"16"_s, stick.path(), u"/bin/sh"_s, folder.filePath(u"work"_s), folder.path(),
+         bundledTool(u"convert"_s), bundledTool(u"pdftk"_s), stick.path()},
+        folder.path(), {{u"TMPDIR"_s, places.path()}});
     if (result.status == 77)
         QSKIP("neither the kernel nor a program in user space mounts this file system here");
     QVERIFY2(result.status == 0, result.errors.constData());
     QCOMPARE(result.output, QByteArray("all.pdf\ndone.pdf\n"));
-    QCOMPARE(readPdf(folder.filePath("done.pdf")).pages, 4);
-    QCOMPARE(contentOf(folder.filePath("victim")), QByteArray("kept"));
+    QCOMPARE(readPdf(folder.filePath(u"done.pdf"_s)).pages, 4);
+    QCOMPARE(contentOf(folder.filePath(u"victim"_s)), QByteArray("kept"));
     QCOMPARE(namesIn(places.path()), QStringList());
 }
 
 void ToolFolders::fullPlacesAreNamedAndLeftClean_data()
 {
     QTest::addColumn<QStringList>("image");
-    QTest::newRow("no room") << QStringList{"tmpfs", "1"};
-    QTest::newRow("no inodes") << QStringList{"tmpfs", "1,nr_inodes=3"};
-    QTest::newRow("one inode too few") << QStringList{"tmpfs", "1,nr_inodes=4"};
-    QTest::newRow("two inodes too few") << QStringList{"tmpfs", "1,nr_inodes=5"};
+    QTest::newRow("no room") << QStringList{u"tmpfs"_s, u"1"_s};
+    QTest::newRow("no inodes") << QStringList{u"tmpfs"_s, u"1,nr_inodes=3"_s};
+    QTest::newRow("one inode too few") << QStringList{u"tmpfs"_s, u"1,nr_inodes=4"_s};
+    QTest::newRow("two inodes too few") << QStringList{u"tmpfs"_s, u"1,nr_inodes=5"_s};
 }
 
 void ToolFolders::fullPlacesAreNamedAndLeftClean()
@@ -257,16 +268,17 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean()
     QFETCH(QStringList, image);
     if (geteuid() != 0)
         QSKIP("only root can mount a file system");
-    const QStringList tool = shellTool("head -c 2000000 /dev/zero >result.pdf; exit 1");
+    const QStringList tool = shellTool(u"head -c 2000000 /dev/zero >result.pdf; exit 1"_s);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir full;
     const QString script =
-        "echo older >\"$1/o.pdf\"; \"$0\" in.pdf output \"$1/o.pdf\"; status=$?; ls -A \"$1\"; "
-        "cat \"$1/o.pdf\"; exit $status";
-    const RunResult result = runProgram(TESSARO_ON_IMAGE,
-                                        image + QStringList{full.path(), "/bin/sh", "-c", script,
-                                                            bundle.tool("pdftk"), full.path()},
-                                        m_folder.path());
+        u"echo older >\"$1/o.pdf\"; \"$0\" in.pdf output \"$1/o.pdf\"; status=$?; ls -A \"$1\"; "
+        "cat \"$1/o.pdf\"; exit $status"_s;
+    const RunResult result =
+        runProgram(QStringLiteral(TESSARO_ON_IMAGE),
+                   image + QStringList{full.path(), u"/bin/sh"_s, u"-c"_s, script,
+                                       bundle.tool(u"pdftk"_s), full.path()},
+                   m_folder.path());
     QCOMPARE(result.status, 1);
     QCOMPARE(result.output, QByteArray("o.pdf\nolder\n"));
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
@@ -287,19 +299,19 @@ void ToolFolders::messagesNameTheRightInput()
     QFETCH(QString, failing);
     QFETCH(QByteArray, message);
     const ToolBundle bundle(
-        shellTool("[ $1 != $FAILING ] || { echo \"cannot read $1\" >&2; exit 1; }; "
-                  "for last; do :; done; cp ../whole.pdf ${last#pdf:}"),
-        {"/bin/false"});
+        shellTool(u"[ $1 != $FAILING ] || { echo \"cannot read $1\" >&2; exit 1; }; "
+                  "for last; do :; done; cp ../whole.pdf ${last#pdf:}"_s),
+        {u"/bin/false"_s});
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.png"));
-    QCOMPARE(runBundled("convert", {"x.png", "whole.pdf"}, folder.path()).status, 0);
+    makeImage(folder.filePath(u"x.png"_s));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"whole.pdf"_s}, folder.path()).status, 0);
     QStringList call;
     for (int i = 1; i <= 11; ++i)
-        call.append(i == 2 ? QString("input-3") : "file" + QString::number(i));
+        call.append(i == 2 ? u"input-3"_s : u"file"_s + QString::number(i));
     for (const QString &name : call)
         writeContent(folder.filePath(name), "in");
-    const RunResult result = runProgram(bundle.tool("convert"), call + QStringList{"o.pdf"},
-                                        folder.path(), {{"FAILING", failing}});
+    const RunResult result = runProgram(bundle.tool(u"convert"_s), call + QStringList{u"o.pdf"_s},
+                                        folder.path(), {{u"FAILING"_s, failing}});
     QCOMPARE(result.errors, message);
 }
 

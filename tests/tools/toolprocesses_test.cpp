@@ -14,6 +14,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class ToolProcesses : public QObject
 {
     Q_OBJECT
@@ -46,12 +48,14 @@ private:
 
 namespace {
 
+const QStringList finishing = {u"in.pdf"_s, u"output"_s, u"o.pdf"_s};
+
 // The processes whose arguments contain `word`, zombies (which have none) left out.
 QList<pid_t> processesWith(const QByteArray &word)
 {
     QList<pid_t> found;
-    for (const QString &process : QDir("/proc").entryList(QDir::Dirs)) {
-        if (process.toInt() > 0 && contentOf("/proc/" + process + "/cmdline").contains(word))
+    for (const QString &process : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+        if (process.toInt() > 0 && contentOf(u"/proc/"_s + process + u"/cmdline"_s).contains(word))
             found.append(process.toInt());
     }
     return found;
@@ -67,7 +71,7 @@ QList<pid_t> childrenOf(const QProcess &process)
     const QString pid = QString::number(process.processId());
     QList<pid_t> children;
     for (const QByteArray &child :
-         contentOf("/proc/" + pid + "/task/" + pid + "/children").split(' ')) {
+         contentOf(u"/proc/"_s + pid + u"/task/"_s + pid + u"/children"_s).split(' ')) {
         if (child.trimmed().toInt() > 0)
             children.append(child.trimmed().toInt());
     }
@@ -83,7 +87,7 @@ int atOnce()
 bool haveEnded(const QList<pid_t> &processes)
 {
     return std::ranges::all_of(processes, [](pid_t process) {
-        return contentOf("/proc/" + QString::number(process) + "/cmdline").isEmpty();
+        return contentOf(u"/proc/"_s + QString::number(process) + u"/cmdline"_s).isEmpty();
     });
 }
 
@@ -99,17 +103,17 @@ QString ownWord(const QString &word)
 std::unique_ptr<QProcess> ToolProcesses::startConverting(const QString &folder,
                                                          const QString &pixels) const
 {
-    const QStringList pages(100, m_folder.filePath("page.jpg"));
-    return startProgram(bundledTool("convert"),
-                        QStringList{"-rotate", "90"} + pages + QStringList{"o.pdf"}, folder,
-                        {{"TMPDIR", pixels}});
+    const QStringList pages(100, m_folder.filePath(u"page.jpg"_s));
+    return startProgram(bundledTool(u"convert"_s),
+                        QStringList{u"-rotate"_s, u"90"_s} + pages + QStringList{u"o.pdf"_s},
+                        folder, {{u"TMPDIR"_s, pixels}});
 }
 
 void ToolProcesses::initTestCase()
 {
-    makeImage(m_folder.filePath("page.jpg"), {2480, 3508});
-    makeImage(m_folder.filePath("x.png"));
-    QCOMPARE(runBundled("convert", {"x.png", "in.pdf"}, m_folder.path()).status, 0);
+    makeImage(m_folder.filePath(u"page.jpg"_s), {2480, 3508});
+    makeImage(m_folder.filePath(u"x.png"_s));
+    QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
 void ToolProcesses::signalsArePassedOnAndCleanedUpAfter_data()
@@ -125,52 +129,49 @@ void ToolProcesses::signalsArePassedOnAndCleanedUpAfter()
 {
     QFETCH(int, signal);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    writeContent(folder.filePath("o.pdf"), "older");
-    const QStringList tool =
-        shellTool("for s in TERM INT HUP QUIT; do trap \"echo $s >../got; exit 7\" $s; done; "
-                  "touch ../started; while :; do sleep 0.05; done");
-    const ToolBundle bundle(tool, tool);
-    const auto call =
-        startProgram(bundle.tool("pdftk"), {"in.pdf", "output", "o.pdf"}, folder.path());
-    QTRY_VERIFY(QFile::exists(folder.filePath("started")));
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
+    const ToolBundle bundle(
+        {}, shellTool(u"for s in TERM INT HUP QUIT; do trap \"echo $s >../got; exit 7\" $s; done; "
+                      "touch ../started; while :; do sleep 0.05; done"_s));
+    const auto call = startProgram(bundle.tool(u"pdftk"_s), finishing, folder.path());
+    QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
     kill(pidOf(*call), signal);
     QVERIFY(call->waitForFinished());
     QCOMPARE(call->exitCode(), 7);
-    QCOMPARE(contentOf(folder.filePath("got")).trimmed(),
+    QCOMPARE(contentOf(folder.filePath(u"got"_s)).trimmed(),
              QByteArray(QTest::currentDataTag()).mid(3));
-    QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("older"));
-    QCOMPARE(namesIn(folder.path()), QStringList({"got", "in.pdf", "o.pdf", "started"}));
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
+    QCOMPARE(namesIn(folder.path()),
+             QStringList({u"got"_s, u"in.pdf"_s, u"o.pdf"_s, u"started"_s}));
 }
 
 // Sent again and again, so that a signal that put the end off would do so for ever.
 void ToolProcesses::signalsReachAToolThatIgnoresThem()
 {
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const QStringList tool =
-        shellTool("trap '' TERM; touch ../started; while :; do sleep 0.05; done");
-    const ToolBundle bundle(tool, tool);
-    const auto call =
-        startProgram(bundle.tool("pdftk"), {"in.pdf", "output", "o.pdf"}, folder.path());
-    QTRY_VERIFY(QFile::exists(folder.filePath("started")));
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const ToolBundle bundle(
+        {}, shellTool(u"trap '' TERM; touch ../started; while :; do sleep 0.05; done"_s));
+    const auto call = startProgram(bundle.tool(u"pdftk"_s), finishing, folder.path());
+    QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
     const pid_t pid = pidOf(*call);
     QTRY_VERIFY_WITH_TIMEOUT((kill(pid, SIGTERM), call->state() == QProcess::NotRunning), 60'000);
     QCOMPARE(call->exitCode(), 1);
     QCOMPARE(call->readAllStandardError(), QByteArray("ended by signal 9\n"));
-    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "started"}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"started"_s}));
 }
 
 // By the real tool, which sends them to itself, and by ours, which must not even wait for them.
 void ToolProcesses::ignoredSignalsStayIgnored()
 {
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const QStringList tool = shellTool("for s in HUP INT QUIT; do kill -$s $$; done; "
-                                       "sed -n 's/SigBlk://p' /proc/$PPID/status >&2; exit 5");
-    const ToolBundle bundle(tool, tool);
-    const RunResult result = runInShell("trap '' HUP INT QUIT", bundle.tool("pdftk"),
-                                        {"in.pdf", "output", "o.pdf"}, folder.path());
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const ToolBundle bundle({},
+                            shellTool(u"for s in HUP INT QUIT; do kill -$s $$; done; "
+                                      "sed -n 's/SigBlk://p' /proc/$PPID/status >&2; exit 5"_s));
+    const RunResult result =
+        runInShell(u"trap '' HUP INT QUIT"_s, bundle.tool(u"pdftk"_s), finishing, folder.path());
     QCOMPARE(result.status, 5);
     const quint64 waitedFor = result.errors.trimmed().toULongLong(nullptr, 16);
     for (const int signal : {SIGHUP, SIGINT, SIGQUIT})
@@ -191,24 +192,28 @@ void ToolProcesses::closedStreamsChangeNothing()
 {
     QFETCH(QString, closing);
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("x.png"), folder.filePath("x.png")));
-    QCOMPARE(runInShell(closing, bundledTool("convert"), {"x.png", "o.pdf"}, folder.path()).status,
+    QVERIFY(QFile::copy(m_folder.filePath(u"x.png"_s), folder.filePath(u"x.png"_s)));
+    QCOMPARE(runInShell(closing, bundledTool(u"convert"_s), {u"x.png"_s, u"o.pdf"_s}, folder.path())
+                 .status,
              0);
-    QCOMPARE(runInShell(closing, bundledTool("pdftk"),
-                        {"o.pdf", "output", "o-1.pdf", "owner_pw", "a", "user_pw", "b"},
+    QCOMPARE(runInShell(closing, bundledTool(u"pdftk"_s),
+                        {u"o.pdf"_s, u"output"_s, u"o-1.pdf"_s, u"owner_pw"_s, u"a"_s, u"user_pw"_s,
+                         u"b"_s},
                         folder.path())
                  .status,
              0);
-    QVERIFY(!readPdf(folder.filePath("o-1.pdf"), "b").needsPassword);
-    QCOMPARE(namesIn(folder.path()), QStringList({"o-1.pdf", "o.pdf", "x.png"}));
+    QVERIFY(!readPdf(folder.filePath(u"o-1.pdf"_s), "b").needsPassword);
+    QCOMPARE(namesIn(folder.path()), QStringList({u"o-1.pdf"_s, u"o.pdf"_s, u"x.png"_s}));
 }
 
 void ToolProcesses::noCoreIsDumped_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("call");
-    QTest::newRow("convert") << "convert" << QStringList{"in.pdf", "o.pdf"};
-    QTest::newRow("pdftk") << "pdftk" << QStringList{"in.pdf", "output", "o.pdf", "user_pw", "a"};
+    QTest::newRow("convert") << "convert" << QStringList{u"in.pdf"_s, u"o.pdf"_s};
+    QTest::newRow("pdftk") << "pdftk"
+                           << QStringList{u"in.pdf"_s, u"output"_s, u"o.pdf"_s, u"user_pw"_s,
+                                          u"a"_s};
 }
 
 // What the kernel tells of the end, wherever this machine would put a core.
@@ -217,8 +222,8 @@ void ToolProcesses::noCoreIsDumped()
     QFETCH(QString, program);
     QFETCH(QStringList, call);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    const QStringList tool = shellTool("touch ../started; while :; do sleep 0.05; done");
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    const QStringList tool = shellTool(u"touch ../started; while :; do sleep 0.05; done"_s);
     const ToolBundle bundle(tool, tool);
     const QByteArray command = "cd \"$1\"; shift; ulimit -c unlimited 2>/dev/null; exec \"$@\"";
     QList<QByteArray> words = {"sh",
@@ -235,52 +240,52 @@ void ToolProcesses::noCoreIsDumped()
     pointers.push_back(nullptr);
     pid_t pid = 0;
     QCOMPARE(posix_spawn(&pid, "/bin/sh", nullptr, nullptr, pointers.data(), environ), 0);
-    QTRY_VERIFY(QFile::exists(folder.filePath("started")));
+    QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
     kill(pid, SIGSEGV);
     int status = 0;
     QCOMPARE(waitpid(pid, &status, 0), pid);
     QVERIFY(WIFSIGNALED(status));
     QVERIFY(!WCOREDUMP(status));
-    QCOMPARE(QDir(folder.path()).entryList({"*core*"}), QStringList());
+    QCOMPARE(QDir(folder.path()).entryList({u"*core*"_s}), QStringList());
 }
 
 void ToolProcesses::theRealToolDumpsNoCore()
 {
-    const QStringList tool = shellTool("grep 'core file' /proc/self/limits >&2; exit 1");
-    const ToolBundle bundle(tool, tool);
-    const RunResult result = runInShell("ulimit -c unlimited 2>/dev/null", bundle.tool("pdftk"),
-                                        {"in.pdf", "output", "o.pdf"}, m_folder.path());
+    const ToolBundle bundle({}, shellTool(u"grep 'core file' /proc/self/limits >&2; exit 1"_s));
+    const RunResult result = runInShell(u"ulimit -c unlimited 2>/dev/null"_s,
+                                        bundle.tool(u"pdftk"_s), finishing, m_folder.path());
     // One byte, which to Linux means that no program is given the core either.
-    QCOMPARE(QString(result.errors).simplified(), QString("Max core file size 1 1 bytes"));
+    QCOMPARE(result.errors.simplified(), QByteArray("Max core file size 1 1 bytes"));
 }
 
 void ToolProcesses::lackOfMemoryIsASentence()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    writeContent(folder.filePath("info"),
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    writeContent(folder.filePath(u"info"_s),
                  "InfoKey:Title\nInfoValue:" + QByteArray(15'000'000, 'x') + "\n");
-    const RunResult result =
-        runInShell("ulimit -v 70000", bundledTool("pdftk"),
-                   {"in.pdf", "update_info", "info", "output", "o.pdf"}, folder.path());
+    const RunResult result = runInShell(
+        u"ulimit -v 70000"_s, bundledTool(u"pdftk"_s),
+        {u"in.pdf"_s, u"update_info"_s, u"info"_s, u"output"_s, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.errors, QByteArray("pdftk: not enough memory\n"));
     QCOMPARE(result.status, 1);
-    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "info"}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"info"_s}));
 }
 
 // The kernel's answer to a file beyond the caller's limit is a signal that ends a program.
 void ToolProcesses::limitOnFileSizesIsAFailure()
 {
     const QTemporaryDir folder;
-    makeImage(folder.filePath("x.jpg"));
-    writeContent(folder.filePath("o.pdf"), "old");
-    for (const QStringList &options : {QStringList(), QStringList{"-rotate", "90"}}) {
-        const RunResult result = runInShell("ulimit -f 0", bundledTool("convert"),
-                                            options + QStringList{"x.jpg", "o.pdf"}, folder.path());
+    makeImage(folder.filePath(u"x.jpg"_s));
+    writeContent(folder.filePath(u"o.pdf"_s), "old");
+    for (const QStringList &options : {QStringList(), QStringList{u"-rotate"_s, u"90"_s}}) {
+        const RunResult result =
+            runInShell(u"ulimit -f 0"_s, bundledTool(u"convert"_s),
+                       options + QStringList{u"x.jpg"_s, u"o.pdf"_s}, folder.path());
         QCOMPARE(result.status, 1);
         QVERIFY(result.errors.endsWith('\n'));
-        QCOMPARE(namesIn(folder.path()), QStringList({"o.pdf", "x.jpg"}));
-        QCOMPARE(contentOf(folder.filePath("o.pdf")), QByteArray("old"));
+        QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
+        QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("old"));
     }
 }
 
@@ -300,18 +305,18 @@ void ToolProcesses::realConvertStopsOnASignal()
 
 void ToolProcesses::killedProgramTakesTheJvmAlong()
 {
-    const QByteArray word = ownWord("killed-jvm").toUtf8();
-    const auto call =
-        startProgram(bundledTool("pdftk"), {"in.pdf", "output", "jvm.pdf", word}, m_folder.path());
+    const QString word = ownWord(u"killed-jvm"_s);
+    const auto call = startProgram(bundledTool(u"pdftk"_s),
+                                   {u"in.pdf"_s, u"output"_s, u"jvm.pdf"_s, word}, m_folder.path());
     pid_t jvm = 0;
-    const QByteArray java = QByteArray("result.pdf\0", 11) + word;
+    const QByteArray java = QByteArray("result.pdf\0", 11) + word.toUtf8();
     QTRY_VERIFY_WITH_TIMEOUT((jvm = processesWith(java).value(0)) > 0, 20'000);
     // Stopped, it cannot end by having done its work.
     kill(jvm, SIGSTOP);
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
     QTRY_COMPARE(processesWith(java), QList<pid_t>());
-    QVERIFY(!QFile::exists(m_folder.filePath("jvm.pdf")));
+    QVERIFY(!QFile::exists(m_folder.filePath(u"jvm.pdf"_s)));
 }
 
 void ToolProcesses::killedProgramTakesConvertAlong()
@@ -325,38 +330,39 @@ void ToolProcesses::killedProgramTakesConvertAlong()
     QTRY_VERIFY(haveEnded(children));
     const QStringList left = namesIn(pixels.path());
     QCOMPARE(left.size(), 1);
-    QTRY_COMPARE(namesIn(pixels.filePath(left.first())), QStringList{".tessaro"});
+    QTRY_COMPARE(namesIn(pixels.filePath(left.first())), QStringList{u".tessaro"_s});
 }
 
 // An image that is not whole is found while others are being converted.
 void ToolProcesses::failureEndsThoseAtWork()
 {
-    const QString word = ownWord("2000");
-    const ToolBundle bundle(shellTool("case $1 in *input-1*) exec sleep " + word +
-                                      ";; esac; while ! pgrep -f 'sleep " + word +
-                                      "' >/dev/null; do :; done; exit 9"),
-                            {"/bin/false"});
+    const QString word = ownWord(u"2000"_s);
+    const ToolBundle bundle(shellTool(u"case $1 in *input-1*) exec sleep "_s + word +
+                                      u";; esac; while ! pgrep -f 'sleep "_s + word +
+                                      u"' >/dev/null; do :; done; exit 9"_s),
+                            {u"/bin/false"_s});
     if (atOnce() < 2)
         QSKIP("one core runs one tool at a time");
     const QTemporaryDir folder;
-    for (const char *name : {"1", "2"})
+    for (const QString &name : {u"1"_s, u"2"_s})
         writeContent(folder.filePath(name), "content");
-    const RunResult result = runProgram(bundle.tool("convert"), {"1", "2", "o.pdf"}, folder.path());
+    const RunResult result =
+        runProgram(bundle.tool(u"convert"_s), {u"1"_s, u"2"_s, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.status, 9);
     QCOMPARE(processesWith(QByteArray("sleep\0", 6) + word.toUtf8()), QList<pid_t>());
-    QCOMPARE(namesIn(folder.path()), QStringList({"1", "2"}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"1"_s, u"2"_s}));
 }
 
 void ToolProcesses::killedProgramTakesAnyToolAlong()
 {
-    const QString word = ownWord("1000");
-    const QStringList tool = shellTool("exec sleep " + word);
+    const QString word = ownWord(u"1000"_s);
+    const QStringList tool = shellTool(u"exec sleep "_s + word);
     const ToolBundle bundle(tool, tool);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
     for (const auto &[program, arguments] :
-         {std::pair("convert", QStringList{"in.pdf", "o.pdf"}),
-          std::pair("pdftk", QStringList{"in.pdf", "output", "o.pdf"})}) {
+         {std::pair(u"convert"_s, QStringList{u"in.pdf"_s, u"o.pdf"_s}),
+          std::pair(u"pdftk"_s, finishing)}) {
         const auto call = startProgram(bundle.tool(program), arguments, folder.path());
         const QByteArray sleeping = QByteArray("sleep\0", 6) + word.toUtf8();
         QTRY_VERIFY(processesWith(sleeping).size() == 1);
@@ -369,16 +375,17 @@ void ToolProcesses::killedProgramTakesAnyToolAlong()
 void ToolProcesses::tenPdftkCallsAtOnceInOneFolder()
 {
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(m_folder.filePath("in.pdf"), folder.filePath("in.pdf")));
-    QStringList expected = {"in.pdf"};
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    QStringList expected = {u"in.pdf"_s};
     std::vector<std::unique_ptr<QProcess>> calls;
     calls.reserve(10);
     for (int i = 0; i < 10; ++i) {
-        const QString name = "o" + QString::number(i) + ".pdf";
+        const QString name = u"o"_s + QString::number(i) + u".pdf"_s;
         expected.append(name);
-        calls.push_back(startProgram(bundledTool("pdftk"),
-                                     {"in.pdf", "output", name, "owner_pw", "a", "user_pw", "b"},
-                                     folder.path()));
+        calls.push_back(startProgram(
+            bundledTool(u"pdftk"_s),
+            {u"in.pdf"_s, u"output"_s, name, u"owner_pw"_s, u"a"_s, u"user_pw"_s, u"b"_s},
+            folder.path()));
     }
     for (const auto &call : calls) {
         QVERIFY(call->waitForFinished(120'000));

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class ToolTargets : public QObject
 {
     Q_OBJECT
@@ -34,7 +36,7 @@ const QByteArray newPdf = "%PDF-1.4\n%%EOF\n";
 
 QStringList goodTool()
 {
-    return shellTool("printf '%%PDF-1.4\\n%%%%EOF\\n' >result.pdf");
+    return shellTool(u"printf '%%PDF-1.4\\n%%%%EOF\\n' >result.pdf"_s);
 }
 
 unsigned modeOf(const QString &path)
@@ -43,11 +45,11 @@ unsigned modeOf(const QString &path)
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : 0;
 }
 
-RunResult finish(const QString &folder, const QString &output, const QString &setting = ":")
+RunResult finish(const QString &folder, const QString &output, const QString &setting = u":"_s)
 {
     const ToolBundle bundle(goodTool(), goodTool());
-    writeContent(folder + "/in.pdf", "in");
-    return runInShell(setting, bundle.tool("pdftk"), {"in.pdf", "output", output}, folder);
+    writeContent(folder + u"/in.pdf"_s, "in");
+    return runInShell(setting, bundle.tool(u"pdftk"_s), {u"in.pdf"_s, u"output"_s, output}, folder);
 }
 
 } // namespace
@@ -65,11 +67,11 @@ void ToolTargets::modeIsKept()
 {
     QFETCH(unsigned, mode);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("o.pdf"), "older");
-    QCOMPARE(chmod(QFile::encodeName(folder.filePath("o.pdf")).constData(), mode), 0);
-    QCOMPARE(finish(folder.path(), "o.pdf").errors, QByteArray());
-    QCOMPARE(modeOf(folder.filePath("o.pdf")), mode);
-    QCOMPARE(contentOf(folder.filePath("o.pdf")), newPdf);
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
+    QCOMPARE(chmod(QFile::encodeName(folder.filePath(u"o.pdf"_s)).constData(), mode), 0);
+    QCOMPARE(finish(folder.path(), u"o.pdf"_s).errors, QByteArray());
+    QCOMPARE(modeOf(folder.filePath(u"o.pdf"_s)), mode);
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), newPdf);
 }
 
 void ToolTargets::newFileFollowsTheUmask_data()
@@ -87,23 +89,23 @@ void ToolTargets::newFileFollowsTheUmask()
     QFETCH(QString, mask);
     QFETCH(unsigned, mode);
     const QTemporaryDir folder;
-    QCOMPARE(finish(folder.path(), "o.pdf", mask).errors, QByteArray());
-    QVERIFY(QFile::exists(folder.filePath("o.pdf")));
-    QCOMPARE(modeOf(folder.filePath("o.pdf")), mode);
+    QCOMPARE(finish(folder.path(), u"o.pdf"_s, mask).errors, QByteArray());
+    QVERIFY(QFile::exists(folder.filePath(u"o.pdf"_s)));
+    QCOMPARE(modeOf(folder.filePath(u"o.pdf"_s)), mode);
 }
 
 void ToolTargets::groupIsKept()
 {
     const QTemporaryDir folder;
-    writeContent(folder.filePath("o.pdf"), "older");
-    const QByteArray path = QFile::encodeName(folder.filePath("o.pdf"));
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
+    const QByteArray path = QFile::encodeName(folder.filePath(u"o.pdf"_s));
     const gid_t group = geteuid() == 0 ? 65534 : getegid();
     QCOMPARE(chown(path.constData(), static_cast<uid_t>(-1), group), 0);
-    QCOMPARE(finish(folder.path(), "o.pdf").errors, QByteArray());
+    QCOMPARE(finish(folder.path(), u"o.pdf"_s).errors, QByteArray());
     struct stat status = {};
     QCOMPARE(stat(path.constData(), &status), 0);
     QCOMPARE(status.st_gid, group);
-    QCOMPARE(contentOf(folder.filePath("o.pdf")), newPdf);
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), newPdf);
 }
 
 void ToolTargets::linkLeadsToTheTarget_data()
@@ -121,14 +123,14 @@ void ToolTargets::linkLeadsToTheTarget()
     QFETCH(QString, target);
     QFETCH(bool, present);
     const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir("sub"));
-    const QString file = folder.filePath(target.startsWith('/') ? target.mid(1) : target);
-    const QByteArray content = QFile::encodeName(target.startsWith('/') ? file : target);
+    QVERIFY(QDir(folder.path()).mkdir(u"sub"_s));
+    const QString file = folder.filePath(target.startsWith(u'/') ? target.mid(1) : target);
+    const QByteArray content = QFile::encodeName(target.startsWith(u'/') ? file : target);
     if (present)
         writeContent(file, "older");
-    const QString link = folder.filePath("link.pdf");
+    const QString link = folder.filePath(u"link.pdf"_s);
     QCOMPARE(symlink(content.constData(), QFile::encodeName(link).constData()), 0);
-    QCOMPARE(finish(folder.path(), "link.pdf").errors, QByteArray());
+    QCOMPARE(finish(folder.path(), u"link.pdf"_s).errors, QByteArray());
     QVERIFY(QFileInfo(link).isSymLink());
     QVERIFY(!QFileInfo(file).isSymLink());
     QCOMPARE(contentOf(file), newPdf);
@@ -137,9 +139,9 @@ void ToolTargets::linkLeadsToTheTarget()
 void ToolTargets::linksWithoutEndAreRefused()
 {
     const QTemporaryDir folder;
-    QFile::link(folder.filePath("b.pdf"), folder.filePath("a.pdf"));
-    QFile::link(folder.filePath("a.pdf"), folder.filePath("b.pdf"));
-    const RunResult result = finish(folder.path(), "a.pdf");
+    QFile::link(folder.filePath(u"b.pdf"_s), folder.filePath(u"a.pdf"_s));
+    QFile::link(folder.filePath(u"a.pdf"_s), folder.filePath(u"b.pdf"_s));
+    const RunResult result = finish(folder.path(), u"a.pdf"_s);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("Too many levels of symbolic links"),
              result.errors.constData());
@@ -151,15 +153,15 @@ void ToolTargets::anotherUsersLinkInASharedFolderIsRefused()
         QSKIP("only root can make another user's link");
     const QTemporaryDir folder;
     QCOMPARE(chmod(QFile::encodeName(folder.path()).constData(), 01777), 0);
-    writeContent(folder.filePath("precious"), "older");
-    const QString link = folder.filePath("link.pdf");
-    QFile::link(folder.filePath("precious"), link);
+    writeContent(folder.filePath(u"precious"_s), "older");
+    const QString link = folder.filePath(u"link.pdf"_s);
+    QFile::link(folder.filePath(u"precious"_s), link);
     QCOMPARE(lchown(QFile::encodeName(link).constData(), 65534, 65534), 0);
-    const RunResult result = finish(folder.path(), "link.pdf");
+    const RunResult result = finish(folder.path(), u"link.pdf"_s);
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
              QByteArray("pdftk: cannot replace 'link.pdf': a link of another user\n"));
-    QCOMPARE(contentOf(folder.filePath("precious")), QByteArray("older"));
+    QCOMPARE(contentOf(folder.filePath(u"precious"_s)), QByteArray("older"));
 }
 
 void ToolTargets::otherKindsOfFilesAreRefused_data()
@@ -177,35 +179,35 @@ void ToolTargets::otherKindsOfFilesAreRefused()
 {
     QFETCH(QString, making);
     const QTemporaryDir folder;
-    const RunResult result = finish(folder.path(), "o.pdf", making);
+    const RunResult result = finish(folder.path(), u"o.pdf"_s, making);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.endsWith("not a regular file\n"), result.errors.constData());
-    QVERIFY(!QFileInfo(folder.filePath("o.pdf")).isFile());
+    QVERIFY(!QFileInfo(folder.filePath(u"o.pdf"_s)).isFile());
 }
 
 void ToolTargets::inputsOfOtherKindsAreRefused_data()
 {
     QTest::addColumn<QStringList>("call");
-    QTest::newRow("a pipe as PDF") << QStringList{"pipe", "output", "o.pdf"};
-    QTest::newRow("a device as PDF") << QStringList{"/dev/zero", "output", "o.pdf"};
+    QTest::newRow("a pipe as PDF") << QStringList{u"pipe"_s, u"output"_s, u"o.pdf"_s};
+    QTest::newRow("a device as PDF") << QStringList{u"/dev/zero"_s, u"output"_s, u"o.pdf"_s};
     QTest::newRow("a pipe as info file")
-        << QStringList{"in.pdf", "update_info", "pipe", "output", "o.pdf"};
+        << QStringList{u"in.pdf"_s, u"update_info"_s, u"pipe"_s, u"output"_s, u"o.pdf"_s};
     QTest::newRow("a device as info file")
-        << QStringList{"in.pdf", "update_info", "/dev/zero", "output", "o.pdf"};
-    QTest::newRow("a folder as PDF") << QStringList{".", "output", "o.pdf"};
+        << QStringList{u"in.pdf"_s, u"update_info"_s, u"/dev/zero"_s, u"output"_s, u"o.pdf"_s};
+    QTest::newRow("a folder as PDF") << QStringList{u"."_s, u"output"_s, u"o.pdf"_s};
 }
 
 void ToolTargets::inputsOfOtherKindsAreRefused()
 {
     QFETCH(QStringList, call);
     const QTemporaryDir folder;
-    writeContent(folder.filePath("in.pdf"), "in");
-    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath("pipe")).constData(), 0600), 0);
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
     const ToolBundle bundle(goodTool(), goodTool());
-    const RunResult result = runProgram(bundle.tool("pdftk"), call, folder.path());
+    const RunResult result = runProgram(bundle.tool(u"pdftk"_s), call, folder.path());
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.endsWith("not a regular file\n"), result.errors.constData());
-    QCOMPARE(namesIn(folder.path()), QStringList({"in.pdf", "pipe"}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"pipe"_s}));
 }
 
 QTEST_GUILESS_MAIN(ToolTargets)
