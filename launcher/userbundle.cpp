@@ -38,7 +38,7 @@ bool haveSameContent(const fs::path &one, const fs::path &other)
     std::error_code missing;
     if (fs::file_size(one) != fs::file_size(other, missing) || missing)
         return false;
-    constexpr size_t blockSize = 256 * 1024;
+    constexpr size_t blockSize = size_t(256) * 1024;
     std::ifstream first(one, std::ios::binary), second(other, std::ios::binary);
     std::vector<char> left(blockSize), right(blockSize);
     while (first && second) {
@@ -96,7 +96,7 @@ fs::path dataFolder()
         const fs::path path = value ? value : "";
         return path.is_absolute() ? path : fs::path();
     };
-    if (const fs::path data = absolute("XDG_DATA_HOME"); !data.empty())
+    if (fs::path data = absolute("XDG_DATA_HOME"); !data.empty())
         return data;
     const fs::path home = absolute("HOME");
     if (home.empty())
