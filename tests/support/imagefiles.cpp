@@ -38,7 +38,7 @@ QByteArray directory(const QList<std::pair<int, double>> &fields, quint32 offset
                    number(isRational ? 5 : 3, 2, bigEndian) + number(1, 4, bigEndian);
         if (isRational) {
             entries += number(end + static_cast<quint32>(values.size()), 4, bigEndian);
-            values += number(static_cast<quint64>(value * rationalBase + 0.5), 4, bigEndian) +
+            values += number(static_cast<quint64>(qRound64(value * rationalBase)), 4, bigEndian) +
                       number(rationalBase, 4, bigEndian);
         } else {
             entries += number(static_cast<quint64>(value), 2, bigEndian) + number(0, 2, bigEndian);
@@ -295,7 +295,7 @@ QByteArray tiff(const TiffForm &form)
         QByteArray row((form.size.width() + 7) / 8, '\0');
         for (int y = 0; y < form.size.height(); ++y) {
             for (qsizetype x = 0; x < row.size(); ++x)
-                row[x] = static_cast<char>((x * 31 + y * 7 + page) & 0xFC);
+                row[x] = static_cast<char>((x * 31 + qsizetype{y} * 7 + page) & 0xFC);
             TIFFWriteScanline(tiff, row.data(), static_cast<uint32_t>(y), 0);
         }
         TIFFWriteDirectory(tiff);
