@@ -11,7 +11,7 @@ from xml.sax.saxutils import escape
 
 LEFT, RIGHT, LINE, TOP = 330, 60, 22, 34
 WIDTH = 900
-TICKS = (0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5)
+TICKS = (0.001, 0.002, 0.005, 0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5)
 REACHED, MISSED, INFORMING = "#2a7f9e", "#b3541e", "#8a8a8a"
 
 
