@@ -1,6 +1,7 @@
 // How the pages of a call are made and joined: by copying, by several runs of the real tool, or by
 // both, in the order of the images.
 
+#include "imagefiles.h"
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -22,6 +23,7 @@ private slots:
     void twoThousandImages();
     void oneDamagedAmongMany_data();
     void oneDamagedAmongMany();
+    void densityBeyondReasonIsNamed();
     void warningsOfASuccessAreLogged();
     void informationIsTheSame_data();
     void informationIsTheSame();
@@ -166,6 +168,18 @@ void ConvertPages::oneDamagedAmongMany()
     QVERIFY(QDir(m_folder.path())
                 .entryList({u".tessaro*"_s}, QDir::AllEntries | QDir::Hidden)
                 .isEmpty());
+}
+
+// One pixel a metre: the page would be 400 m wide, which ImageMagick writes as 1.13386e+06 points.
+void ConvertPages::densityBeyondReasonIsNamed()
+{
+    writeContent(place(u"vast.png"_s),
+                 imagefiles::png({.size = {400, 400}, .before = {imagefiles::physical(1, 1, 1)}}));
+    const RunResult result = convert({u"-rotate"_s, u"90"_s, u"vast.png"_s});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors, QByteArray("convert: a page is not sound; the image may have a "
+                                       "density beyond reason\n"));
+    QVERIFY(!QFileInfo::exists(place(u"o.pdf"_s)));
 }
 
 // A tag that nobody knows is no reason to refuse an image.

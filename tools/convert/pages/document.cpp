@@ -75,8 +75,11 @@ void Document::addPdf(const DocumentPart &part)
     else
         source->processInputSource(std::make_shared<ClosedFileInputSource>(part.path.c_str()));
     std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(*source).getAllPages();
-    if (pages.size() < part.leastPages || source->anyWarnings())
+    if (pages.size() < part.leastPages)
         throw ToolError("a page is missing");
+    // ImageMagick writes a length of a million points as 1e+06, which is no number of a PDF.
+    if (source->anyWarnings())
+        throw ToolError("a page is not sound; the image may have a density beyond reason");
     for (QPDFPageObjectHelper &page : pages) {
         // Viewers make their own, and a copied page has none.
         page.getObjectHandle().removeKey("/Thumb");
