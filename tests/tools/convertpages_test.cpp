@@ -170,12 +170,12 @@ void ConvertPages::oneDamagedAmongMany()
                 .isEmpty());
 }
 
-// One pixel a metre: the page would be 400 m wide, which ImageMagick writes as 1.13386e+06 points.
+// A page of a kilometre, which ImageMagick writes as 2.88e+06 points.
 void ConvertPages::densityBeyondReasonIsNamed()
 {
-    writeContent(place(u"vast.png"_s),
-                 imagefiles::png({.size = {400, 400}, .before = {imagefiles::physical(1, 1, 1)}}));
-    const RunResult result = convert({u"-rotate"_s, u"90"_s, u"vast.png"_s});
+    writeContent(place(u"vast.tif"_s),
+                 imagefiles::tiff({.size = {400, 400}, .x = 0.01, .y = 0.01, .unit = 2}));
+    const RunResult result = convert({u"-rotate"_s, u"90"_s, u"vast.tif"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors, QByteArray("convert: a page is not sound; the image may have a "
                                        "density beyond reason\n"));
