@@ -5,10 +5,10 @@
 // IMAGES and OUTPUT are folders. Prints the milliseconds from the click on the convert button to
 // the end of the run.
 
-#include "dropfiles.h"
-#include "process.h"
+#include "filesin.h"
+#include "samples.h"
 #include "startup.h"
-#include "windowsteps.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
 
@@ -21,15 +21,15 @@ int main(int argc, char *argv[])
     prepare(application);
     if (argc != 3 && argc != 5)
         return 2;
-    Process window;
-    window.show();
-    dropFiles(window, filesIn(QString::fromLocal8Bit(argv[1])));
-    setField(window, "outputfolderEdit", QString::fromLocal8Bit(argv[2]));
+    WindowControls controls;
+    controls.window.show();
+    controls.drop(filesIn(QString::fromLocal8Bit(argv[1])));
+    controls.fill("outputfolderEdit", QString::fromLocal8Bit(argv[2]));
     if (argc == 5) {
-        setField(window, "lineEdit_title", QString::fromLocal8Bit(argv[3]));
-        setField(window, "lineEdit_ownerpwd", QString::fromLocal8Bit(argv[4]));
+        controls.fill("lineEdit_title", QString::fromLocal8Bit(argv[3]));
+        controls.fill("lineEdit_ownerpwd", QString::fromLocal8Bit(argv[4]));
     }
     QApplication::processEvents();
-    std::printf("%.3f\n", convertAll(window));
+    std::printf("%.3f\n", millisecondsOf([&controls] { controls.convertOneByOne(); }));
     return 0;
 }

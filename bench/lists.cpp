@@ -5,11 +5,10 @@
 // FOLDER holds the files. With "add-asked" the bare table's filler asks for the sizes, too. Prints
 // the samples in milliseconds, each from the drop or the click to the painted list.
 
-#include "dropfiles.h"
-#include "process.h"
+#include "filesin.h"
 #include "samples.h"
 #include "startup.h"
-#include "windowsteps.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -25,12 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize windowSize(552, 484);
-
-struct Row
-{
-    QString path;
-    QString size;
-};
 
 void sortByPath(QTableWidget &table)
 {
@@ -51,37 +44,28 @@ class Ours
 {
 public:
     explicit Ours(bool sorted)
-        : table(window.findChild<QTableWidget *>())
     {
         if (sorted)
-            sortByPath(*table);
-        window.show();
+            sortByPath(*controls.find<QTableWidget>("inputfiletableWidget"));
+        controls.window.show();
         QApplication::processEvents();
     }
 
     double add(const QList<QUrl> &urls)
     {
-        return measured([&] { dropFiles(window, urls); });
+        return measured([&] { controls.drop(urls); });
     }
 
     double removeAll()
     {
-        auto *button = window.findChild<QPushButton *>(u"removeallButton"_s);
+        auto *button = controls.find<QPushButton>("removeallButton");
         return measured([button] { button->click(); });
     }
 
-    std::vector<Row> rows() const
-    {
-        std::vector<Row> result;
-        result.reserve(static_cast<std::size_t>(table->rowCount()));
-        for (int row = 0; row < table->rowCount(); ++row)
-            result.push_back({table->item(row, 0)->text(), table->item(row, 1)->text()});
-        return result;
-    }
+    QList<ListedFile> rows() const { return controls.listedFiles(); }
 
 private:
-    Process window;
-    QTableWidget *table;
+    WindowControls controls;
 };
 
 /// Qt's table alone, in a window of the same size.
@@ -98,10 +82,10 @@ public:
         QApplication::processEvents();
     }
 
-    double fill(const std::vector<Row> &rows, bool asking)
+    double fill(const QList<ListedFile> &rows, bool asking)
     {
         return measured([&] {
-            for (const Row &row : rows) {
+            for (const ListedFile &row : rows) {
                 if (asking && QFileInfo(row.path).size() < 0)
                     return;
                 int place = table.rowCount();
@@ -131,7 +115,7 @@ QList<QUrl> shuffled(QList<QUrl> urls)
     return urls;
 }
 
-std::vector<Row> textsOf(const QList<QUrl> &urls)
+QList<ListedFile> textsOf(const QList<QUrl> &urls)
 {
     Ours ours(false);
     ours.add(urls);
@@ -140,7 +124,7 @@ std::vector<Row> textsOf(const QList<QUrl> &urls)
 
 Samples adding(const QList<QUrl> &urls, bool sorted, bool asking, int turns)
 {
-    const std::vector<Row> rows = textsOf(urls);
+    const QList<ListedFile> rows = textsOf(urls);
     Samples samples;
     samples.takeInTurn(
         turns, [&] { return Ours(sorted).add(urls); },
@@ -150,7 +134,7 @@ Samples adding(const QList<QUrl> &urls, bool sorted, bool asking, int turns)
 
 Samples removing(const QList<QUrl> &urls, int turns)
 {
-    const std::vector<Row> rows = textsOf(urls);
+    const QList<ListedFile> rows = textsOf(urls);
     Ours ours(false);
     Bare bare(false);
     Samples samples;

@@ -3,13 +3,11 @@
 //   bench_preview time IMAGE TURNS    one firing beside decoding and scaling alone, milliseconds
 //   bench_preview memory IMAGE        resident MiB after the 20th and after the 500th firing
 
-#include "dropfiles.h"
 #include "previewbox.h"
-#include "process.h"
 #include "residentmemory.h"
 #include "samples.h"
 #include "startup.h"
-#include "windowsteps.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
 #include <QFile>
@@ -36,12 +34,6 @@ double decodeAndScale(const QString &path)
         if (scaled.isNull())
             std::abort();
     });
-}
-
-void select(Process &window, const QString &path)
-{
-    dropFiles(window, {QUrl::fromLocalFile(path)});
-    window.findChild<QTableWidget *>()->setCurrentCell(0, 0);
 }
 
 double fire(Process &window)
@@ -80,13 +72,14 @@ int main(int argc, char *argv[])
     if (argc < 3)
         return 2;
     const QString path = QString::fromLocal8Bit(argv[2]);
-    Process window;
-    window.show();
-    select(window, path);
+    WindowControls controls;
+    controls.window.show();
+    controls.drop({QUrl::fromLocalFile(path)});
+    controls.find<QTableWidget>("inputfiletableWidget")->setCurrentCell(0, 0);
     QApplication::processEvents();
     if (QByteArray(argv[1]) == "memory")
-        measureMemory(window);
+        measureMemory(controls.window);
     else
-        measureTime(window, path, argc > 3 ? std::atoi(argv[3]) : 5);
+        measureTime(controls.window, path, argc > 3 ? std::atoi(argv[3]) : 5);
     return 0;
 }

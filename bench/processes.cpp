@@ -5,11 +5,9 @@
 //
 // Prints the KiB of resident memory for each of COUNT images.
 
-#include "dropfiles.h"
-#include "process.h"
 #include "residentmemory.h"
 #include "startup.h"
-#include "windowsteps.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
 #include <QDir>
@@ -51,13 +49,13 @@ void printGrowth(int count, const std::function<void()> &work)
 
 void runInWindow(const QString &folder, int count)
 {
-    Process window;
-    window.show();
-    setField(window, "outputfolderEdit", folder);
-    setField(window, "lineEdit_title", u"A"_s);
-    setField(window, "lineEdit_ownerpwd", u"b"_s);
-    dropFiles(window, images(folder, count));
-    printGrowth(count, [&window] { convertAll(window); });
+    WindowControls controls;
+    controls.window.show();
+    controls.fill("outputfolderEdit", folder);
+    controls.fill("lineEdit_title", u"A"_s);
+    controls.fill("lineEdit_ownerpwd", u"b"_s);
+    controls.drop(images(folder, count));
+    printGrowth(count, [&controls] { controls.convertOneByOne(); });
 }
 
 void finish(const QString &command)

@@ -1,7 +1,5 @@
 #include "windowdriver.h"
 
-#include "childprocesses.h"
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,11 +48,6 @@ bool WindowDriver::show()
     return QTest::qWaitForWindowExposed(&window);
 }
 
-QWidget *WindowDriver::control(const char *name) const
-{
-    return window.findChild<QWidget *>(QLatin1String(name));
-}
-
 bool WindowDriver::clickAt(QWidget *target, QPoint place)
 {
     const QPoint position = target->mapTo(&window, place);
@@ -67,25 +60,22 @@ bool WindowDriver::clickAt(QWidget *target, QPoint place)
 
 bool WindowDriver::click(const char *name)
 {
-    QWidget *target = control(name);
-    if (!target)
-        return false;
+    auto *target = find<QWidget>(name);
     const bool leftEnd = qobject_cast<QCheckBox *>(target) != nullptr;
     return clickAt(target, {leftEnd ? 8 : target->width() / 2, target->height() / 2});
 }
 
 bool WindowDriver::clickRow(int row)
 {
-    auto *table = window.findChild<QTableWidget *>();
-    if (!table || !table->item(row, 0))
-        return false;
-    return clickAt(table->viewport(), table->visualItemRect(table->item(row, 0)).center());
+    auto *table = find<QTableWidget>("inputfiletableWidget");
+    const QTableWidgetItem *item = table->item(row, 0);
+    return item && clickAt(table->viewport(), table->visualItemRect(item).center());
 }
 
 bool WindowDriver::type(const char *name, const QString &text)
 {
-    auto *field = qobject_cast<QLineEdit *>(control(name));
-    if (!field || !click(name))
+    auto *field = find<QLineEdit>(name);
+    if (!click(name))
         return false;
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     if (text.isEmpty())
@@ -97,9 +87,7 @@ bool WindowDriver::type(const char *name, const QString &text)
 
 bool WindowDriver::choose(const char *name, int index)
 {
-    auto *box = qobject_cast<QComboBox *>(control(name));
-    if (!box)
-        return false;
+    auto *box = find<QComboBox>(name);
     box->setFocus();
     while (box->currentIndex() != index) {
         const int before = box->currentIndex();
@@ -112,9 +100,7 @@ bool WindowDriver::choose(const char *name, int index)
 
 bool WindowDriver::tick(const char *name, bool on)
 {
-    auto *box = qobject_cast<QCheckBox *>(control(name));
-    if (!box)
-        return false;
+    const auto *box = find<QCheckBox>(name);
     return box->isChecked() == on || (click(name) && box->isChecked() == on);
 }
 
@@ -151,11 +137,6 @@ bool WindowDriver::chooseFolder(const QString &folder)
 bool WindowDriver::convert(int timeout)
 {
     return click("runButton") && waitUntilQuiet(timeout);
-}
-
-bool WindowDriver::waitUntilQuiet(int timeout)
-{
-    return QTest::qWaitFor([] { return !hasChildProcesses(); }, timeout);
 }
 
 bool WindowDriver::saveScreenshot(const QString &path)

@@ -1,19 +1,17 @@
 #pragma once
 
-#include "process.h"
+#include "windowcontrols.h"
 
 #include <QPoint>
 #include <QStringList>
 
 /// Works the real window as a person does: clicks go to a place on the window and hit what is
-/// there, keys go to what has the focus, dialogs are answered by typing. Each step says whether it
-/// came about, so that a caller can stop with a sentence.
-class WindowDriver
+/// there, keys go to what has the focus, dialogs are answered by typing. Each of these steps says
+/// whether it came about, so that a caller can stop with a sentence.
+class WindowDriver : public WindowControls
 {
 public:
     WindowDriver();
-
-    Process window;
 
     /// Shows the window and waits until the user could see it.
     bool show();
@@ -37,14 +35,11 @@ public:
 
     /// Presses the convert button and waits, at most `timeout` ms, until no tool runs any more.
     bool convert(int timeout);
-    /// Waits, at most `timeout` ms, until no child process is left.
-    static bool waitUntilQuiet(int timeout);
 
     /// Saves what the screen shows of the window as a PNG file.
     bool saveScreenshot(const QString &path);
 
 private:
-    QWidget *control(const char *name) const;
     bool clickAt(QWidget *target, QPoint place);
     bool answerDialog(const char *button, const QString &text);
 };

@@ -124,9 +124,9 @@ void ConversionTest::eachRunStartsTheStepsOfItsMode()
     fixture.setOutputFolder();
     fixture.check("checkBox_joinpdf", merged);
     fixture.check("checkBox_allowprint", printing);
-    fixture.type("lineEdit_title", title);
+    fixture.fill("lineEdit_title", title);
 
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
 
     QTEST(shortCalls(fixture), "calls");
@@ -141,7 +141,7 @@ void ConversionTest::progressCountsStartedImages()
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QCOMPARE(bar->value(), 1);
     QCOMPARE(bar->maximum(), 3);
 
@@ -160,7 +160,7 @@ void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.check("checkBox_joinpdf");
-    fixture.click("runButton");
+    fixture.press("runButton");
     QCOMPARE(ProcessProbe::tempFiles(fixture.window),
              QStringList({fixture.inputPath(u"a.jpg"_s), fixture.inputPath(u"b.jpg"_s)}));
     QVERIFY(fixture.waitUntilQuiet());
@@ -168,12 +168,12 @@ void ConversionTest::mergedRunLeavesTheFileIndexAtItsRowCount()
     QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 0);
 
     fixture.check("checkBox_joinpdf", false);
-    fixture.click("runButton"); // only ends the run
+    fixture.press("runButton"); // only ends the run
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(ProcessProbe::tempFiles(fixture.window).isEmpty());
     QCOMPARE(fixture.calls().size(), 1);
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 0);
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 3);
 }
@@ -183,15 +183,15 @@ void ConversionTest::laterRunsDeleteTheLastFinishedPdfAgain()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u"T"_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
     QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), fixture.outputPath(u"a.pdf"_s));
     QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), fixture.outputPath(u"a-1.pdf"_s));
 
-    fixture.type("lineEdit_title", u""_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u""_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 3); // a.pdf was written anew, and deleted at the run's end
     QCOMPARE(fixture.outputFiles(), QStringList());
@@ -202,9 +202,9 @@ void ConversionTest::mergedRunWithOptionsClearsTheFinishedNames()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
+    fixture.fill("lineEdit_title", u"T"_s);
     fixture.check("checkBox_joinpdf");
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(ProcessProbe::lastPdftkIn(fixture.window), QString());
     QCOMPARE(ProcessProbe::lastPdftkOut(fixture.window), QString());
@@ -216,12 +216,12 @@ void ConversionTest::intermediateNamesAreSetOnlyWhenPdftkFollows()
     WindowFixture fixture;
     fixture.addImages({u"a.1.jpg"_s});
     fixture.setOutputFolder();
-    fixture.click("runButton");
+    fixture.press("runButton");
     QCOMPARE(ProcessProbe::pdftkIn(fixture.window), QString());
     QCOMPARE(ProcessProbe::pdftkOut(fixture.window), QString());
     QVERIFY(fixture.waitUntilQuiet());
     fixture.check("checkBox_allowcopy");
-    fixture.click("runButton");
+    fixture.press("runButton");
     QCOMPARE(ProcessProbe::pdftkIn(fixture.window),
              QLatin1Char('"') + fixture.outputPath(u"a.pdf"_s) + QLatin1Char('"'));
     QCOMPARE(ProcessProbe::pdftkOut(fixture.window), fixture.outputPath(u"a-1.pdf"_s));
@@ -233,12 +233,12 @@ void ConversionTest::optionsAreReadAgainWhenPdftkStarts()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
+    fixture.fill("lineEdit_title", u"T"_s);
     fixture.check("checkBox_allowprint");
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.type("lineEdit_title", u""_s);
-    fixture.type("lineEdit_ownerpwd", u"late"_s);
+    fixture.press("runButton");
+    fixture.fill("lineEdit_title", u""_s);
+    fixture.fill("lineEdit_ownerpwd", u"late"_s);
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(shortCalls(fixture),
@@ -253,8 +253,8 @@ void ConversionTest::intermediateFileStaysInTheFolderThatConvertWasGiven()
     fixture.setOutputFolder();
     fixture.check("checkBox_allowprint");
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.type("outputfolderEdit", QDir::tempPath());
+    fixture.press("runButton");
+    fixture.fill("outputfolderEdit", QDir::tempPath());
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(shortCalls(fixture).last(), u"pdftk a.pdf output a-1.pdf allow printing"_s);
@@ -266,9 +266,9 @@ void ConversionTest::toolsRunInTheCurrentFolder()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     const QString folder = QDir::current().relativeFilePath(fixture.outputPath());
-    fixture.type("outputfolderEdit", folder);
+    fixture.fill("outputfolderEdit", folder);
     fixture.check("checkBox_allowprint");
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().first().arguments.last(), folder + u"/a.pdf"_s);
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s}));
@@ -280,7 +280,7 @@ void ConversionTest::rowsAddedMidRunAreConvertedToo()
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
+    fixture.press("runButton");
     fixture.addImages({u"b.jpg"_s});
     QList<int> seen; // a bar takes no value above its maximum
     connect(fixture.find<QProgressBar>("progressBar"), &QProgressBar::valueChanged, this,
@@ -297,7 +297,7 @@ void ConversionTest::namesThatAgreeOverwriteEachOther()
     WindowFixture fixture;
     fixture.addImages({u"a.1.jpg"_s, u"a.2.jpg"_s, u"scan.jpg"_s, u"scan.png"_s});
     fixture.setOutputFolder();
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
              QStringList({u"a.pdf: convert(a.2.jpg)"_s, u"scan.pdf: convert(scan.png)"_s}));
@@ -309,8 +309,8 @@ void ConversionTest::failedToolsDoNotStopTheRun()
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(u"output=none exit=1"_s);
-    fixture.type("lineEdit_title", u"T"_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u"T"_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 4);
     QCOMPARE(fixture.outputFiles(), QStringList());
@@ -325,14 +325,14 @@ void ConversionTest::toolThatCannotBeStartedStopsTheRunThere()
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     QVERIFY(QFile::rename(tool, aside));
-    fixture.click("runButton");
+    fixture.press("runButton");
     const bool quiet = fixture.waitUntilQuiet();
     QVERIFY(QFile::rename(aside, tool));
     QVERIFY(quiet);
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 1);
     QCOMPARE(fixture.find<QProgressBar>("progressBar")->value(), 1);
 
-    fixture.click("runButton"); // goes on with the row after
+    fixture.press("runButton"); // goes on with the row after
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(), QStringList({u"b.pdf: convert(b.jpg)"_s}));
 }
@@ -346,8 +346,8 @@ void ConversionTest::childProcessesBelongToNobody()
              QProcess::SeparateChannels);
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u"T"_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.window.findChildren<QProcess *>().isEmpty());
     QCOMPARE(ProcessProbe::process(fixture.window)->state(), QProcess::NotRunning);

@@ -1,14 +1,11 @@
 // The window is closed while a tool works: the program ends at once and cleanly, and the tool ends
 // by itself. The program is this executable again, started with arguments.
 
-#include "dropfiles.h"
 #include "faults_fixture.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -30,20 +27,19 @@ int closeDuringARun(int argc, char *argv[])
     const QStringList arguments = QApplication::arguments().mid(2);
     const QDir folder(arguments.at(0));
     QDir::setCurrent(folder.path());
-    Process window;
-    window.show();
-    window.findChild<QLineEdit *>(u"outputfolderEdit"_s)->setText(folder.path());
-    window.findChild<QLineEdit *>(u"lineEdit_title"_s)->setText(arguments.at(2));
-    window.findChild<QCheckBox *>(u"checkBox_joinpdf"_s)
-        ->setChecked(arguments.at(1) == QLatin1String("merged"));
-    dropFiles(window, {QUrl::fromLocalFile(folder.filePath(u"a.jpg"_s)),
-                       QUrl::fromLocalFile(folder.filePath(u"b.jpg"_s))});
-    window.findChild<QPushButton *>(u"runButton"_s)->click();
+    WindowControls controls;
+    controls.window.show();
+    controls.fill("outputfolderEdit", folder.path());
+    controls.fill("lineEdit_title", arguments.at(2));
+    controls.check("checkBox_joinpdf", arguments.at(1) == QLatin1String("merged"));
+    controls.drop({QUrl::fromLocalFile(folder.filePath(u"a.jpg"_s)),
+                   QUrl::fromLocalFile(folder.filePath(u"b.jpg"_s))});
+    controls.press("runButton");
 
     QTimer watcher;
-    QObject::connect(&watcher, &QTimer::timeout, &window, [&window] {
+    QObject::connect(&watcher, &QTimer::timeout, &controls.window, [&controls] {
         if (toolWorks())
-            window.close();
+            controls.window.close();
     });
     watcher.start(5);
     return QApplication::exec();

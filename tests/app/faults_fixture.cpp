@@ -1,11 +1,8 @@
 #include "faults_fixture.h"
 
-#include "childprocesses.h"
-
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QFile>
 #include <QProgressBar>
 #include <QStackedWidget>
@@ -76,9 +73,9 @@ FaultFixture::FaultFixture(const Mode &mode)
     setOutputFolder();
     check("checkBox_joinpdf", mode.merged);
     if (mode.title)
-        type("lineEdit_title", u"Holiday"_s);
+        fill("lineEdit_title", u"Holiday"_s);
     if (mode.security) {
-        type("lineEdit_ownerpwd", u"abc"_s);
+        fill("lineEdit_ownerpwd", u"abc"_s);
         check("checkBox_allowprint");
     }
 }
@@ -119,28 +116,15 @@ bool FaultFixture::answers()
     if (!QTest::qWaitFor([&handled] { return handled; }))
         return false;
     const auto *pages = find<QStackedWidget>("stackedWidget_dialog");
-    click("pushButton_Security");
+    press("pushButton_Security");
     const bool turned = pages->currentIndex() == 3;
-    click("pushButton_Inout");
+    press("pushButton_Inout");
     return turned && pages->currentIndex() == 0 && !window.grab().isNull();
 }
 
 bool FaultFixture::waitForCalls(qsizetype count)
 {
     return QTest::qWaitFor([this, count] { return calls().size() == count; }, 60000);
-}
-
-bool FaultFixture::runUntilQuiet()
-{
-    QEventLoop loop;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &loop, [&loop] {
-        if (!hasChildProcesses())
-            loop.exit(0);
-    });
-    look.start(5);
-    QTimer::singleShot(60000, &loop, [&loop] { loop.exit(1); });
-    return loop.exec() == 0;
 }
 
 bool FaultFixture::waitForToolsAlone()

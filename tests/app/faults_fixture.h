@@ -83,9 +83,6 @@ public:
     bool answers();
     /// Waits until the fake tools have been called so often.
     bool waitForCalls(qsizetype count);
-    /// Waits in an event loop like the program's own until no tool runs, without the pauses of
-    /// the test library's waiting.
-    bool runUntilQuiet();
     /// Waits, without handling any event, until every tool called so far has ended.
     bool waitForToolsAlone();
     void setFolderWritable(bool writable);

@@ -55,10 +55,10 @@ void FaultsLoadTest::windowAnswersWhileAToolTakesLongOrTalksMuch()
     fixture.find<QTableWidget>("inputfiletableWidget")->removeRow(1);
     fixture.tellConvert(convert);
     fixture.tellPdftk(pdftk);
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(pdftk.isEmpty() ? 1 : 2));
     QVERIFY(fixture.answers()); // in the middle of the call
-    QVERIFY(fixture.runUntilQuiet());
+    QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
     QCOMPARE(fixture.outcome().tellTale(), oneImageDone.of(mode)->tellTale());
 }
@@ -75,8 +75,8 @@ void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()
     }
     fixture.addImages(names);
     const qsizetype before = openDescriptors().size();
-    fixture.click("runButton");
-    QVERIFY(fixture.runUntilQuiet());
+    fixture.press("runButton");
+    QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(openDescriptors().size(), before);
     QCOMPARE(fixture.outputFiles(), pdfs);
     QCOMPARE(fixture.outcome().calls, u"cp"_s.repeated(60));

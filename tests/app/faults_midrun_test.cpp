@@ -22,7 +22,7 @@ void addRow(FaultFixture &fixture)
 void removeRow(FaultFixture &fixture, int row)
 {
     fixture.find<QTableWidget>("inputfiletableWidget")->selectRow(row);
-    fixture.click("removeButton");
+    fixture.press("removeButton");
 }
 
 void removeConvertedRow(FaultFixture &fixture)
@@ -37,7 +37,7 @@ void removeNextRow(FaultFixture &fixture)
 
 void emptyList(FaultFixture &fixture)
 {
-    fixture.click("removeallButton");
+    fixture.press("removeallButton");
 }
 
 void sortBackwards(FaultFixture &fixture)
@@ -211,7 +211,7 @@ void FaultsMidrunTest::changeDuringTheRun()
     const QString gate = fixture.closeGate();
     fixture.tellConvert(moment == WhileConverting ? gate : QString());
     fixture.tellPdftk(moment == WhileFinishing ? gate : QString());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(moment == WhileConverting ? 1 : 2));
     QVERIFY(fixture.answers());
 
@@ -245,7 +245,7 @@ void FaultsMidrunTest::runButtonPressedAgain()
     fixture.tellConvert(gate);
     fixture.tellPdftk(gate);
     for (int i = 0; i < count; ++i)
-        fixture.click("runButton");
+        fixture.press("runButton");
     const int chains = mode.merged ? count : 2; // the third press finds no row left
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), count > chains ? 0 : 2);
     QVERIFY(fixture.waitForCalls(chains));
@@ -271,7 +271,7 @@ void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
     FaultFixture fixture(singleFull());
     fixture.tellConvert(fixture.closeGate());
     for (int i = 0; i < 3; ++i)
-        fixture.click("runButton");
+        fixture.press("runButton");
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
@@ -286,11 +286,11 @@ void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
 void FaultsMidrunTest::nextRunDeletesTheLastPdfOfTheOneBefore()
 {
     FaultFixture fixture(singleFull());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    fixture.click("removeallButton");
+    fixture.press("removeallButton");
     fixture.addImages({u"c.gif"_s});
-    fixture.click("runButton"); // other images, with options all the same
+    fixture.press("runButton"); // other images, with options all the same
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(),
              QStringList({u"a.pdf: pdftk(convert(a.jpg))"_s, u"c.pdf: pdftk(convert(c.gif))"_s}));
@@ -300,7 +300,7 @@ void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles(
 {
     FaultFixture fixture(singleFull());
     const QString gate = fixture.closeGate();
-    fixture.click("runButton");
+    fixture.press("runButton");
     fixture.tellPdftk(gate);
     QVERIFY(fixture.waitForCalls(2));
     fixture.openGate();

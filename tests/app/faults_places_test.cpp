@@ -167,7 +167,7 @@ void FaultsPlacesTest::faultBeforeTheRun()
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
     action(fixture);
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
@@ -185,7 +185,7 @@ void FaultsPlacesTest::faultDuringTheRun()
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     QVERIFY(fixture.answers());
     action(fixture);
@@ -225,7 +225,7 @@ void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile()
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
     const InfoFileInTheWay inTheWay;
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
@@ -262,7 +262,7 @@ void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed()
     older.close();
     fixture.tellConvert(u"output=none exit=1"_s);
     fixture.tellPdftk(pdftk);
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QTEST(fixture.outputFiles(), "files");
 }
@@ -281,7 +281,7 @@ void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone()
     QFETCH(bool, emptied);
     FaultFixture fixture(merged ? mergedPlain() : singlePlain());
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     removeOutput(fixture);
     fixture.openGate();

@@ -154,7 +154,7 @@ void FaultsToolsTest::everyFaultEndsAsTheModeSays()
     fixture.tellConvert(convert);
     fixture.tellPdftk(pdftk);
 
-    fixture.click("runButton");
+    fixture.press("runButton");
     const bool hangs = convert == QLatin1String("hang") || pdftk == QLatin1String("hang");
     if (hangs)
         QTRY_COMPARE(fixture.outcome().tellTale(), expected.tellTale());
@@ -185,10 +185,10 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
     QFETCH(Outcome, expected);
     auto away = std::make_unique<ToolPlace>(tool, ToolPlace::Missing);
     FaultFixture fixture(singleFull());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     away.reset();
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
 }
@@ -197,7 +197,7 @@ void FaultsToolsTest::killedToolLetsTheRunGoOn()
 {
     FaultFixture fixture(singlePlain());
     fixture.tellConvert(u"hang"_s);
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     fixture.tellConvert({});
     kill(static_cast<pid_t>(fixture.calls().first().pid), SIGKILL);

@@ -201,7 +201,7 @@ void LookTest::selectedRowStandsOut()
 void LookTest::typedTextIsDarkOnLight()
 {
     WindowFixture fixture;
-    fixture.type("outputfolderEdit", u"/home/me/results"_s);
+    fixture.fill("outputfolderEdit", u"/home/me/results"_s);
     QVERIFY(isReadable(fixture.find<QLineEdit>("outputfolderEdit")));
 }
 
@@ -212,7 +212,7 @@ void LookTest::messageBoxIsDarkOnLight()
     ModalAnswer answer([&readable](QWidget *box) {
         readable = isReadable(box->findChild<QLabel *>(u"qt_msgbox_label"_s));
     });
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(answer.happened());
     QVERIFY(readable);
 }

@@ -41,7 +41,7 @@ void MessagesTest::emptyListIsWarnedAboutAndNothingElseChanges()
     QStringList shown;
     ModalAnswer answer(
         [&](QWidget *box) { shown = messageOf(box, QMessageBox::Warning, fixture.window); });
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(answer.happened());
     QCOMPARE(shown, QStringList({u"Empty input"_s, u"Please choose files to convert."_s}));
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
@@ -62,11 +62,11 @@ void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied()
     QFETCH(QString, folder);
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
-    fixture.type("outputfolderEdit", folder);
+    fixture.fill("outputfolderEdit", folder);
     QStringList shown;
     ModalAnswer answer(
         [&](QWidget *box) { shown = messageOf(box, QMessageBox::Information, fixture.window); });
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(answer.happened());
     QCOMPARE(shown, QStringList({u"Invalid order"_s, u"Please specify an output folder."_s}));
     QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), QString());
@@ -80,8 +80,8 @@ void MessagesTest::losingTheOutputFolderMidRunEndsIt()
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
     fixture.tellConvert(fixture.closeGate());
-    fixture.click("runButton");
-    fixture.type("outputfolderEdit", u"/nowhere"_s);
+    fixture.press("runButton");
+    fixture.fill("outputfolderEdit", u"/nowhere"_s);
     QString title;
     ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
     fixture.openGate();

@@ -50,8 +50,8 @@ void NamesTest::oddNamesReachTheToolWhole()
     WindowFixture fixture;
     fixture.addImages({name});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"T"_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u"T"_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 2);
     QCOMPARE(fixture.calls().first().arguments,
@@ -64,7 +64,7 @@ void NamesTest::nameWithADoubleQuoteDoesNotReachTheTool()
     WindowFixture fixture;
     fixture.addImages({u"a\"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.calls().size(), 1);
     QVERIFY(!fixture.calls().first().arguments.contains(fixture.inputPath(u"a\"b.jpg"_s)));
@@ -82,7 +82,7 @@ void NamesTest::thousandsOfRowsReachTheToolInOneCall()
     QCOMPARE(fixture.find<QTableWidget>("inputfiletableWidget")->rowCount(), 3000);
     fixture.setOutputFolder();
     fixture.check("checkBox_joinpdf");
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
 
     const QString output = fixture.outputPath(names.first().replace(u".jpg"_s, u".pdf"_s));

@@ -151,7 +151,7 @@ void NavigationTest::clicksLeadToTheirPages()
 void NavigationTest::disabledButtonCannotBeClicked()
 {
     WindowFixture fixture;
-    fixture.click("pushButton_ImageSetting");
+    fixture.press("pushButton_ImageSetting");
     auto *button = fixture.find<QPushButton>("pushButton_ImageSetting");
     int clicks = 0;
     connect(button, &QPushButton::clicked, this, [&clicks] { ++clicks; });
@@ -163,13 +163,13 @@ void NavigationTest::disabledButtonCannotBeClicked()
 void NavigationTest::imageButtonStaysUncheckable()
 {
     WindowFixture fixture;
-    fixture.click("pushButton_ImageSetting");
+    fixture.press("pushButton_ImageSetting");
     auto *button = fixture.find<QPushButton>("pushButton_ImageSetting");
     QVERIFY(!button->isCheckable());
     QVERIFY(!button->isChecked());
 
     // It is set checked all the same, and it alone, as buttons that can be checked show.
-    fixture.click("pushButton_Inout");
+    fixture.press("pushButton_Inout");
     const auto buttons = fixture.window.findChildren<QPushButton *>();
     for (QPushButton *each : buttons)
         each->setCheckable(true);

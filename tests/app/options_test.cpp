@@ -3,7 +3,6 @@
 #include "privatelocales.h"
 #include "windowfixture.h"
 
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -88,9 +87,9 @@ void OptionsTest::imageOptionsStandInTheirOrder()
     QFETCH(int, compression);
     QFETCH(bool, monochrome);
     WindowFixture fixture;
-    fixture.find<QComboBox>("comboBox_pagesize")->setCurrentIndex(size);
-    fixture.find<QComboBox>("comboBox_rotate")->setCurrentIndex(rotation);
-    fixture.find<QComboBox>("comboBox_compresstype")->setCurrentIndex(compression);
+    fixture.select("comboBox_pagesize", size);
+    fixture.select("comboBox_rotate", rotation);
+    fixture.select("comboBox_compresstype", compression);
     fixture.check("checkBox_monochrome", monochrome);
     QTEST(fixture.window.gettheoption(), "option");
 }
@@ -127,10 +126,10 @@ void OptionsTest::descriptionIsWrittenWithAllItsLines()
 {
     QFETCH(QStringList, texts);
     WindowFixture fixture;
-    fixture.type("lineEdit_title", texts[0]);
-    fixture.type("lineEdit_subject", texts[1]);
-    fixture.type("lineEdit_keywords", texts[2]);
-    fixture.type("lineEdit_author", texts[3]);
+    fixture.fill("lineEdit_title", texts[0]);
+    fixture.fill("lineEdit_subject", texts[1]);
+    fixture.fill("lineEdit_keywords", texts[2]);
+    fixture.fill("lineEdit_author", texts[3]);
     QCOMPARE(fixture.window.getPdftkoption(), updateInfo());
     QTEST(contentBesideTheBundle(u"pdfa.txt"_s), "file");
 }
@@ -140,7 +139,7 @@ void OptionsTest::blankDescriptionTouchesNoFile()
     WindowFixture fixture;
     for (const char *field :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"})
-        fixture.type(field, u"  "_s);
+        fixture.fill(field, u"  "_s);
     QCOMPARE(fixture.window.getPdftkoption(), QString());
     QCOMPARE(contentBesideTheBundle(u"pdfa.txt"_s), QByteArray("none"));
 }
@@ -161,7 +160,7 @@ void OptionsTest::infoFileIsInTheLocalesCharset()
     QFETCH(QByteArray, title);
     locales.use(locale);
     WindowFixture fixture;
-    fixture.type("lineEdit_title", QString::fromUtf8("\u00e9 \u20ac"));
+    fixture.fill("lineEdit_title", QString::fromUtf8("\u00e9 \u20ac"));
     fixture.window.getPdftkoption();
     QCOMPARE(contentBesideTheBundle(u"pdfa.txt"_s), withTitle(title));
 }
@@ -171,11 +170,11 @@ void OptionsTest::infoFileStaysAfterTheRun()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.type("lineEdit_title", u"A long first title"_s);
-    fixture.click("runButton");
+    fixture.fill("lineEdit_title", u"A long first title"_s);
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(contentBesideTheBundle(u"pdfa.txt"_s), withTitle("A long first title"));
-    fixture.type("lineEdit_title", u"Short"_s);
+    fixture.fill("lineEdit_title", u"Short"_s);
     fixture.window.getPdftkoption();
     QCOMPARE(contentBesideTheBundle(u"pdfa.txt"_s), withTitle("Short"));
 }
@@ -184,7 +183,7 @@ void OptionsTest::infoFileThatCannotBeWrittenIsPassedOn()
 {
     QVERIFY(QDir().mkdir(u"pdfa.txt"_s)); // a folder cannot be written, even by root
     WindowFixture fixture;
-    fixture.type("lineEdit_title", u"T"_s);
+    fixture.fill("lineEdit_title", u"T"_s);
     QCOMPARE(fixture.window.getPdftkoption(), u"111"_s);
 }
 
@@ -229,8 +228,8 @@ void OptionsTest::eachSecurityControlAddsItsPiece()
     QFETCH(QString, user);
     QFETCH(QByteArrayList, boxes);
     WindowFixture fixture;
-    fixture.type("lineEdit_ownerpwd", owner);
-    fixture.type("lineEdit_userpwd", user);
+    fixture.fill("lineEdit_ownerpwd", owner);
+    fixture.fill("lineEdit_userpwd", user);
     for (const QByteArray &box : boxes)
         fixture.check(box);
     QTEST(fixture.window.getPdftkoptionPer(), "option");

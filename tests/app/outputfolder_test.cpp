@@ -98,7 +98,7 @@ void OutputFolderTest::typedFolderIsUsedButNotStored()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     QTest::keyClicks(fixture.find<QLineEdit>("outputfolderEdit"), fixture.outputPath());
-    fixture.click("runButton");
+    fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
     QCOMPARE(contentBesideTheBundle(settings), QByteArray("none"));

@@ -316,7 +316,7 @@ void PreviewTest::emptiedListKeepsTheDefaultPictureAtLaterFirings()
     WindowFixture fixture;
     const QImage before = pictureOf(fixture);
     preview(fixture, savePicture(fixture, u"p.png"_s, {1000, 100}, Qt::red));
-    fixture.click("removeallButton");
+    fixture.press("removeallButton");
     fixture.window.dopreview();
     QCOMPARE(frameOf(fixture)->size(), QSize(151, 151));
     QCOMPARE(pictureOf(fixture), before);
@@ -337,7 +337,7 @@ void PreviewTest::timerStartsAtTheFirstClickAndRepeats()
     int firings = 0;
     connect(timer, &QTimer::timeout, this, [&firings] { ++firings; });
     QTRY_VERIFY(firings >= 2);
-    fixture.click("removeallButton");
+    fixture.press("removeallButton");
     QVERIFY(timer->isActive()); // it goes on, with nothing to show
 }
 

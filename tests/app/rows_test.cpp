@@ -60,12 +60,12 @@ void act(WindowFixture &fixture, const QString &step)
     else if (step == QLatin1String("select"))
         selectRows(fixture, {0});
     else if (step == QLatin1String("remove"))
-        fixture.click("removeButton");
+        fixture.press("removeButton");
     else if (step == QLatin1String("remove all"))
-        fixture.click("removeallButton");
+        fixture.press("removeallButton");
     else if (step == QLatin1String("cancelled open")) {
         const ModalAnswer cancel([](QWidget *) {});
-        fixture.click("openfileButton");
+        fixture.press("openfileButton");
     } else
         qFatal("no such step");
 }
@@ -122,7 +122,7 @@ void RowsTest::selectedRowsAreRemovedFromTheBottomUp()
     connect(fixture.find<QTableWidget>("inputfiletableWidget")->model(),
             &QAbstractItemModel::rowsRemoved, this,
             [&removed](const QModelIndex &, int first) { removed << first; });
-    fixture.click("removeButton");
+    fixture.press("removeButton");
     QCOMPARE(removed, QList<int>({3, 1}));
     QCOMPARE(namesOf(fixture), QStringList({u"0.jpg"_s, u"2.jpg"_s, u"4.jpg"_s}));
 }
@@ -135,7 +135,7 @@ void RowsTest::cellsOfARowCountOnce()
     table->setSelectionBehavior(QAbstractItemView::SelectItems);
     table->item(0, 0)->setSelected(true);
     table->item(0, 1)->setSelected(true);
-    fixture.click("removeButton");
+    fixture.press("removeButton");
     QCOMPARE(namesOf(fixture), QStringList({u"1.jpg"_s}));
 }
 

@@ -43,11 +43,11 @@ void showEverything(WindowFixture &fixture)
 {
     for (const char *button : {"openfileButton", "outputButton", "aboutpushButton", "runButton"}) {
         const ModalAnswer answer([](QWidget *) {});
-        fixture.click(button);
+        fixture.press(button);
     }
     fixture.addImages({u"a.jpg"_s});
     const ModalAnswer answer([](QWidget *) {});
-    fixture.click("runButton"); // without an output folder
+    fixture.press("runButton"); // without an output folder
 }
 
 } // namespace

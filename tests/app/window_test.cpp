@@ -164,7 +164,7 @@ void WindowTest::tabKeyVisitsThePageInOrder()
 void WindowTest::rotationMayBeTyped()
 {
     WindowFixture fixture;
-    fixture.click("pushButton_ImageSetting");
+    fixture.press("pushButton_ImageSetting");
     auto *box = fixture.find<QComboBox>("comboBox_rotate");
     box->lineEdit()->selectAll();
     QTest::keyClicks(box->lineEdit(), u"45"_s);

@@ -1,17 +1,12 @@
 #include "windowfixture.h"
 
 #include "bundlepaths.h"
-#include "childprocesses.h"
-#include "dropfiles.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QProcess>
-#include <QTableWidget>
 
 #include <csignal>
 
@@ -47,11 +42,6 @@ QString WindowFixture::makeFile(const QString &name, const QByteArray &content) 
     return file.fileName();
 }
 
-void WindowFixture::drop(const QList<QUrl> &urls)
-{
-    dropFiles(window, urls);
-}
-
 QStringList WindowFixture::addImages(const QStringList &names)
 {
     QStringList paths;
@@ -66,22 +56,7 @@ QStringList WindowFixture::addImages(const QStringList &names)
 
 void WindowFixture::setOutputFolder()
 {
-    type("outputfolderEdit", outputPath());
-}
-
-void WindowFixture::click(const char *button)
-{
-    find<QPushButton>(button)->click();
-}
-
-void WindowFixture::check(const char *box, bool checked)
-{
-    find<QCheckBox>(box)->setChecked(checked);
-}
-
-void WindowFixture::type(const char *field, const QString &text)
-{
-    find<QLineEdit>(field)->setText(text);
+    fill("outputfolderEdit", outputPath());
 }
 
 QString WindowFixture::closeGate()
@@ -112,15 +87,13 @@ QList<ToolCall> WindowFixture::calls() const
     return calls;
 }
 
-QStringList WindowFixture::rows()
+QStringList WindowFixture::rows() const
 {
     QStringList rows;
-    const auto *table = find<QTableWidget>("inputfiletableWidget");
-    for (int row = 0; row < table->rowCount(); ++row) {
-        QString text = table->item(row, 0)->text().remove(inputPath({}));
-        if (const QTableWidgetItem *size = table->item(row, 1))
-            text += QLatin1Char('|') + size->text();
-        rows << text;
+    const QList<ListedFile> files = listedFiles();
+    for (const auto &[path, size] : files) {
+        const QString name = QString(path).remove(inputPath({}));
+        rows << (size.isNull() ? name : name + QLatin1Char('|') + size);
     }
     return rows;
 }
@@ -139,11 +112,6 @@ QStringList WindowFixture::outputFiles() const
         files << name + QStringLiteral(": ") + content;
     }
     return files;
-}
-
-bool WindowFixture::waitUntilQuiet()
-{
-    return QTest::qWaitFor([] { return !hasChildProcesses(); }, 60000);
 }
 
 QByteArray contentBesideTheBundle(const QString &name)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "process.h"
+#include "windowcontrols.h"
 
 #include <QPushButton>
 #include <QStringList>
@@ -37,22 +37,11 @@ struct ToolCall
 
 /// A window with folders and fake tools of its own. The current directory is the bundle's folder,
 /// as start-up makes it.
-class WindowFixture
+class WindowFixture : public WindowControls
 {
 public:
     WindowFixture();
     ~WindowFixture();
-
-    Process window;
-
-    template <class Widget>
-    Widget *find(const char *name)
-    {
-        auto *widget = window.findChild<Widget *>(QLatin1String(name));
-        if (!widget)
-            qFatal("no such object: %s", name);
-        return widget;
-    }
 
     QString inputPath(const QString &name) const
     {
@@ -62,14 +51,9 @@ public:
 
     /// Writes a small file into the input folder; returns its path.
     QString makeFile(const QString &name, const QByteArray &content = "image") const;
-    /// Drops the files on the window, as the desktop would.
-    void drop(const QList<QUrl> &urls);
     /// Makes the files and drops them; returns their paths.
     QStringList addImages(const QStringList &names);
     void setOutputFolder();
-    void click(const char *button);
-    void check(const char *box, bool checked = true);
-    void type(const char *field, const QString &text);
 
     /// What the fake tools are told, see faketool.cpp; "" for good behaviour.
     void tellConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
@@ -81,11 +65,9 @@ public:
 
     QList<ToolCall> calls() const;
     /// The list's rows as "name|size text", "name" where the size has no item.
-    QStringList rows();
+    QStringList rows() const;
     /// Names and contents of the output folder, as "name: content", sorted.
     QStringList outputFiles() const;
-    /// The last run is over: nothing was started or ended for a while and no tool runs.
-    bool waitUntilQuiet();
 
 private:
     QTemporaryDir folder;

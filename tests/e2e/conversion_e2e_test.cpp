@@ -299,7 +299,7 @@ void ConversionE2eTest::unreadableImageIsSkippedOneByOne()
     convert({makeImage(u"a.png"_s), makeFile(folder->filePath(u"in/b.png"_s), "no image"),
              makeImage(u"c.png"_s)});
     QCOMPARE(outputFiles(), QStringList({u"a.pdf"_s, u"c.pdf"_s}));
-    QCOMPARE(driver->window.findChild<QProgressBar *>()->value(), 0);
+    QCOMPARE(driver->find<QProgressBar>("progressBar")->value(), 0);
 }
 
 void ConversionE2eTest::mergeWithAnUnreadableImageMakesNoPdf()

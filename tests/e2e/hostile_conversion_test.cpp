@@ -2,17 +2,14 @@
 // becomes a PDF that opens, nothing is left behind, and no call passes its bounds. A call that
 // would take too long is ended by the tool itself.
 
-#include "dropfiles.h"
 #include "hostilefiles.h"
 #include "pdffacts.h"
 #include "startup.h"
 #include "windowdriver.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QRegularExpression>
-#include <QTableWidget>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -81,8 +78,8 @@ void HostileConversionTest::initTestCase()
 
 void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls) const
 {
-    dropFiles(driver.window, urls);
-    driver.window.findChild<QLineEdit *>(u"outputfolderEdit"_s)->setText(place(u"out"_s));
+    driver.drop(urls);
+    driver.fill("outputfolderEdit", place(u"out"_s));
 }
 
 void HostileConversionTest::everyFileIsConvertedOrRefused()
@@ -93,7 +90,7 @@ void HostileConversionTest::everyFileIsConvertedOrRefused()
     files.letOneVanish();
     QList<int> progress;
     QList<qint64> peaks; // of all tools that had ended when the bar moved
-    auto *bar = driver.window.findChild<QProgressBar *>();
+    auto *bar = driver.find<QProgressBar>("progressBar");
     connect(bar, &QProgressBar::valueChanged, this, [&progress, &peaks](int value) {
         progress << value;
         peaks << peakMemory(RUSAGE_CHILDREN);

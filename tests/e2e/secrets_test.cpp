@@ -2,7 +2,6 @@
 // environment holds one, nor does the real tools' command line. And what the program writes is
 // nobody else's to change.
 
-#include "childprocesses.h"
 #include "pdffacts.h"
 #include "regularfile.h"
 #include "startup.h"

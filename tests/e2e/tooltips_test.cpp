@@ -174,7 +174,7 @@ void ToolTipsTest::tipsOfEveryPageAreReadable()
     QFETCH(int, page);
     WindowDriver driver;
     QVERIFY(activate(driver.window));
-    auto *pages = driver.window.findChild<QStackedWidget *>();
+    auto *pages = driver.find<QStackedWidget>("stackedWidget_dialog");
     pages->setCurrentIndex(page);
     // The buttons at the bottom are the same on all pages.
     const QList<Spot> spots = page == 0 ? spotsOf(&driver.window) : spotsOf(pages);
@@ -186,7 +186,7 @@ void ToolTipsTest::tipsOfTheFileListAreReadable()
 {
     WindowDriver driver;
     QVERIFY(activate(driver.window));
-    auto *table = driver.window.findChild<QTableWidget *>();
+    auto *table = driver.find<QTableWidget>("inputfiletableWidget");
     table->setRowCount(1);
     table->setItem(0, 0, new QTableWidgetItem(QStringLiteral("/home/me/a.png")));
     look(spotsOf(table));

@@ -3,17 +3,14 @@
 //
 //   tessaro-language-sheet FOLDER FONT POINTS [LANGUAGE...]
 
-#include "process.h"
 #include "startup.h"
 #include "translation.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
-#include <QPushButton>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -21,36 +18,31 @@
 
 namespace {
 
-template <class Widget>
-Widget *find(const Process &window, const char *name)
+void fillIn(const WindowControls &controls)
 {
-    return window.findChild<Widget *>(QLatin1String(name));
-}
-
-void fillIn(const Process &window)
-{
-    auto *table = find<QTableWidget>(window, "inputfiletableWidget");
+    auto *table = controls.find<QTableWidget>("inputfiletableWidget");
     table->setRowCount(2);
     for (int row = 0; row < table->rowCount(); ++row) {
         table->setItem(row, 0,
                        new QTableWidgetItem(QStringLiteral("/home/user/Scans/%1.png").arg(row)));
         table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("       123.456KB")));
     }
-    find<QLineEdit>(window, "outputfolderEdit")->setText(QStringLiteral("/home/user/PDF"));
-    find<QLineEdit>(window, "lineEdit_ownerpwd")->setText(QStringLiteral("secret!"));
-    find<QComboBox>(window, "comboBox_rotate")->setCurrentIndex(1);
-    find<QComboBox>(window, "comboBox_pagesize")->setCurrentIndex(16);
-    find<QComboBox>(window, "comboBox_compresstype")->setCurrentIndex(9);
+    controls.fill("outputfolderEdit", QStringLiteral("/home/user/PDF"));
+    controls.fill("lineEdit_ownerpwd", QStringLiteral("secret!"));
+    controls.select("comboBox_rotate", 1);
+    controls.select("comboBox_pagesize", 16);
+    controls.select("comboBox_compresstype", 9);
 }
 
-QImage sheetOf(Process &window)
+QImage sheetOf(WindowControls &controls)
 {
+    Process &window = controls.window;
     QImage sheet(window.size() * 2, QImage::Format_RGB32);
     QPainter painter(&sheet);
     int page = 0;
     for (const char *button : {"pushButton_Inout", "pushButton_ImageSetting",
                                "pushButton_PDFSetting", "pushButton_Security"}) {
-        find<QPushButton>(window, button)->click();
+        controls.press(button);
         const QPoint place(page % 2 * window.width(), page / 2 * window.height());
         painter.drawPixmap(place, window.grab());
         ++page;
@@ -63,13 +55,13 @@ double fullness(const QLabel &label)
     return label.text().isEmpty() ? 0 : double(label.sizeHint().width()) / label.width();
 }
 
-void printTightest(const Process &window, const QString &language)
+void printTightest(const WindowControls &controls, const QString &language)
 {
-    const auto labels = window.findChildren<QLabel *>();
+    const auto labels = controls.window.findChildren<QLabel *>();
     const QLabel *tightest =
         *std::ranges::max_element(labels, {}, [](const QLabel *label) { return fullness(*label); });
     std::printf("%-5s %5.2f points; %s fills %.0f %% of %s\n", qPrintable(language),
-                find<QLabel>(window, "label")->font().pointSizeF(),
+                controls.find<QLabel>("label")->font().pointSizeF(),
                 qUtf8Printable(tightest->text()), 100 * fullness(*tightest),
                 qPrintable(tightest->objectName()));
 }
@@ -91,12 +83,12 @@ int main(int argc, char *argv[])
         arguments.isEmpty() ? QStringList(QString()) + translatedLanguages() : arguments;
     for (const QString &language : languages) {
         speak(application, language);
-        Process window;
-        fillIn(window);
+        WindowControls controls;
+        fillIn(controls);
         const QString name = language.isEmpty() ? QStringLiteral("en") : language;
-        if (!sheetOf(window).save(folder.filePath(name + QStringLiteral(".png"))))
+        if (!sheetOf(controls).save(folder.filePath(name + QStringLiteral(".png"))))
             return 1;
-        printTightest(window, name);
+        printTightest(controls, name);
     }
     return 0;
 }

@@ -4,21 +4,16 @@
 //
 //   soak fake|real COUNT    what the tools beside this program are
 
-#include "childprocesses.h"
-#include "dropfiles.h"
 #include "opendescriptors.h"
 #include "pdffacts.h"
-#include "process.h"
 #include "residentmemory.h"
 #include "startup.h"
-#include "windowsteps.h"
+#include "windowcontrols.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -32,6 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int runTimeout = 24 * 60 * 60 * 1000; // ms
 const QString title = u"Soak"_s;
 const QString password = u"secret"_s;
 
@@ -82,14 +78,15 @@ bool isConverted(const QString &pdf, bool realTools)
     return file.open(QIODevice::ReadOnly) && file.readAll().startsWith("pdftk(convert(");
 }
 
-void fillIn(Process &window, const QString &output, const QList<QUrl> &images)
+void fillIn(WindowControls &controls, const QString &output, const QList<QUrl> &images)
 {
-    setField(window, "outputfolderEdit", output);
-    setField(window, "lineEdit_title", title);
-    setField(window, "lineEdit_ownerpwd", password);
-    window.findChild<QCheckBox *>(u"checkBox_allowprint"_s)->setChecked(true);
-    dropFiles(window, images);
-    window.findChild<QTableWidget *>()->setCurrentCell(0, 0); // the preview works all along
+    controls.fill("outputfolderEdit", output);
+    controls.fill("lineEdit_title", title);
+    controls.fill("lineEdit_ownerpwd", password);
+    controls.check("checkBox_allowprint");
+    controls.drop(images);
+    // The preview works all along.
+    controls.find<QTableWidget>("inputfiletableWidget")->setCurrentCell(0, 0);
 }
 
 /// Processor time that this program has used so far, in ms.
@@ -101,7 +98,7 @@ qint64 ownWork()
 }
 
 /// Runs the event loop until no tool runs.
-Gaps runUntilQuiet(QApplication &application)
+Gaps runUntilQuiet()
 {
     Gaps gaps;
     QElapsedTimer sinceLast;
@@ -114,27 +111,21 @@ Gaps runUntilQuiet(QApplication &application)
         gaps.longestWork = std::max(gaps.longestWork, work - workAtLast);
         workAtLast = work;
     });
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [] {
-        if (!hasChildProcesses())
-            QApplication::exit();
-    });
     sinceLast.start();
     probe.start(10);
-    look.start(50);
-    application.exec();
+    WindowControls::waitUntilQuiet(runTimeout);
     return gaps;
 }
 
-Measures soak(QApplication &application, int count, bool realTools)
+Measures soak(int count, bool realTools)
 {
     const QTemporaryDir folder;
     const QDir place(folder.path());
     place.mkdir(u"in"_s);
     place.mkdir(u"out"_s);
-    Process window;
-    window.show();
-    fillIn(window, place.filePath(u"out"_s), makeImages(QDir(place.filePath(u"in"_s)), count));
+    WindowControls controls;
+    controls.window.show();
+    fillIn(controls, place.filePath(u"out"_s), makeImages(QDir(place.filePath(u"in"_s)), count));
 
     Measures measures;
     QApplication::processEvents();
@@ -142,8 +133,8 @@ Measures soak(QApplication &application, int count, bool realTools)
     const double memory = residentMemory();
     QElapsedTimer duration;
     duration.start();
-    window.findChild<QPushButton *>(u"runButton"_s)->click();
-    measures.gaps = runUntilQuiet(application);
+    controls.press("runButton");
+    measures.gaps = runUntilQuiet();
     measures.duration = duration.elapsed();
     measures.growth = residentMemory() - memory;
     measures.descriptorsAfter = openDescriptors().size();
@@ -167,7 +158,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     prepare(application);
-    const Measures result = soak(application, count, arguments.at(1) == QLatin1String("real"));
+    const Measures result = soak(count, arguments.at(1) == QLatin1String("real"));
     std::printf("%d images with the %s tools in %.1f s\n"
                 "  lost files                    %lld\n"
                 "  descriptors before and after  %lld, %lld\n"

@@ -40,12 +40,12 @@ QStringList optionsOf(WindowFixture &fixture)
         results << fixture.window.getPdftkoptionPer();
     }
     for (const char *name : {"lineEdit_userpwd", "lineEdit_ownerpwd"}) {
-        fixture.type(name, QString::fromLatin1(name));
+        fixture.fill(name, QString::fromLatin1(name));
         results << fixture.window.getPdftkoptionPer();
     }
     for (const char *name :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"}) {
-        fixture.type(name, u"1234.5 \u0661 \u05d0 "_s + QString::fromLatin1(name));
+        fixture.fill(name, u"1234.5 \u0661 \u05d0 "_s + QString::fromLatin1(name));
         results << fixture.window.getPdftkoption() << contentOf(u"pdfa.txt"_s);
     }
     return results;
@@ -62,9 +62,9 @@ QStringList choicesOf(WindowFixture &fixture)
             patterns << filter.mid(filter.lastIndexOf(u'('));
         chooseFiles(dialog, {fixture.makeFile(u"a.png"_s, QByteArray(1234567, u'x'))});
     });
-    fixture.click("openfileButton");
+    fixture.press("openfileButton");
     ModalAnswer folder([&](QWidget *dialog) { chooseFiles(dialog, {fixture.outputPath()}); });
-    fixture.click("outputButton");
+    fixture.press("outputButton");
     if (!files.happened() || !folder.happened())
         qFatal("no dialog came");
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
@@ -77,7 +77,7 @@ QStringList runOf(WindowFixture &fixture, bool merged)
 {
     fixture.addImages({u"b.jpg"_s});
     fixture.check("checkBox_joinpdf", merged);
-    fixture.click("runButton");
+    fixture.press("runButton");
     if (!fixture.waitUntilQuiet())
         qFatal("the tools did not end");
     QStringList results;

@@ -21,7 +21,7 @@ QStringList boxOf(WindowFixture &fixture)
         if (const auto *box = qobject_cast<QMessageBox *>(widget))
             texts = QStringList{box->windowTitle(), box->text()};
     });
-    fixture.click("runButton");
+    fixture.press("runButton");
     if (!answer.happened())
         qFatal("no box came");
     return texts;

@@ -123,7 +123,7 @@ void RightToLeftTest::previewStaysAtItsLabelsEdge()
     fixture.window.dopreview();
     QCOMPARE(frame->width(), 18);
     QCOMPARE(frame->geometry().right(), edge);
-    fixture.click("removeallButton");
+    fixture.press("removeallButton");
     QCOMPARE(frame->width(), 151);
     QCOMPARE(frame->geometry().right(), edge);
 }
