@@ -9,6 +9,8 @@
 #include <QStyleOption>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QRgb focusColour = 0xff0b7a6a;
@@ -37,11 +39,39 @@ public:
     {
         if (element == PE_FrameFocusRect && qobject_cast<const QPushButton *>(widget))
             drawFocusRing(*painter, widget->rect());
+        else if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+                 frame && element == PE_Frame &&
+                 painter->deviceTransform().type() <= QTransform::TxScale)
+            drawFrame(*frame, *painter, widget);
         else
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
 private:
+    /// Qt draws a frame's line about the mathematical edge. Where that lies between two device
+    /// pixels, it is outside the clip, so lines are drawn inside, on whole device pixels.
+    void drawFrame(QStyleOptionFrame option, QPainter &painter, const QWidget *widget) const
+    {
+        const QTransform toDevice = painter.deviceTransform();
+        const int thickness = std::max(1, static_cast<int>(toDevice.m11()));
+        const QRect place = onDevice(option.rect, toDevice);
+        painter.save();
+        painter.setWorldTransform(toDevice.inverted() * painter.worldTransform());
+        for (int line = 0; line < thickness; ++line) {
+            option.rect = place.adjusted(line, line, -line, -line);
+            QProxyStyle::drawPrimitive(PE_Frame, &option, &painter, widget);
+        }
+        painter.restore();
+    }
+
+    /// The device pixels of `rect`, each edge rounded by itself, as Qt rounds those of its clip.
+    static QRect onDevice(const QRect &rect, const QTransform &toDevice)
+    {
+        const QPoint onePixel(1, 1);
+        return {toDevice.map(rect.topLeft()),
+                toDevice.map(rect.bottomRight() + onePixel) - onePixel};
+    }
+
     static void drawFocusRing(QPainter &painter, const QRectF &rect)
     {
         painter.save();
