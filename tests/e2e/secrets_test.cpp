@@ -100,7 +100,6 @@ private:
     void inspectOpenFiles(const QString &process);
     void inspectFiles(const QString &root);
 
-    const QString temporaryPlace = QDir::tempPath(); // before the tests lead it elsewhere
     std::unique_ptr<QTemporaryDir> folder;
     QStringList finds;
     int toolsSeen = 0;
@@ -108,7 +107,11 @@ private:
 
 void SecretsTest::init()
 {
-    folder = std::make_unique<QTemporaryDir>(temporaryPlace + u"/secrets-XXXXXX"_s);
+    // Below the bundle's folder, which holds nothing but what this test makes: of a remembered
+    // folder that is gone, the file dialog shows the one above, and what lies there may get chosen.
+    folder = std::make_unique<QTemporaryDir>(QDir::currentPath() + u"/secrets-XXXXXX"_s);
+    QVERIFY(folder->isValid());
+    QFile::remove(u"setting.ini"_s);
     for (const char *name : {"out", "tmp", "home"})
         QVERIFY(QDir(folder->path()).mkdir(QLatin1String(name)));
     qputenv("TMPDIR", place(u"tmp"_s).toUtf8());
@@ -245,7 +248,6 @@ void SecretsTest::filesAreNoWiderThanTheUsersMask()
 {
     QFETCH(int, mask);
     QFile::remove(u"pdfa.txt"_s);
-    QFile::remove(u"setting.ini"_s);
     const mode_t usual = umask(static_cast<mode_t>(mask));
     WindowDriver driver;
     const bool shown = driver.show() && driver.chooseFolder(place(u"out"_s)) &&
