@@ -31,6 +31,21 @@ size_t roomForFiles()
     return limit.rlim_cur - std::min(limit.rlim_cur, others);
 }
 
+// JPEG 2000 data says its own colours, and ImageMagick 7.1.1 calls some grey in the page that are
+// not so in the data: readers built on poppler then show stripes.
+void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
+{
+    page.forEachImage(true, [](QPDFObjectHandle &image, QPDFObjectHandle &, const std::string &) {
+        QPDFObjectHandle dictionary = image.getDict();
+        QPDFObjectHandle filter = dictionary.getKey("/Filter");
+        if (filter.isArray() && filter.getArrayNItems() == 1)
+            filter = filter.getArrayItem(0);
+        if (filter.isNameAndEquals("/JPXDecode") &&
+            dictionary.getKey("/ColorSpace").isNameAndEquals("/DeviceGray"))
+            dictionary.removeKey("/ColorSpace");
+    });
+}
+
 class Document
 {
 public:
@@ -83,6 +98,7 @@ void Document::addPdf(const DocumentPart &part)
     for (QPDFPageObjectHelper &page : pages) {
         // Viewers make their own, and a copied page has none.
         page.getObjectHandle().removeKey("/Thumb");
+        leaveColoursToJpeg2000(page);
         m_pages.addPage(page, false);
     }
 }
