@@ -1,6 +1,6 @@
-// The same two hundred files through the window and the real tool: each is either refused or
-// becomes a PDF that opens, nothing is left behind, and no call passes its bounds. A call that
-// would take too long is ended by the tool itself.
+// The same two hundred files through the window and the real tool, as they are and turned, so that
+// none is copied: each is either refused or becomes a PDF that opens, nothing is left behind, and
+// no call passes its bounds. A call that would take too long is ended by the tool itself.
 
 #include "hostilefiles.h"
 #include "pdffacts.h"
@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int runTimeout = 500000; // ms
+constexpr int runTimeout = 900000; // ms
 
 struct Call
 {
@@ -31,8 +31,9 @@ QList<Call> readLog(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
+    // The image is the last argument but one.
     static const QRegularExpression entry(
-        u" exit status (\\d+) after (\\d+) ms\\n  argument: ([^\\n]*)"_s);
+        u" exit status (\\d+) after (\\d+) ms\\n(?:  argument: .*\\n)*  argument: (.*)\\n  argument: "_s);
     QList<Call> calls;
     auto matches = entry.globalMatch(QString::fromUtf8(file.readAll()));
     while (matches.hasNext()) {
@@ -56,37 +57,56 @@ class HostileConversionTest : public QObject
 
 private slots:
     void initTestCase();
+    void everyFileIsConvertedOrRefused_data();
     void everyFileIsConvertedOrRefused();
     void mergeWithASpoiltFileMakesNoPdf();
 
 private:
     QString place(const QString &name) const { return folder.filePath(name); }
-    void addAll(WindowDriver &driver, const QList<QUrl> &urls) const;
+    void emptyTheFolders() const;
+    void addAll(WindowDriver &driver, const QList<QUrl> &images) const;
 
     HostileFiles files;
+    QList<QUrl> urls; // also of the file that vanishes
     QTemporaryDir folder;
 };
 
 void HostileConversionTest::initTestCase()
 {
     QCOMPARE(files.make(), QString());
-    for (const char *name : {"out", "pixels"})
-        QVERIFY(QDir(folder.path()).mkdir(QLatin1String(name)));
+    urls = files.urls();
+    QVERIFY(QDir(folder.path()).mkdir(u"pixels"_s));
     qputenv("TMPDIR", place(u"pixels"_s).toUtf8());
     qputenv("TESSARO_TOOL_LOG", place(u"log"_s).toUtf8());
 }
 
-void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &urls) const
+void HostileConversionTest::emptyTheFolders() const
 {
-    driver.drop(urls);
+    QVERIFY(QDir(place(u"out"_s)).removeRecursively() && QDir().mkdir(place(u"out"_s)));
+    QFile::remove(place(u"log"_s));
+}
+
+void HostileConversionTest::addAll(WindowDriver &driver, const QList<QUrl> &images) const
+{
+    driver.drop(images);
     driver.fill("outputfolderEdit", place(u"out"_s));
+}
+
+void HostileConversionTest::everyFileIsConvertedOrRefused_data()
+{
+    QTest::addColumn<int>("turn");
+    QTest::newRow("as they are") << 0;
+    QTest::newRow("turned") << 1;
 }
 
 void HostileConversionTest::everyFileIsConvertedOrRefused()
 {
+    QFETCH(int, turn);
+    emptyTheFolders();
     WindowDriver driver;
     QVERIFY(driver.show());
-    addAll(driver, files.urls());
+    addAll(driver, urls);
+    driver.select("comboBox_rotate", turn);
     files.letOneVanish();
     QList<int> progress;
     QList<qint64> peaks; // of all tools that had ended when the bar moved
@@ -126,8 +146,8 @@ void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
     QVERIFY(driver.show());
     QVERIFY(driver.tick("checkBox_joinpdf"));
     const QUrl good = QUrl::fromLocalFile(QStringLiteral(SAMPLES "/beach.jpg"));
-    QVERIFY(QDir(place(u"out"_s)).removeRecursively() && QDir().mkdir(place(u"out"_s)));
-    addAll(driver, QList<QUrl>{good} + files.urls());
+    emptyTheFolders();
+    addAll(driver, QList<QUrl>{good} + urls);
     QVERIFY(driver.convert(runTimeout));
     QCOMPARE(everythingIn(place(u"out"_s)), QStringList());
 }
@@ -135,6 +155,7 @@ void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
 int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
+    qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(2 * runTimeout));
     QApplication application(argc, argv);
     prepare(application);
     HostileConversionTest test;
