@@ -23,6 +23,8 @@ private slots:
     void twoThousandImages();
     void oneDamagedAmongMany_data();
     void oneDamagedAmongMany();
+    void jpegWithDamagedTablesIsRefused_data();
+    void jpegWithDamagedTablesIsRefused();
     void densityBeyondReasonIsNamed();
     void warningsOfASuccessAreLogged();
     void informationIsTheSame_data();
@@ -168,6 +170,31 @@ void ConvertPages::oneDamagedAmongMany()
     QVERIFY(QDir(m_folder.path())
                 .entryList({u".tessaro*"_s}, QDir::AllEntries | QDir::Hidden)
                 .isEmpty());
+}
+
+void ConvertPages::jpegWithDamagedTablesIsRefused_data()
+{
+    using namespace imagefiles;
+    QTest::addColumn<QByteArray>("file");
+    for (const bool isProgressive : {false, true}) {
+        const QByteArray body = jpegBody(true, isProgressive);
+        const char *kind = isProgressive ? "progressive" : "baseline";
+        const auto row = [kind](const char *name, const QByteArray &file) {
+            QTest::addRow("%s, %s", name, kind) << file;
+        };
+        row("no quantization tables", jpeg({}, QByteArray(body).replace("\xFF\xDB", "\xFF\xFE")));
+        row("restart interval with more in it", jpeg({segment(0xDD, big16(0) + "x")}, body));
+        row("a Huffman table too many", jpeg({segment(0xC4, '\7' + QByteArray(16, '\0'))}, body));
+    }
+}
+
+// Readers of PDFs would show what they like, or nothing.
+void ConvertPages::jpegWithDamagedTablesIsRefused()
+{
+    QFETCH(QByteArray, file);
+    writeContent(place(u"damaged.jpg"_s), file);
+    QCOMPARE(convert({u"damaged.jpg"_s}).status, 1);
+    QVERIFY(!QFileInfo::exists(place(u"o.pdf"_s)));
 }
 
 // A page of a kilometre, which ImageMagick writes as 2.88e+06 points.

@@ -62,6 +62,14 @@ QByteArray afterScan(const QByteArray &segment)
     return body.insert(body.size() - 2, segment);
 }
 
+// A progressive body with so many scans, the last of them empty.
+QByteArray withScans(qsizetype count)
+{
+    QByteArray body = jpegBody(true, true);
+    const QByteArray scan = colour.mid(colour.indexOf("\xFF\xDA"), 14);
+    return body.insert(body.size() - 2, scan.repeated(count - body.count("\xFF\xDA")));
+}
+
 } // namespace
 
 void JpegPages::nothingButTheImageIsCopied()
@@ -141,10 +149,11 @@ void JpegPages::isCopiedOrLeftToImageMagick_data()
         false);
     row("three times the samples", jpeg({}, withFrameByte(7, 0x31)), false);
     row("a second frame", jpeg({}, beforeScan(colour.mid(colour.indexOf("\xFF\xC0"), 19))), false);
-    row("a hundred scans",
-        jpeg({}, afterScan(colour.mid(colour.indexOf("\xFF\xDA"), 14).repeated(99))), true);
-    row("a hundred and one scans",
-        jpeg({}, afterScan(colour.mid(colour.indexOf("\xFF\xDA"), 14).repeated(100))), false);
+    row("a hundred scans", jpeg({}, withScans(100)), true);
+    row("a hundred and one scans", jpeg({}, withScans(101)), false);
+    row("two scans of all components, not progressive",
+        jpeg({}, afterScan(colour.mid(colour.indexOf("\xFF\xDA"), 14))), false);
+    row("no Huffman table", jpeg({}, QByteArray(colour).replace("\xFF\xC4", "\xFF\xFE")), false);
     row("profile of another colour space", jpeg(profileSegments(profile(false), 1), colour), false);
     row("profile without its last part", jpeg(profileSegments(profile(true), 3).mid(0, 2), colour),
         false);

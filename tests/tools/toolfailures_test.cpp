@@ -15,6 +15,8 @@ class ToolFailures : public QObject
 private slots:
     void failureIsPassedOn_data();
     void failureIsPassedOn();
+    void diskFullForAMomentLeavesTheOlderPdf();
+    void imageThatChangesMeanwhileIsRefused();
     void successIsQuiet();
     void noiseIsBounded();
     void realToolSeesPlainNames();
@@ -85,6 +87,33 @@ void ToolFailures::failureIsPassedOn()
         QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"o.pdf"_s}));
         QCOMPARE(namesIn(pixels.path()), QStringList());
     }
+}
+
+// Later writes would succeed.
+void ToolFailures::diskFullForAMomentLeavesTheOlderPdf()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"x.jpg"_s), {3000, 2000});
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
+    const RunResult result = runBundled(
+        u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
+        {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_MEDDLE)}, {u"TESSARO_MEDDLE"_s, u"full"_s}});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
+}
+
+void ToolFailures::imageThatChangesMeanwhileIsRefused()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"x.jpg"_s), {6000, 4000});
+    const RunResult result = runBundled(u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
+                                        {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_MEDDLE)},
+                                         {u"TESSARO_MEDDLE"_s, folder.filePath(u"x.jpg"_s)}});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains("'x.jpg' was changed meanwhile"), result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{u"x.jpg"_s});
 }
 
 void ToolFailures::successIsQuiet()

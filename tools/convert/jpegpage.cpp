@@ -91,9 +91,12 @@ private:
     std::uint64_t m_markerStart = 0;
     bool m_doubtful = false;
     bool m_hasFrame = false;
+    bool m_hasHuffmanTable = false;
+    bool m_isProgressive = false;
     std::optional<int> m_adobeTransform;
     std::string m_componentIds;
     int m_scans = 0;
+    int m_scannedComponents = 0;
     int m_profileParts = 0;
     int m_profilePartsPromised = 0;
 };
@@ -187,9 +190,11 @@ void JpegWalk::payload(int marker, const std::string &bytes)
         m_doubtful = true;
     if (isFrame(marker)) {
         m_doubtful |= m_hasFrame || (marker != baseline && marker != progressive);
+        m_isProgressive = marker == progressive;
         frame(bytes);
     } else if (marker == startOfScan) {
         m_doubtful |= !m_hasFrame || ++m_scans > mostScans;
+        m_scannedComponents += bytes.empty() ? 0 : byteIn(bytes, 0);
     } else if (marker == application0) {
         takeJfif(bytes);
     } else if (marker == application1) {
@@ -201,8 +206,10 @@ void JpegWalk::payload(int marker, const std::string &bytes)
                       !takePhotoshop(bytes.substr(photoshop.size()), m_photoshop.emplace());
     } else if (marker == application14) {
         takeAdobe(bytes);
-    } else if (marker != huffmanTables && marker != quantization && marker != restartInterval &&
-               marker != comment && !isApplication) {
+    } else if (marker == huffmanTables) {
+        m_hasHuffmanTable = true;
+    } else if (marker != quantization && marker != restartInterval && marker != comment &&
+               !isApplication) {
         m_doubtful = true;
     }
 }
@@ -321,6 +328,10 @@ bool JpegWalk::coloursAreCertain() const
 
 void JpegWalk::finish()
 {
+    // Some readers take usual tables where there are none.
+    m_doubtful |= !m_hasHuffmanTable;
+    // A progressive image has several scans of each component.
+    m_doubtful |= !m_isProgressive && m_scannedComponents != m_page.components;
     m_doubtful |= !coloursAreCertain() || m_profileParts != m_profilePartsPromised;
     m_doubtful |= !m_page.iccProfile.empty() && !isProfileFor(m_page.iccProfile, m_page.components);
     m_page.filter = "DCTDecode";

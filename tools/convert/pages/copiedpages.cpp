@@ -32,14 +32,20 @@ public:
         const FileDescriptor file(open(m_path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
         if (!file.valid())
             throw systemError("cannot read", m_path);
-        if (!(fileStamp(file.get()) == m_stamp))
-            throw ToolError("'" + m_path + "' was changed meanwhile");
+        requireUnchanged(file);
         for (const Extent &extent : m_extents)
             pass(file, extent, *pipeline);
+        requireUnchanged(file);
         pipeline->finish();
     }
 
 private:
+    void requireUnchanged(const FileDescriptor &file) const
+    {
+        if (!(fileStamp(file.get()) == m_stamp))
+            throw ToolError("'" + m_path + "' was changed meanwhile");
+    }
+
     void pass(const FileDescriptor &file, const Extent &extent, Pipeline &pipeline) const
     {
         std::array<unsigned char, 65536> buffer{};
@@ -47,8 +53,10 @@ private:
             const size_t wanted = std::min<std::uint64_t>(buffer.size(), extent.length - done);
             const ssize_t count =
                 pread(file.get(), buffer.data(), wanted, static_cast<off_t>(extent.offset + done));
-            if (count <= 0)
+            if (count < 0)
                 throw systemError("cannot read", m_path);
+            if (count == 0)
+                throw ToolError("'" + m_path + "' was changed meanwhile");
             pipeline.write(buffer.data(), static_cast<size_t>(count));
             done += static_cast<std::uint64_t>(count);
         }

@@ -2,19 +2,19 @@
 
 #include "copiedpages.h"
 #include "diagnosis.h"
+#include "filedescriptor.h"
 
 #include <qpdf/ClosedFileInputSource.hh>
+#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 #include <qpdf/QUtil.hh>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace {
 
@@ -46,6 +46,39 @@ void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
     });
 }
 
+// libqpdf's own way to a file takes no notice of a write that fails when a later one succeeds.
+class FileOutput : public Pipeline
+{
+public:
+    explicit FileOutput(int file)
+        : Pipeline("the PDF", nullptr)
+        , m_file(file)
+    {
+    }
+
+    void write(const unsigned char *data, size_t size) override
+    {
+        m_waiting.append(reinterpret_cast<const char *>(data), size);
+        if (m_waiting.size() >= blockSize)
+            pass();
+    }
+
+    void finish() override { pass(); }
+
+private:
+    static constexpr size_t blockSize = size_t(256) * 1024;
+
+    void pass()
+    {
+        if (!writeAll(m_file, m_waiting))
+            throw systemError("cannot write", "the PDF");
+        m_waiting.clear();
+    }
+
+    int m_file;
+    std::string m_waiting;
+};
+
 class Document
 {
 public:
@@ -57,7 +90,7 @@ public:
 
     void add(const DocumentPart &part);
     void describe(const std::string &title);
-    void write(FILE *file);
+    void write(int file);
 
 private:
     void addPdf(const DocumentPart &part);
@@ -115,30 +148,27 @@ void Document::describe(const std::string &title)
     m_pdf.getTrailer().replaceKey("/Info", m_pdf.makeIndirectObject(information));
 }
 
-void Document::write(FILE *file)
+void Document::write(int file)
 {
-    QPDFWriter writer(m_pdf, "the PDF", file, false);
+    FileOutput output(file);
+    QPDFWriter writer(m_pdf);
+    writer.setOutputPipeline(&output);
     writer.setStreamDataMode(qpdf_s_preserve);
     // JPEG 2000 came with this version, the last of the other compressions with 1.3.
     writer.setMinimumPDFVersion("1.5");
     writer.write();
-    if (fflush(file) != 0)
-        throw systemError("cannot write", "the PDF");
 }
 
 } // namespace
 
 void writeDocument(int file, const std::vector<DocumentPart> &parts, const std::string &title)
 {
-    const std::unique_ptr<FILE, int (*)(FILE *)> stream(fdopen(dup(file), "wb"), fclose);
-    if (!stream)
-        throw systemError("cannot write", "the PDF");
     try {
         Document document;
         for (const DocumentPart &part : parts)
             document.add(part);
         document.describe(title);
-        document.write(stream.get());
+        document.write(file);
     } catch (const ToolError &) {
         throw;
     } catch (const std::exception &error) {

@@ -56,21 +56,42 @@ void leave(j_common_ptr info)
     longjmp(reinterpret_cast<JpegErrors *>(info->err)->failed, 1);
 }
 
-PixelSize sizeFrom(FILE *file)
+struct JpegStart
+{
+    PixelSize size;
+    /// libjpeg has no complaint about anything before the image data.
+    bool isSound = false;
+};
+
+JpegStart startOf(FILE *file)
 {
     JpegErrors errors = {};
     jpeg_decompress_struct info = {};
     info.err = jpeg_std_error(&errors.manager);
     errors.manager.error_exit = leave;
     errors.manager.output_message = [](j_common_ptr) {};
+    JpegStart start;
     if (setjmp(errors.failed) == 0) {
         jpeg_create_decompress(&info);
         jpeg_stdio_src(&info, file);
         jpeg_read_header(&info, TRUE);
+        // Or else all scans of a progressive image would be decoded now.
+        info.buffered_image = jpeg_has_multiple_scans(&info);
+        jpeg_start_decompress(&info);
+        start.isSound = errors.manager.num_warnings == 0;
     }
-    const PixelSize size = {info.image_width, info.image_height};
+    start.size = {info.image_width, info.image_height};
     jpeg_destroy_decompress(&info);
-    return size;
+    return start;
+}
+
+JpegStart startOf(int file)
+{
+    const std::unique_ptr<FILE, int (*)(FILE *)> stream(fdopen(dup(file), "rb"), fclose);
+    if (!stream)
+        return {};
+    rewind(stream.get());
+    return startOf(stream.get());
 }
 
 } // namespace
@@ -90,9 +111,10 @@ size_t imagesIn(int file)
 
 PixelSize jpegSize(int file)
 {
-    const std::unique_ptr<FILE, int (*)(FILE *)> stream(fdopen(dup(file), "rb"), fclose);
-    if (!stream)
-        return {};
-    rewind(stream.get());
-    return sizeFrom(stream.get());
+    return startOf(file).size;
+}
+
+bool isJpegSound(int file)
+{
+    return startOf(file).isSound;
 }

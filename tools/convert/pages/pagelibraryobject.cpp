@@ -1,5 +1,6 @@
 #include "document.h"
 #include "imagefacts.h"
+#include "imagekind.h"
 #include "pagelibrary.h"
 
 namespace {
@@ -10,7 +11,10 @@ public:
     std::optional<std::vector<CopyablePage>> copyablePages(int file,
                                                            Compression asked) const override
     {
-        return ::copyablePages(file, asked);
+        auto pages = ::copyablePages(file, asked);
+        if (pages && imageKind(file) == ImageKind::Jpeg && !isJpegSound(file))
+            return std::nullopt;
+        return pages;
     }
 
     size_t imagesIn(int file) const override { return ::imagesIn(file); }
