@@ -1,6 +1,6 @@
 // Preloaded into a program, meddles as TESSARO_MEDDLE says: "full" makes the first write of a large
-// piece of data fail as on a full disk; any other value is a file that changes whenever a large piece
-// of data is read.
+// piece of data fail as on a full disk; any other value is a file that changes whenever a large
+// piece of data is read.
 
 #include <cerrno>
 #include <cstdlib>
