@@ -12,6 +12,7 @@
 #include <qpdf/QUtil.hh>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 
 #include <sys/resource.h>
@@ -46,7 +47,8 @@ void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
     });
 }
 
-// libqpdf's own way to a file takes no notice of a write that fails when a later one succeeds.
+// libqpdf's own way to a file takes no notice of a write that fails when a later one succeeds. It
+// also writes in destructors, so a failure here is told when everything has been handed over.
 class FileOutput : public Pipeline
 {
 public:
@@ -65,17 +67,27 @@ public:
 
     void finish() override { pass(); }
 
+    /// To be called last.
+    void requireSuccess()
+    {
+        pass();
+        errno = m_error;
+        if (m_error != 0)
+            throw systemError("cannot write", "the PDF");
+    }
+
 private:
     static constexpr size_t blockSize = size_t(256) * 1024;
 
     void pass()
     {
-        if (!writeAll(m_file, m_waiting))
-            throw systemError("cannot write", "the PDF");
+        if (m_error == 0 && !writeAll(m_file, m_waiting))
+            m_error = errno;
         m_waiting.clear();
     }
 
     int m_file;
+    int m_error = 0;
     std::string m_waiting;
 };
 
@@ -157,6 +169,7 @@ void Document::write(int file)
     // JPEG 2000 came with this version, the last of the other compressions with 1.3.
     writer.setMinimumPDFVersion("1.5");
     writer.write();
+    output.requireSuccess();
 }
 
 } // namespace
