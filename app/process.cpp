@@ -5,8 +5,8 @@
 #include "accessibility.h"
 #include "filetable.h"
 #include "fittext.h"
-#include "mirror.h"
 #include "pictures.h"
+#include "rtllayout.h"
 #include "ui_process.h"
 
 #include <QCheckBox>

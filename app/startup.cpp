@@ -2,8 +2,8 @@
 
 #include "activation.h"
 #include "bundlepaths.h"
-#include "look.h"
 #include "previewpicture.h"
+#include "style.h"
 #include "translation.h"
 
 #include <QApplication>

@@ -13,7 +13,7 @@ target_link_options(tessaro_build_flags INTERFACE
     $<$<BOOL:${TESSARO_SANITIZE}>:-fsanitize=address,undefined>
     $<$<BOOL:${TESSARO_COVERAGE}>:--coverage>)
 
-# tessaro_own(TARGET): marks TARGET as the project's own code, built under its flags.
-function(tessaro_own target)
+# tessaro_target_defaults(TARGET): marks TARGET as the project's own code, built under its flags.
+function(tessaro_target_defaults target)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tessaro_build_flags>)
 endfunction()

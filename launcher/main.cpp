@@ -22,7 +22,7 @@ fs::path installedBundle()
            "lib/tessaro/Tessaro.app";
 }
 
-// Written by packaging/ready-tools where the tools could not be readied: nothing would be
+// Written by packaging/setup-tools where the tools could not be readied: nothing would be
 // converted.
 void complainAboutTools(const fs::path &bundle)
 {

@@ -41,7 +41,7 @@ const QList<Mode> &allModes()
     return modes;
 }
 
-QStringList Outcome::tellTale() const
+QStringList Outcome::summary() const
 {
     return QStringList{
         u"calls: "_s + calls,
@@ -129,15 +129,15 @@ bool FaultFixture::waitForCalls(qsizetype count)
 
 bool FaultFixture::waitForToolsAlone()
 {
-    QElapsedTimer patience;
-    patience.start();
+    QElapsedTimer timeout;
+    timeout.start();
     const auto started = calls();
     const auto allEnded = [&started] {
         return std::ranges::all_of(started,
                                    [](const ToolCall &call) { return hasEnded(call.pid); });
     };
     while (!allEnded()) {
-        if (patience.hasExpired(60000))
+        if (timeout.hasExpired(60000))
             return false;
         QThread::msleep(1);
     }

@@ -38,7 +38,7 @@ inline const Mode &mergedFull()
     return allModes().at(7);
 }
 
-/// What is to be seen when nothing moves any more. `tellTale()` puts it into lines, so that a
+/// What is to be seen when nothing moves any more. `summary()` puts it into lines, so that a
 /// difference reads well.
 struct Outcome
 {
@@ -55,7 +55,7 @@ struct Outcome
     /// Titles of the message boxes, in order.
     QStringList boxes = {};
 
-    QStringList tellTale() const;
+    QStringList summary() const;
 };
 
 /// What is expected of one fault in the four kinds of run; description and security are told

@@ -60,7 +60,7 @@ void FaultsLoadTest::windowAnswersWhileAToolTakesLongOrTalksMuch()
     QVERIFY(fixture.answers()); // in the middle of the call
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), oneImageDone.of(mode)->tellTale());
+    QCOMPARE(fixture.outcome().summary(), oneImageDone.of(mode)->summary());
 }
 
 void FaultsLoadTest::sixtyImagesLoseNoFileAndKeepNoDescriptor()

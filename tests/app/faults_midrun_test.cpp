@@ -208,7 +208,7 @@ void FaultsMidrunTest::changeDuringTheRun()
     QFETCH(Mode, mode);
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
-    const QString gate = fixture.closeGate();
+    const QString gate = fixture.holdTool();
     fixture.tellConvert(moment == WhileConverting ? gate : QString());
     fixture.tellPdftk(moment == WhileFinishing ? gate : QString());
     fixture.press("runButton");
@@ -219,7 +219,7 @@ void FaultsMidrunTest::changeDuringTheRun()
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsMidrunTest::runButtonPressedAgain_data()
@@ -241,7 +241,7 @@ void FaultsMidrunTest::runButtonPressedAgain()
     QFETCH(Mode, mode);
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
-    const QString gate = fixture.closeGate();
+    const QString gate = fixture.holdTool();
     fixture.tellConvert(gate);
     fixture.tellPdftk(gate);
     for (int i = 0; i < count; ++i)
@@ -254,7 +254,7 @@ void FaultsMidrunTest::runButtonPressedAgain()
     // The chains are kept in step, so that what follows is the same at every run.
     fixture.openGate();
     QVERIFY(fixture.waitForToolsAlone());
-    fixture.closeGate();
+    fixture.holdTool();
     if (mode.hasOptions()) {
         QVERIFY(fixture.waitForCalls(qsizetype(2) * chains));
         fixture.openGate();
@@ -263,13 +263,13 @@ void FaultsMidrunTest::runButtonPressedAgain()
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
 {
     FaultFixture fixture(singleFull());
-    fixture.tellConvert(fixture.closeGate());
+    fixture.tellConvert(fixture.holdTool());
     for (int i = 0; i < 3; ++i)
         fixture.press("runButton");
     fixture.openGate();
@@ -280,7 +280,7 @@ void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
     std::ranges::sort(outcome.calls);
     Outcome expected = allFinishedTwice;
     expected.calls = u"ccccccpppppp"_s;
-    QCOMPARE(outcome.tellTale(), expected.tellTale());
+    QCOMPARE(outcome.summary(), expected.summary());
 }
 
 void FaultsMidrunTest::nextRunDeletesTheLastPdfOfTheOneBefore()
@@ -299,13 +299,13 @@ void FaultsMidrunTest::nextRunDeletesTheLastPdfOfTheOneBefore()
 void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles()
 {
     FaultFixture fixture(singleFull());
-    const QString gate = fixture.closeGate();
+    const QString gate = fixture.holdTool();
     fixture.press("runButton");
     fixture.tellPdftk(gate);
     QVERIFY(fixture.waitForCalls(2));
     fixture.openGate();
     QVERIFY(fixture.waitForToolsAlone());
-    fixture.closeGate();
+    fixture.holdTool();
     QVERIFY(fixture.waitForCalls(4)); // pdftk has b.pdf
     toggleMerging(fixture);
     fixture.openGate();

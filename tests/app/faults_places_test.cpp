@@ -170,7 +170,7 @@ void FaultsPlacesTest::faultBeforeTheRun()
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsPlacesTest::faultDuringTheRun_data()
@@ -184,7 +184,7 @@ void FaultsPlacesTest::faultDuringTheRun()
     QFETCH(Mode, mode);
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
-    fixture.tellConvert(fixture.closeGate());
+    fixture.tellConvert(fixture.holdTool());
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     QVERIFY(fixture.answers());
@@ -192,7 +192,7 @@ void FaultsPlacesTest::faultDuringTheRun()
     fixture.openGate();
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile_data()
@@ -228,7 +228,7 @@ void FaultsPlacesTest::pdfsWithADescriptionAreLostWithoutAnInfoFile()
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
     if (mode.title)
         QCOMPARE(fixture.calls().at(1).arguments.mid(0, 3),
                  QStringList({fixture.outputPath(u"a.pdf111"_s), u"output"_s,
@@ -280,7 +280,7 @@ void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone()
     QFETCH(bool, merged);
     QFETCH(bool, emptied);
     FaultFixture fixture(merged ? mergedPlain() : singlePlain());
-    fixture.tellConvert(fixture.closeGate());
+    fixture.tellConvert(fixture.holdTool());
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     removeOutput(fixture);

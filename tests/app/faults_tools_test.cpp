@@ -157,12 +157,12 @@ void FaultsToolsTest::everyFaultEndsAsTheModeSays()
     fixture.press("runButton");
     const bool hangs = convert == QLatin1String("hang") || pdftk == QLatin1String("hang");
     if (hangs)
-        QTRY_COMPARE(fixture.outcome().tellTale(), expected.tellTale());
+        QTRY_COMPARE(fixture.outcome().summary(), expected.summary());
     else
         QVERIFY(fixture.waitUntilQuiet());
 
     QVERIFY(fixture.answers());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool_data()
@@ -190,7 +190,7 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
     away.reset();
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 void FaultsToolsTest::killedToolLetsTheRunGoOn()
@@ -203,7 +203,7 @@ void FaultsToolsTest::killedToolLetsTheRunGoOn()
     kill(static_cast<pid_t>(fixture.calls().first().pid), SIGKILL);
     QVERIFY(fixture.waitUntilQuiet());
     const Outcome expected{u"cc"_s, {u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s};
-    QCOMPARE(fixture.outcome().tellTale(), expected.tellTale());
+    QCOMPARE(fixture.outcome().summary(), expected.summary());
 }
 
 QTEST_MAIN(FaultsToolsTest)

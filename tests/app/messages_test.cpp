@@ -79,7 +79,7 @@ void MessagesTest::losingTheOutputFolderMidRunEndsIt()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert(fixture.closeGate());
+    fixture.tellConvert(fixture.holdTool());
     fixture.press("runButton");
     fixture.fill("outputfolderEdit", u"/nowhere"_s);
     QString title;

@@ -59,7 +59,7 @@ void WindowFixture::setOutputFolder()
     fill("outputfolderEdit", outputPath());
 }
 
-QString WindowFixture::closeGate()
+QString WindowFixture::holdTool()
 {
     const QString gate = folder.filePath(QStringLiteral("gate"));
     if (!QFile(gate).open(QIODevice::WriteOnly))

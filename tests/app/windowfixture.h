@@ -60,7 +60,7 @@ public:
     void tellPdftk(const QString &words) { qputenv("TESSARO_FAKE_PDFTK", words.toUtf8()); }
 
     /// A file that holds fake tools back while it exists.
-    QString closeGate();
+    QString holdTool();
     void openGate();
 
     QList<ToolCall> calls() const;

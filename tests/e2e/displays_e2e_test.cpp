@@ -2,8 +2,8 @@
 // manager, X with one, and Wayland. Weston stands in a window of the X server, so that xdotool
 // reaches it.
 
-#include "hands.h"
 #include "pdffacts.h"
+#include "xdotool.h"
 
 #include <QDir>
 #include <QFile>

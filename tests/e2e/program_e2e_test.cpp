@@ -1,8 +1,8 @@
 // The program as it ships, worked from outside through the X server: its own start-up, folders and
 // plug-ins count here.
 
-#include "hands.h"
 #include "pdffacts.h"
+#include "xdotool.h"
 
 #include <QDir>
 #include <QFile>

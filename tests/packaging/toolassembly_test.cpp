@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ToolAssembly : public QObject
+class ToolAssemblyTest : public QObject
 {
     Q_OBJECT
 
@@ -65,13 +65,13 @@ void verifyWorking(const QString &convert, const QString &pdftk)
 
 } // namespace
 
-void ToolAssembly::addScript(const QString &path, const QByteArray &script)
+void ToolAssemblyTest::addScript(const QString &path, const QByteArray &script)
 {
     writeContent(path, "#!/bin/sh\n" + script + "\n");
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-void ToolAssembly::wrongMachinesAreNamed_data()
+void ToolAssemblyTest::wrongMachinesAreNamed_data()
 {
     QTest::addColumn<QString>("variable");
     QTest::addColumn<QByteArray>("version");
@@ -102,7 +102,7 @@ void ToolAssembly::wrongMachinesAreNamed_data()
         "pdftk-java.");
 }
 
-void ToolAssembly::wrongMachinesAreNamed()
+void ToolAssemblyTest::wrongMachinesAreNamed()
 {
     QFETCH(QString, variable);
     QFETCH(QByteArray, version);
@@ -118,18 +118,18 @@ void ToolAssembly::wrongMachinesAreNamed()
     QCOMPARE(result.errors, message);
 }
 
-void ToolAssembly::aPolicyThatDoesNotHoldIsFound()
+void ToolAssemblyTest::aPolicyThatDoesNotHoldIsFound()
 {
     const ToolBundle bundle({}, {});
     const RunResult result = assembleTools(
-        bundle.contents(), {{u"TESSARO_CONVERT"_s, QStringLiteral(TESSARO_LAWLESS_CONVERT)}});
+        bundle.contents(), {{u"TESSARO_CONVERT"_s, QStringLiteral(TESSARO_NOPOLICYCONVERT)}});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
              QByteArray("assemble-tools: the image policy does not hold: a forbidden "
                         "file (postscript) was converted.\n"));
 }
 
-void ToolAssembly::missingProgramsAreNamed()
+void ToolAssemblyTest::missingProgramsAreNamed()
 {
     const QTemporaryDir folder;
     const RunResult result = assembleTools(folder.path());
@@ -139,7 +139,7 @@ void ToolAssembly::missingProgramsAreNamed()
                                 .toUtf8());
 }
 
-void ToolAssembly::assemblingTwiceGivesTheSame()
+void ToolAssemblyTest::assemblingTwiceGivesTheSame()
 {
     const ToolBundle bundle({}, {});
     QCOMPARE(assembleTools(bundle.contents()).errors, QByteArray());
@@ -150,12 +150,12 @@ void ToolAssembly::assemblingTwiceGivesTheSame()
     verifyWorking(bundle.tool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
-void ToolAssembly::magickAloneIsCalledAsConvert()
+void ToolAssemblyTest::magickAloneIsCalledAsConvert()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
     const QString magick = folder.filePath(u"magick"_s);
-    QVERIFY(QFile::copy(QStringLiteral(TESSARO_ONLY_MAGICK), magick));
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_MAGICK7STUB), magick));
     QCOMPARE(assembleTools(bundle.contents(), {{u"TESSARO_CONVERT"_s, magick}}).errors,
              QByteArray());
     QCOMPARE(contentOf(bundle.contents() + u"/Resources/convert.tool"_s),
@@ -163,18 +163,18 @@ void ToolAssembly::magickAloneIsCalledAsConvert()
     verifyWorking(bundle.tool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
-void ToolAssembly::changedToolsAreProvenAgain()
+void ToolAssemblyTest::changedToolsAreProvenAgain()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
     const QString tool = folder.filePath(u"magick"_s);
     const Variables variables = {{u"TESSARO_CONVERT"_s, tool}};
-    QVERIFY(QFile::copy(QStringLiteral(TESSARO_ONLY_MAGICK), tool));
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_MAGICK7STUB), tool));
     QCOMPARE(assembleTools(bundle.contents(), variables).errors, QByteArray());
     const RunResult same = assembleTools(bundle.contents(), variables, {u"--if-changed"_s});
     QCOMPARE(same.errors + same.output, QByteArray());
     QCOMPARE(same.status, 0);
-    QVERIFY(QFile::remove(tool) && QFile::copy(QStringLiteral(TESSARO_LAWLESS_CONVERT), tool));
+    QVERIFY(QFile::remove(tool) && QFile::copy(QStringLiteral(TESSARO_NOPOLICYCONVERT), tool));
     const RunResult changed = assembleTools(bundle.contents(), variables, {u"--if-changed"_s});
     QCOMPARE(changed.status, 1);
     QVERIFY2(changed.output.startsWith("The tools under the program have changed"),
@@ -184,7 +184,7 @@ void ToolAssembly::changedToolsAreProvenAgain()
     QCOMPARE(assembleTools(bundle.contents(), variables, {u"--if-changed"_s}).status, 1);
 }
 
-void ToolAssembly::lostPolicyIsMendedOnTheNextLook()
+void ToolAssemblyTest::lostPolicyIsMendedOnTheNextLook()
 {
     const ToolBundle bundle({}, {});
     const QString policy = bundle.contents() + u"/Resources/magick/limits/policy.xml"_s;
@@ -194,7 +194,7 @@ void ToolAssembly::lostPolicyIsMendedOnTheNextLook()
     QVERIFY(QFile::exists(policy));
 }
 
-void ToolAssembly::noPolicyNoImage_data()
+void ToolAssemblyTest::noPolicyNoImage_data()
 {
     QTest::addColumn<QString>("spoiling");
     QTest::addColumn<QByteArray>("sentence");
@@ -211,7 +211,7 @@ void ToolAssembly::noPolicyNoImage_data()
 
 // A format that the policy forbids, and one that it allows: without a policy neither is made of an
 // image that ImageMagick has to read.
-void ToolAssembly::noPolicyNoImage()
+void ToolAssemblyTest::noPolicyNoImage()
 {
     QFETCH(QString, spoiling);
     QFETCH(QByteArray, sentence);
@@ -240,7 +240,7 @@ void ToolAssembly::noPolicyNoImage()
     QCOMPARE(finished.errors + finished.output, QByteArray());
 }
 
-void ToolAssembly::nothingIsWritableByOthers()
+void ToolAssemblyTest::nothingIsWritableByOthers()
 {
     const QString resources = bundleContents() + u"/Resources"_s;
     for (const QString &file : filesBelow(resources)) {
@@ -250,7 +250,7 @@ void ToolAssembly::nothingIsWritableByOthers()
     }
 }
 
-void ToolAssembly::movedBundleWorks()
+void ToolAssemblyTest::movedBundleWorks()
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(u"my app. copy"_s);
@@ -261,7 +261,7 @@ void ToolAssembly::movedBundleWorks()
     verifyWorking(programs + u"convert"_s, programs + u"pdftk"_s);
 }
 
-void ToolAssembly::linkedProgramsFindTheirBundle()
+void ToolAssemblyTest::linkedProgramsFindTheirBundle()
 {
     const QTemporaryDir folder;
     for (const QString &name : {u"convert"_s, u"pdftk"_s})
@@ -269,7 +269,7 @@ void ToolAssembly::linkedProgramsFindTheirBundle()
     verifyWorking(folder.filePath(u"convert"_s), folder.filePath(u"pdftk"_s));
 }
 
-void ToolAssembly::unfitArchiveChangesNothing_data()
+void ToolAssemblyTest::unfitArchiveChangesNothing_data()
 {
     QTest::addColumn<QString>("state");
     QTest::newRow("it is missing") << "missing";
@@ -279,7 +279,7 @@ void ToolAssembly::unfitArchiveChangesNothing_data()
     QTest::newRow("another JVM made it") << "version";
 }
 
-void ToolAssembly::unfitArchiveChangesNothing()
+void ToolAssemblyTest::unfitArchiveChangesNothing()
 {
     QFETCH(QString, state);
     const ToolBundle bundle({u"/usr/bin/convert"_s}, {});
@@ -297,5 +297,5 @@ void ToolAssembly::unfitArchiveChangesNothing()
     verifyWorking(bundledTool(u"convert"_s), bundle.tool(u"pdftk"_s));
 }
 
-QTEST_GUILESS_MAIN(ToolAssembly)
+QTEST_GUILESS_MAIN(ToolAssemblyTest)
 #include "toolassembly_test.moc"

@@ -42,7 +42,7 @@ QString imageMagick()
 
 } // namespace
 
-class TestPcxPixels : public QObject
+class TestPcxPixelsTest : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private:
     QString convert;
 };
 
-void TestPcxPixels::initTestCase()
+void TestPcxPixelsTest::initTestCase()
 {
     QCoreApplication::setLibraryPaths({}); // no other plug-in can read for ours
     QVERIFY(QImageReader::supportedImageFormats().contains("pcx"));
@@ -64,7 +64,7 @@ void TestPcxPixels::initTestCase()
     qInfo("%s", run(convert, {QStringLiteral("-version")}).bytes.split('\n').first().constData());
 }
 
-void TestPcxPixels::equalImageMagicksReading_data()
+void TestPcxPixelsTest::equalImageMagicksReading_data()
 {
     QTest::addColumn<QString>("path");
     const QDir samples(QStringLiteral(PCX_SAMPLES));
@@ -74,7 +74,7 @@ void TestPcxPixels::equalImageMagicksReading_data()
         QTest::newRow(qPrintable(file.completeBaseName())) << file.filePath();
 }
 
-void TestPcxPixels::equalImageMagicksReading()
+void TestPcxPixelsTest::equalImageMagicksReading()
 {
     QFETCH(const QString, path);
     const Output expected = run(
@@ -90,5 +90,5 @@ void TestPcxPixels::equalImageMagicksReading()
     QCOMPARE(pixels, expected.bytes);
 }
 
-QTEST_GUILESS_MAIN(TestPcxPixels)
+QTEST_GUILESS_MAIN(TestPcxPixelsTest)
 #include "pcx_pixels_test.moc"

@@ -61,7 +61,7 @@ PcxFile twoByTwo(QByteArray data)
 
 } // namespace
 
-class TestPcx : public QObject
+class TestPcxTest : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +79,7 @@ private slots:
     void tellsTheSizeWithoutMovingTheDevice();
 };
 
-void TestPcx::givesThePixelsOfTheFile_data()
+void TestPcxTest::givesThePixelsOfTheFile_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<Pixels>("pixels");
@@ -155,7 +155,7 @@ void TestPcx::givesThePixelsOfTheFile_data()
         {0xFF010203, 0xFF040506});
 }
 
-void TestPcx::givesThePixelsOfTheFile()
+void TestPcxTest::givesThePixelsOfTheFile()
 {
     QFETCH(const QByteArray, file);
     QFETCH(const Pixels, pixels);
@@ -163,14 +163,14 @@ void TestPcx::givesThePixelsOfTheFile()
     QCOMPARE(pixelsOf(readBytes(file)), pixels);
 }
 
-void TestPcx::readsFromADeviceThatCannotSeek()
+void TestPcxTest::readsFromADeviceThatCannotSeek()
 {
     Pipe pipe(twoByTwo(hex("0102 0304") + endPalette()).bytes());
 
     QCOMPARE(pixelsOf(readFrom(pipe)), Pixels({0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04}));
 }
 
-void TestPcx::refusesWhatIsNoPictureOfThisFormat_data()
+void TestPcxTest::refusesWhatIsNoPictureOfThisFormat_data()
 {
     QTest::addColumn<QByteArray>("file");
     const auto row = [](const char *name, const PcxFile &file) {
@@ -197,7 +197,7 @@ void TestPcx::refusesWhatIsNoPictureOfThisFormat_data()
     row("lines shorter than the width in bits", {.bits = 1, .right = 16, .bytesPerLine = 2});
 }
 
-void TestPcx::refusesWhatIsNoPictureOfThisFormat()
+void TestPcxTest::refusesWhatIsNoPictureOfThisFormat()
 {
     QFETCH(QByteArray, file);
     QBuffer buffer(&file);
@@ -207,7 +207,7 @@ void TestPcx::refusesWhatIsNoPictureOfThisFormat()
     QVERIFY(readBytes(file).isNull());
 }
 
-void TestPcx::readsNothingFromADamagedFile_data()
+void TestPcxTest::readsNothingFromADamagedFile_data()
 {
     QTest::addColumn<QByteArray>("file");
     const auto row = [](const char *name, const PcxFile &file) {
@@ -229,7 +229,7 @@ void TestPcx::readsNothingFromADamagedFile_data()
         {.bottom = 65535, .bytesPerLine = 65535, .data = QByteArray(5000, '\xFF')});
 }
 
-void TestPcx::readsNothingFromADamagedFile()
+void TestPcxTest::readsNothingFromADamagedFile()
 {
     QFETCH(const QByteArray, file);
     Pipe pipe(file);
@@ -238,7 +238,7 @@ void TestPcx::readsNothingFromADamagedFile()
     QVERIFY(readFrom(pipe).isNull());
 }
 
-void TestPcx::readsNothingFromAFileThatEndsAnywhereInside()
+void TestPcxTest::readsNothingFromAFileThatEndsAnywhereInside()
 {
     const QByteArray file =
         PcxFile{.right = 1, .bottom = 1, .data = hex("C204 C1FF 06 0708 C206 09 0A 0B0C")}.bytes();
@@ -248,7 +248,7 @@ void TestPcx::readsNothingFromAFileThatEndsAnywhereInside()
         QVERIFY2(readBytes(file.first(size)).isNull(), qPrintable(QString::number(size)));
 }
 
-void TestPcx::looksNoFurtherIntoAFileTooShortForItsSize()
+void TestPcxTest::looksNoFurtherIntoAFileTooShortForItsSize()
 {
     QByteArray file = PcxFile{.right = 2047, .bottom = 2047, .bytesPerLine = 2048}.bytes();
     QBuffer buffer(&file);
@@ -258,7 +258,7 @@ void TestPcx::looksNoFurtherIntoAFileTooShortForItsSize()
     QCOMPARE(buffer.pos(), 128);
 }
 
-void TestPcx::obeysTheReadersLimitOfMemory()
+void TestPcxTest::obeysTheReadersLimitOfMemory()
 {
     const int previous = QImageReader::allocationLimit();
     const QByteArray lines = QByteArray(qsizetype{2048} * 2048 * 3 / 16, '\xE0');
@@ -272,7 +272,7 @@ void TestPcx::obeysTheReadersLimitOfMemory()
     QImageReader::setAllocationLimit(previous);
 }
 
-void TestPcx::tellsTheSizeWithoutMovingTheDevice()
+void TestPcxTest::tellsTheSizeWithoutMovingTheDevice()
 {
     QByteArray file = PcxFile{.left = 3, .top = 2, .right = 4, .bottom = 6}.bytes();
     QBuffer buffer(&file);
@@ -289,5 +289,5 @@ void TestPcx::tellsTheSizeWithoutMovingTheDevice()
     QCOMPARE(buffer.pos(), 0);
 }
 
-QTEST_APPLESS_MAIN(TestPcx)
+QTEST_APPLESS_MAIN(TestPcxTest)
 #include "pcx_test.moc"

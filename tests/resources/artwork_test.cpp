@@ -79,7 +79,7 @@ QString foreignPart(QXmlStreamReader &svg)
 
 } // namespace
 
-class TestArtwork : public QObject
+class TestArtworkTest : public QObject
 {
     Q_OBJECT
 
@@ -100,7 +100,7 @@ private slots:
     void sourceDependsOnNothing();
 };
 
-void TestArtwork::holdsItsSizes_data()
+void TestArtworkTest::holdsItsSizes_data()
 {
     QTest::addColumn<QByteArray>("format");
     QTest::addColumn<Sizes>("sizes");
@@ -130,7 +130,7 @@ void TestArtwork::holdsItsSizes_data()
         picture(name, "ico", squares({32, 16, 24, 48, 64, 128, 256}));
 }
 
-void TestArtwork::holdsItsSizes()
+void TestArtworkTest::holdsItsSizes()
 {
     QFETCH(const QByteArray, format);
     QFETCH(const Sizes, sizes);
@@ -143,13 +143,13 @@ void TestArtwork::holdsItsSizes()
     QCOMPARE(imageSizes(file), sizes);
 }
 
-void TestArtwork::holdsNothingElse()
+void TestArtworkTest::holdsNothingElse()
 {
     // 11 PNG pictures with their twins, the background and nine icon files.
     QCOMPARE(QDir(icons).entryList().size(), 11 * 2 + 1 + 9);
 }
 
-void TestArtwork::pixmapFitsItsLabel_data()
+void TestArtworkTest::pixmapFitsItsLabel_data()
 {
     QTest::addColumn<QSize>("label");
 
@@ -158,7 +158,7 @@ void TestArtwork::pixmapFitsItsLabel_data()
     QTest::newRow("shield.ico") << QSize(41, 41);
 }
 
-void TestArtwork::pixmapFitsItsLabel()
+void TestArtworkTest::pixmapFitsItsLabel()
 {
     QFETCH(const QSize, label);
     const QPixmap pixmap(icons + QString::fromUtf8(QTest::currentDataTag()));
@@ -167,7 +167,7 @@ void TestArtwork::pixmapFitsItsLabel()
     QCOMPARE(pixmap.size().boundedTo(label), pixmap.size());
 }
 
-void TestArtwork::iconIsSharpAtTheSizeShown_data()
+void TestArtworkTest::iconIsSharpAtTheSizeShown_data()
 {
     QTest::addColumn<QSize>("shown");
 
@@ -178,7 +178,7 @@ void TestArtwork::iconIsSharpAtTheSizeShown_data()
         QTest::newRow(name) << QSize(32, 32);
 }
 
-void TestArtwork::iconIsSharpAtTheSizeShown()
+void TestArtworkTest::iconIsSharpAtTheSizeShown()
 {
     QFETCH(const QSize, shown);
     const QString file = icons + QString::fromUtf8(QTest::currentDataTag());
@@ -188,7 +188,7 @@ void TestArtwork::iconIsSharpAtTheSizeShown()
     QVERIFY(available.contains(shown * 2));
 }
 
-void TestArtwork::currentPageHasAPictureOfItsOwn_data()
+void TestArtworkTest::currentPageHasAPictureOfItsOwn_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -196,7 +196,7 @@ void TestArtwork::currentPageHasAPictureOfItsOwn_data()
         QTest::newRow(name) << QString::fromUtf8(name);
 }
 
-void TestArtwork::currentPageHasAPictureOfItsOwn()
+void TestArtworkTest::currentPageHasAPictureOfItsOwn()
 {
     QFETCH(const QString, name);
     QIcon icon(icons + name + u".png"_s);
@@ -208,7 +208,7 @@ void TestArtwork::currentPageHasAPictureOfItsOwn()
     QVERIFY(icon.pixmap(shown, 1, QIcon::Normal).toImage() != current);
 }
 
-void TestArtwork::coversItsWholeArea_data()
+void TestArtworkTest::coversItsWholeArea_data()
 {
     QTest::addColumn<QString>("file");
 
@@ -218,7 +218,7 @@ void TestArtwork::coversItsWholeArea_data()
 
 /// Painted as a background, a see-through pixel would cut a hole: the preview's frame is shaped by
 /// its picture's mask.
-void TestArtwork::coversItsWholeArea()
+void TestArtworkTest::coversItsWholeArea()
 {
     QFETCH(const QString, file);
     const QPixmap pixmap(file);
@@ -228,7 +228,7 @@ void TestArtwork::coversItsWholeArea()
     QVERIFY(pixmap.mask().isNull());
 }
 
-void TestArtwork::blackTextIsReadOnTheBackground()
+void TestArtworkTest::blackTextIsReadOnTheBackground()
 {
     const QImage background(icons + u"stock-ved.jpg"_s);
     QVERIFY(!background.isNull());
@@ -236,7 +236,7 @@ void TestArtwork::blackTextIsReadOnTheBackground()
     QVERIFY((darkest(background) + 0.05) / 0.05 > 16);
 }
 
-void TestArtwork::sourceDependsOnNothing_data()
+void TestArtworkTest::sourceDependsOnNothing_data()
 {
     QTest::addColumn<QString>("file");
 
@@ -245,7 +245,7 @@ void TestArtwork::sourceDependsOnNothing_data()
         QTest::newRow(qPrintable(name)) << sources.filePath(name);
 }
 
-void TestArtwork::sourceDependsOnNothing()
+void TestArtworkTest::sourceDependsOnNothing()
 {
     QFETCH(const QString, file);
     QFile source(file);
@@ -255,5 +255,5 @@ void TestArtwork::sourceDependsOnNothing()
     QCOMPARE(foreignPart(svg), QString());
 }
 
-QTEST_MAIN(TestArtwork)
+QTEST_MAIN(TestArtworkTest)
 #include "artwork_test.moc"

@@ -29,7 +29,7 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-class TestPictures : public QObject
+class TestPicturesTest : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private slots:
     void pngShowsWhatQtsIconShows();
 };
 
-void TestPictures::showsWhatQtsIconShows_data()
+void TestPicturesTest::showsWhatQtsIconShows_data()
 {
     QTest::addColumn<QString>("path");
     const QStringList names = QDir(icons).entryList({QStringLiteral("*.ico")});
@@ -50,7 +50,7 @@ void TestPictures::showsWhatQtsIconShows_data()
         QTest::newRow(qPrintable(name)) << icons + name;
 }
 
-void TestPictures::showsWhatQtsIconShows()
+void TestPicturesTest::showsWhatQtsIconShows()
 {
     QFETCH(const QString, path);
     const QIcon lazy = iconFromFile(path);
@@ -77,7 +77,7 @@ void TestPictures::showsWhatQtsIconShows()
     QCOMPARE(copy.pixmap(24).toImage(), eager.pixmap(24).toImage());
 }
 
-void TestPictures::brokenFileShowsNothing_data()
+void TestPicturesTest::brokenFileShowsNothing_data()
 {
     QTest::addColumn<QByteArray>("content");
 
@@ -88,7 +88,7 @@ void TestPictures::brokenFileShowsNothing_data()
     QTest::newRow("images that are cut off") << whole.left(6 + 7 * 16);
 }
 
-void TestPictures::brokenFileShowsNothing()
+void TestPicturesTest::brokenFileShowsNothing()
 {
     QFETCH(const QByteArray, content);
     const QTemporaryDir folder;
@@ -102,7 +102,7 @@ void TestPictures::brokenFileShowsNothing()
     QVERIFY(!icon.isNull());
 }
 
-void TestPictures::pngShowsWhatQtsIconShows()
+void TestPicturesTest::pngShowsWhatQtsIconShows()
 {
     const QString path = icons + QStringLiteral("inout3.png");
     const QString disabledPath = icons + QStringLiteral("inout3-current.png");
@@ -121,5 +121,5 @@ void TestPictures::pngShowsWhatQtsIconShows()
     }
 }
 
-QTEST_MAIN(TestPictures)
+QTEST_MAIN(TestPicturesTest)
 #include "pictures_test.moc"

@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ConvertOptions : public QObject
+class ConvertOptionsTest : public QObject
 {
     Q_OBJECT
 
@@ -100,7 +100,7 @@ QImage imageIn(const QString &folder, const QString &pdf)
 
 } // namespace
 
-void ConvertOptions::optionShapesThePage_data()
+void ConvertOptionsTest::optionShapesThePage_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<QStringList>("source");
@@ -159,7 +159,7 @@ void ConvertOptions::optionShapesThePage_data()
         << u"-monochrome -compress Group4"_s << colours << u"64 32 gray 1 1 ccitt"_s << dots << 64;
 }
 
-void ConvertOptions::optionShapesThePage()
+void ConvertOptionsTest::optionShapesThePage()
 {
     QFETCH(QString, options);
     QFETCH(QStringList, source);
@@ -185,5 +185,5 @@ void ConvertOptions::optionShapesThePage()
              qPrintable(QString::number(apart)));
 }
 
-QTEST_GUILESS_MAIN(ConvertOptions)
+QTEST_GUILESS_MAIN(ConvertOptionsTest)
 #include "convertoptions_test.moc"

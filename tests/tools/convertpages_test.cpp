@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ConvertPages : public QObject
+class ConvertPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -40,20 +40,20 @@ private:
     QTemporaryDir m_folder;
 };
 
-RunResult ConvertPages::makeReal(const QStringList &words) const
+RunResult ConvertPagesTest::makeReal(const QStringList &words) const
 {
     const QString realTool =
         QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s)).trimmed();
     return runProgram(realTool, words, m_folder.path());
 }
 
-RunResult ConvertPages::convert(const QStringList &words, const Variables &variables) const
+RunResult ConvertPagesTest::convert(const QStringList &words, const Variables &variables) const
 {
     return runBundled(u"convert"_s, words + QStringList{u"o.pdf"_s}, m_folder.path(), variables);
 }
 
 // Each image has a width of its own, by which its page is known.
-void ConvertPages::initTestCase()
+void ConvertPagesTest::initTestCase()
 {
     int width = 11;
     for (const QString &name : {u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"4.pbm"_s, u"5.pcx"_s,
@@ -77,7 +77,7 @@ void ConvertPages::initTestCase()
 }
 
 // qpdf finds no fault in any PDF that was made here.
-void ConvertPages::cleanup()
+void ConvertPagesTest::cleanup()
 {
     if (!QFile::exists(place(u"o.pdf"_s)))
         return;
@@ -87,7 +87,7 @@ void ConvertPages::cleanup()
     QFile::remove(place(u"o.pdf"_s));
 }
 
-void ConvertPages::everyFormatMergesInOrder()
+void ConvertPagesTest::everyFormatMergesInOrder()
 {
     const QStringList names = {u"8.tif"_s, u"3.jpg"_s, u"1.bmp"_s, u"6.png"_s, u"2.gif"_s,
                                u"5.pcx"_s, u"4.pbm"_s, u"7.ppm"_s, u"3.jpg"_s};
@@ -100,7 +100,7 @@ void ConvertPages::everyFormatMergesInOrder()
     }
 }
 
-void ConvertPages::severalImagesOfAFileStayInPlace_data()
+void ConvertPagesTest::severalImagesOfAFileStayInPlace_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QStringList>("names");
@@ -121,7 +121,7 @@ void ConvertPages::severalImagesOfAFileStayInPlace_data()
         << turned << QStringList{u"several.gif"_s, u"3.jpg"_s} << QList<int>{12, 12, 13};
 }
 
-void ConvertPages::severalImagesOfAFileStayInPlace()
+void ConvertPagesTest::severalImagesOfAFileStayInPlace()
 {
     QFETCH(QStringList, options);
     QFETCH(QStringList, names);
@@ -133,7 +133,7 @@ void ConvertPages::severalImagesOfAFileStayInPlace()
     QCOMPARE(found, widths);
 }
 
-void ConvertPages::twoThousandImages()
+void ConvertPagesTest::twoThousandImages()
 {
     QStringList names;
     for (int i = 0; i < 1000; ++i)
@@ -142,7 +142,7 @@ void ConvertPages::twoThousandImages()
     QCOMPARE(readPdf(place(u"o.pdf"_s)).pages, 2001);
 }
 
-void ConvertPages::oneDamagedAmongMany_data()
+void ConvertPagesTest::oneDamagedAmongMany_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("name");
@@ -154,7 +154,7 @@ void ConvertPages::oneDamagedAmongMany_data()
     }
 }
 
-void ConvertPages::oneDamagedAmongMany()
+void ConvertPagesTest::oneDamagedAmongMany()
 {
     QFETCH(QStringList, options);
     QFETCH(QString, name);
@@ -172,7 +172,7 @@ void ConvertPages::oneDamagedAmongMany()
                 .isEmpty());
 }
 
-void ConvertPages::jpegWithDamagedTablesIsRefused_data()
+void ConvertPagesTest::jpegWithDamagedTablesIsRefused_data()
 {
     using namespace imagefiles;
     QTest::addColumn<QByteArray>("file");
@@ -189,7 +189,7 @@ void ConvertPages::jpegWithDamagedTablesIsRefused_data()
 }
 
 // Readers of PDFs would show what they like, or nothing.
-void ConvertPages::jpegWithDamagedTablesIsRefused()
+void ConvertPagesTest::jpegWithDamagedTablesIsRefused()
 {
     QFETCH(QByteArray, file);
     writeContent(place(u"damaged.jpg"_s), file);
@@ -198,7 +198,7 @@ void ConvertPages::jpegWithDamagedTablesIsRefused()
 }
 
 // A page of a kilometre, which ImageMagick writes as 2.88e+06 points.
-void ConvertPages::densityBeyondReasonIsNamed()
+void ConvertPagesTest::densityBeyondReasonIsNamed()
 {
     writeContent(place(u"vast.tif"_s),
                  imagefiles::tiff({.size = {400, 400}, .x = 0.01, .y = 0.01, .unit = 2}));
@@ -210,7 +210,7 @@ void ConvertPages::densityBeyondReasonIsNamed()
 }
 
 // A tag that nobody knows is no reason to refuse an image.
-void ConvertPages::warningsOfASuccessAreLogged()
+void ConvertPagesTest::warningsOfASuccessAreLogged()
 {
     QByteArray tiff = contentOf(place(u"8.tif"_s));
     const qsizetype software = tiff.indexOf(QByteArray("\x12\x01\x03\0", 4));
@@ -226,14 +226,14 @@ void ConvertPages::warningsOfASuccessAreLogged()
     QVERIFY2(log.contains("Unknown field"), log.constData());
 }
 
-void ConvertPages::informationIsTheSame_data()
+void ConvertPagesTest::informationIsTheSame_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"3.jpg", "6.png", "faxes.tif", "1.bmp"})
         QTest::newRow(name) << name;
 }
 
-void ConvertPages::informationIsTheSame()
+void ConvertPagesTest::informationIsTheSame()
 {
     QFETCH(QString, name);
     QCOMPARE(convert({name}).errors, QByteArray());
@@ -244,7 +244,7 @@ void ConvertPages::informationIsTheSame()
     QVERIFY(!text.contains("/Author") && !text.toLower().contains("magick"));
 }
 
-void ConvertPages::shrunkJpegHasTheRealSize_data()
+void ConvertPagesTest::shrunkJpegHasTheRealSize_data()
 {
     QTest::addColumn<QSize>("size");
     for (const QSize size : {QSize(2480, 3508), QSize(3508, 2480), QSize(1999, 1501),
@@ -253,7 +253,7 @@ void ConvertPages::shrunkJpegHasTheRealSize_data()
 }
 
 // The page of a JPEG image is as large as that of the same pixels in another format.
-void ConvertPages::shrunkJpegHasTheRealSize()
+void ConvertPagesTest::shrunkJpegHasTheRealSize()
 {
     QFETCH(QSize, size);
     makeImage(place(u"large.jpg"_s), size);
@@ -269,5 +269,5 @@ void ConvertPages::shrunkJpegHasTheRealSize()
     QCOMPARE(sizes.at(0).width() * std::max(density, 72.0) / 72, sizes.at(1).width());
 }
 
-QTEST_GUILESS_MAIN(ConvertPages)
+QTEST_GUILESS_MAIN(ConvertPagesTest)
 #include "convertpages_test.moc"

@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ConvertPolicy : public QObject
+class ConvertPolicyTest : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ const QByteArray permissive = "<policymap><policy domain=\"coder\" rights=\"read
 
 } // namespace
 
-void ConvertPolicy::namesTheVersionThatRan()
+void ConvertPolicyTest::namesTheVersionThatRan()
 {
     const RunResult result = runBundled(u"convert"_s, {u"-version"_s}, QDir::tempPath());
     qInfo().noquote() << result.output.split('\n').first();
@@ -52,7 +52,7 @@ void ConvertPolicy::namesTheVersionThatRan()
     QVERIFY(result.output.startsWith("Version: ImageMagick"));
 }
 
-void ConvertPolicy::forbiddenContentIsRefused_data()
+void ConvertPolicyTest::forbiddenContentIsRefused_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("PostScript named .png") << postScript;
@@ -62,7 +62,7 @@ void ConvertPolicy::forbiddenContentIsRefused_data()
     QTest::newRow("a script named .png") << msl;
 }
 
-void ConvertPolicy::forbiddenContentIsRefused()
+void ConvertPolicyTest::forbiddenContentIsRefused()
 {
     QFETCH(QByteArray, content);
     const QTemporaryDir folder;
@@ -71,7 +71,7 @@ void ConvertPolicy::forbiddenContentIsRefused()
     QCOMPARE(namesIn(folder.path()), QStringList{u"x.png"_s});
 }
 
-void ConvertPolicy::forbiddenFormatsAreRefused_data()
+void ConvertPolicyTest::forbiddenFormatsAreRefused_data()
 {
     QTest::addColumn<QString>("input");
     for (const char *input : {"ps:x.ps",
@@ -120,7 +120,7 @@ void ConvertPolicy::forbiddenFormatsAreRefused_data()
 }
 
 // With an option in front, the call is handed to the real tool as it is: the policy alone holds.
-void ConvertPolicy::forbiddenFormatsAreRefused()
+void ConvertPolicyTest::forbiddenFormatsAreRefused()
 {
     QFETCH(QString, input);
     const QTemporaryDir folder;
@@ -139,7 +139,7 @@ void ConvertPolicy::forbiddenFormatsAreRefused()
     }
 }
 
-void ConvertPolicy::usersOwnPolicyChangesNothing_data()
+void ConvertPolicyTest::usersOwnPolicyChangesNothing_data()
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<QString>("variable");
@@ -153,7 +153,7 @@ void ConvertPolicy::usersOwnPolicyChangesNothing_data()
                                               << "MAGICK_CONFIGURE_PATH";
 }
 
-void ConvertPolicy::usersOwnPolicyChangesNothing()
+void ConvertPolicyTest::usersOwnPolicyChangesNothing()
 {
     QFETCH(QString, place);
     QFETCH(QString, variable);
@@ -167,7 +167,7 @@ void ConvertPolicy::usersOwnPolicyChangesNothing()
     QCOMPARE(namesIn(folder.path()), QStringList{u"x.png"_s});
 }
 
-void ConvertPolicy::plainFormatsAreConverted_data()
+void ConvertPolicyTest::plainFormatsAreConverted_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
@@ -178,7 +178,7 @@ void ConvertPolicy::plainFormatsAreConverted_data()
 }
 
 // The samples are the real tool's own: its readers and writers agree on every format.
-void ConvertPolicy::plainFormatsAreConverted()
+void ConvertPolicyTest::plainFormatsAreConverted()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
@@ -192,7 +192,7 @@ void ConvertPolicy::plainFormatsAreConverted()
     QVERIFY(contentOf(folder.filePath(u"o.pdf"_s)).startsWith("%PDF-"));
 }
 
-void ConvertPolicy::everyCompressionIsWritten_data()
+void ConvertPolicyTest::everyCompressionIsWritten_data()
 {
     QTest::addColumn<QString>("word");
     for (const char *word :
@@ -200,7 +200,7 @@ void ConvertPolicy::everyCompressionIsWritten_data()
         QTest::newRow(word) << word;
 }
 
-void ConvertPolicy::everyCompressionIsWritten()
+void ConvertPolicyTest::everyCompressionIsWritten()
 {
     QFETCH(QString, word);
     const QTemporaryDir folder;
@@ -215,7 +215,7 @@ void ConvertPolicy::everyCompressionIsWritten()
     }
 }
 
-void ConvertPolicy::onlyPdfIsWritten_data()
+void ConvertPolicyTest::onlyPdfIsWritten_data()
 {
     QTest::addColumn<QString>("output");
     for (const char *output :
@@ -223,7 +223,7 @@ void ConvertPolicy::onlyPdfIsWritten_data()
         QTest::newRow(output) << output;
 }
 
-void ConvertPolicy::onlyPdfIsWritten()
+void ConvertPolicyTest::onlyPdfIsWritten()
 {
     QFETCH(QString, output);
     const QTemporaryDir folder;
@@ -233,7 +233,7 @@ void ConvertPolicy::onlyPdfIsWritten()
     QCOMPARE(contentOf(folder.filePath(name)), QByteArray());
 }
 
-void ConvertPolicy::sidesUpTo32000PixelsAreConverted_data()
+void ConvertPolicyTest::sidesUpTo32000PixelsAreConverted_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("accepted");
@@ -243,7 +243,7 @@ void ConvertPolicy::sidesUpTo32000PixelsAreConverted_data()
     QTest::newRow("higher") << QSize(1, 32001) << false;
 }
 
-void ConvertPolicy::sidesUpTo32000PixelsAreConverted()
+void ConvertPolicyTest::sidesUpTo32000PixelsAreConverted()
 {
     QFETCH(QSize, size);
     QFETCH(bool, accepted);
@@ -253,5 +253,5 @@ void ConvertPolicy::sidesUpTo32000PixelsAreConverted()
              accepted);
 }
 
-QTEST_GUILESS_MAIN(ConvertPolicy)
+QTEST_GUILESS_MAIN(ConvertPolicyTest)
 #include "convertpolicy_test.moc"

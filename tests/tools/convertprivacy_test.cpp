@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ConvertPrivacy : public QObject
+class ConvertPrivacyTest : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ QByteArray withSegments(const QByteArray &jpeg)
 } // namespace
 
 // The samples are the real tool's own, with everything that it writes into these formats.
-void ConvertPrivacy::initTestCase()
+void ConvertPrivacyTest::initTestCase()
 {
     makeImage(m_folder.filePath(u"source.png"_s), {60, 40});
     const QString realTool =
@@ -85,7 +85,7 @@ void ConvertPrivacy::initTestCase()
         QVERIFY2(contentOf(m_folder.filePath(name)).contains(planted), qPrintable(name));
 }
 
-void ConvertPrivacy::nothingButThePictureTravels_data()
+void ConvertPrivacyTest::nothingButThePictureTravels_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("options");
@@ -105,7 +105,7 @@ void ConvertPrivacy::nothingButThePictureTravels_data()
     }
 }
 
-void ConvertPrivacy::nothingButThePictureTravels()
+void ConvertPrivacyTest::nothingButThePictureTravels()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, options);
@@ -125,14 +125,14 @@ void ConvertPrivacy::nothingButThePictureTravels()
         QVERIFY2(!text.contains(word), word.constData());
 }
 
-void ConvertPrivacy::colourProfileTravels_data()
+void ConvertPrivacyTest::colourProfileTravels_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::newRow("copied") << QStringList{};
     QTest::newRow("converted") << QStringList{u"-rotate"_s, u"90"_s};
 }
 
-void ConvertPrivacy::colourProfileTravels()
+void ConvertPrivacyTest::colourProfileTravels()
 {
     QFETCH(QStringList, options);
     QImage image(40, 30, QImage::Format_RGB32);
@@ -146,5 +146,5 @@ void ConvertPrivacy::colourProfileTravels()
     QVERIFY(contentOf(m_folder.filePath(u"o.pdf"_s)).contains("/ICCBased"));
 }
 
-QTEST_GUILESS_MAIN(ConvertPrivacy)
+QTEST_GUILESS_MAIN(ConvertPrivacyTest)
 #include "convertprivacy_test.moc"

@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ConvertResults : public QObject
+class ConvertResultsTest : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +104,7 @@ void addOddNames()
 
 } // namespace
 
-void ConvertResults::optionsReachTheTool_data()
+void ConvertResultsTest::optionsReachTheTool_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QSizeF>("size");
@@ -117,7 +117,7 @@ void ConvertResults::optionsReachTheTool_data()
                                  << QSizeF(40, 80);
 }
 
-void ConvertResults::optionsReachTheTool()
+void ConvertResultsTest::optionsReachTheTool()
 {
     QFETCH(QStringList, options);
     QFETCH(QSizeF, size);
@@ -128,12 +128,12 @@ void ConvertResults::optionsReachTheTool()
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pageSizes, QList<QSizeF>{size});
 }
 
-void ConvertResults::anyNameIsAnOutput_data()
+void ConvertResultsTest::anyNameIsAnOutput_data()
 {
     addOddNames();
 }
 
-void ConvertResults::anyNameIsAnOutput()
+void ConvertResultsTest::anyNameIsAnOutput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
@@ -149,12 +149,12 @@ void ConvertResults::anyNameIsAnOutput()
     QCOMPARE(facts.author, QString());
 }
 
-void ConvertResults::anyNameIsAnInput_data()
+void ConvertResultsTest::anyNameIsAnInput_data()
 {
     addOddNames();
 }
 
-void ConvertResults::anyNameIsAnInput()
+void ConvertResultsTest::anyNameIsAnInput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
@@ -167,7 +167,7 @@ void ConvertResults::anyNameIsAnInput()
     }
 }
 
-void ConvertResults::anyExtensionIsAnInput_data()
+void ConvertResultsTest::anyExtensionIsAnInput_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"x.dng", "x.map", "x.pdf", "x.svg", "x.html", "x.1", "x"})
@@ -175,7 +175,7 @@ void ConvertResults::anyExtensionIsAnInput_data()
 }
 
 // The content alone says what it is.
-void ConvertResults::anyExtensionIsAnInput()
+void ConvertResultsTest::anyExtensionIsAnInput()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
@@ -186,7 +186,7 @@ void ConvertResults::anyExtensionIsAnInput()
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
 }
 
-void ConvertResults::sixtyScannedPagesGiveSixty()
+void ConvertResultsTest::sixtyScannedPagesGiveSixty()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"0.jpg"_s), {2480, 3508});
@@ -201,7 +201,7 @@ void ConvertResults::sixtyScannedPagesGiveSixty()
     QCOMPARE(facts.pageSizes, QList<QSizeF>(60, facts.pageSizes.value(0)));
 }
 
-void ConvertResults::thousandsOfLongNamesFit()
+void ConvertResultsTest::thousandsOfLongNamesFit()
 {
     const QTemporaryDir folder;
     const QString deep = folder.filePath(QString(190, u'd'));
@@ -212,7 +212,7 @@ void ConvertResults::thousandsOfLongNamesFit()
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 3000);
 }
 
-void ConvertResults::failureLeavesTheOlderPdf_data()
+void ConvertResultsTest::failureLeavesTheOlderPdf_data()
 {
     QTest::addColumn<QStringList>("inputs");
     QTest::newRow("the only image is missing") << QStringList{u"missing.png"_s};
@@ -225,7 +225,7 @@ void ConvertResults::failureLeavesTheOlderPdf_data()
     QTest::newRow("one is a folder") << QStringList{u"x.png"_s, u"folder"_s};
 }
 
-void ConvertResults::failureLeavesTheOlderPdf()
+void ConvertResultsTest::failureLeavesTheOlderPdf()
 {
     QFETCH(QStringList, inputs);
     const QTemporaryDir folder;
@@ -244,7 +244,7 @@ void ConvertResults::failureLeavesTheOlderPdf()
     QCOMPARE(namesIn(folder.path()), names);
 }
 
-void ConvertResults::whatIsNoRegularFileFailsAtOnce_data()
+void ConvertResultsTest::whatIsNoRegularFileFailsAtOnce_data()
 {
     QTest::addColumn<QString>("input");
     QTest::newRow("a FIFO") << "fifo";
@@ -254,7 +254,7 @@ void ConvertResults::whatIsNoRegularFileFailsAtOnce_data()
     QTest::newRow("a loop of symbolic links") << "loop";
 }
 
-void ConvertResults::whatIsNoRegularFileFailsAtOnce()
+void ConvertResultsTest::whatIsNoRegularFileFailsAtOnce()
 {
     QFETCH(QString, input);
     const QTemporaryDir folder;
@@ -268,7 +268,7 @@ void ConvertResults::whatIsNoRegularFileFailsAtOnce()
     QVERIFY(!QFile::exists(folder.filePath(u"o.pdf"_s)));
 }
 
-void ConvertResults::outputFolderMayBeRelativeOrOdd_data()
+void ConvertResultsTest::outputFolderMayBeRelativeOrOdd_data()
 {
     QTest::addColumn<QString>("output");
     QTest::newRow("below the current folder") << "out";
@@ -278,7 +278,7 @@ void ConvertResults::outputFolderMayBeRelativeOrOdd_data()
     QTest::newRow("with a colon") << "png:";
 }
 
-void ConvertResults::outputFolderMayBeRelativeOrOdd()
+void ConvertResultsTest::outputFolderMayBeRelativeOrOdd()
 {
     QFETCH(QString, output);
     const QTemporaryDir folder;
@@ -289,7 +289,7 @@ void ConvertResults::outputFolderMayBeRelativeOrOdd()
     QCOMPARE(namesIn(folder.filePath(output)), QStringList{u"o.pdf"_s});
 }
 
-void ConvertResults::missingOutputFolderIsNamed()
+void ConvertResultsTest::missingOutputFolderIsNamed()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.png"_s));
@@ -299,7 +299,7 @@ void ConvertResults::missingOutputFolderIsNamed()
              QByteArray("convert: cannot use the folder 'no': No such file or directory\n"));
 }
 
-void ConvertResults::decompressionBombIsRefused_data()
+void ConvertResultsTest::decompressionBombIsRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
@@ -326,7 +326,7 @@ void ConvertResults::decompressionBombIsRefused_data()
 }
 
 // What claims 60,000 by 60,000 pixels is the header alone.
-void ConvertResults::decompressionBombIsRefused()
+void ConvertResultsTest::decompressionBombIsRefused()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, content);
@@ -338,7 +338,7 @@ void ConvertResults::decompressionBombIsRefused()
     QCOMPARE(namesIn(folder.path()), QStringList{name});
 }
 
-void ConvertResults::tenCallsAtOnceInOneFolder()
+void ConvertResultsTest::tenCallsAtOnceInOneFolder()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.jpg"_s), {900, 700});
@@ -359,7 +359,7 @@ void ConvertResults::tenCallsAtOnceInOneFolder()
         QCOMPARE(readPdf(folder.filePath(u"o"_s + QString::number(i) + u".pdf"_s)).pages, 1);
 }
 
-void ConvertResults::messagesNameTheUsersFiles()
+void ConvertResultsTest::messagesNameTheUsersFiles()
 {
     const QTemporaryDir folder;
     writeContent(folder.filePath(u"my bad%d.png"_s), "no image\n");
@@ -367,7 +367,7 @@ void ConvertResults::messagesNameTheUsersFiles()
     QVERIFY2(result.errors.contains("`my bad%d.png'"), result.errors.constData());
 }
 
-void ConvertResults::callIsLoggedOnRequest()
+void ConvertResultsTest::callIsLoggedOnRequest()
 {
     const QTemporaryDir folder, logs;
     makeImage(folder.filePath(u"x.png"_s));
@@ -392,5 +392,5 @@ void ConvertResults::callIsLoggedOnRequest()
     QCOMPARE(namesIn(logs.path()), QStringList{u"log"_s});
 }
 
-QTEST_GUILESS_MAIN(ConvertResults)
+QTEST_GUILESS_MAIN(ConvertResultsTest)
 #include "convertresults_test.moc"

@@ -2,8 +2,8 @@
 
 #include "convertcall.h"
 #include "convertlimits.h"
-#include "damage.h"
-#include "jpegshrink.h"
+#include "jpegscaling.h"
+#include "magickwarnings.h"
 
 #include <QTest>
 
@@ -13,7 +13,7 @@ using Size = unsigned long long;
 Q_DECLARE_METATYPE(std::string)
 Q_DECLARE_METATYPE(Words)
 
-class ConvertRules : public QObject
+class ConvertRulesTest : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private slots:
     void limitsFollowTheMachine();
 };
 
-void ConvertRules::convertCallIsSplit_data()
+void ConvertRulesTest::convertCallIsSplit_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::addColumn<Words>("options");
@@ -53,7 +53,7 @@ void ConvertRules::convertCallIsSplit_data()
         << Words{"/a.png", "-out/o.pdf"} << Words{} << Words{"/a.png"};
 }
 
-void ConvertRules::convertCallIsSplit()
+void ConvertRulesTest::convertCallIsSplit()
 {
     QFETCH(Words, arguments);
     QFETCH(Words, options);
@@ -65,7 +65,7 @@ void ConvertRules::convertCallIsSplit()
     QCOMPARE(call->output, arguments.back());
 }
 
-void ConvertRules::otherConvertCallsAreNotOurs_data()
+void ConvertRulesTest::otherConvertCallsAreNotOurs_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::newRow("no arguments") << Words{};
@@ -79,13 +79,13 @@ void ConvertRules::otherConvertCallsAreNotOurs_data()
     QTest::newRow("the standard input") << Words{"-", "o.pdf"};
 }
 
-void ConvertRules::otherConvertCallsAreNotOurs()
+void ConvertRulesTest::otherConvertCallsAreNotOurs()
 {
     QFETCH(Words, arguments);
     QVERIFY(!parseConvertCall(arguments));
 }
 
-void ConvertRules::inputsGetPlainNames_data()
+void ConvertRulesTest::inputsGetPlainNames_data()
 {
     QTest::addColumn<std::string>("path");
     QTest::addColumn<std::string>("name");
@@ -103,14 +103,14 @@ void ConvertRules::inputsGetPlainNames_data()
     QTest::newRow("a dot at the end") << std::string("/a.") << std::string("input-7");
 }
 
-void ConvertRules::inputsGetPlainNames()
+void ConvertRulesTest::inputsGetPlainNames()
 {
     QFETCH(std::string, path);
     QFETCH(std::string, name);
     QCOMPARE(inputName(7, path), name);
 }
 
-void ConvertRules::optionsThatChangePixels_data()
+void ConvertRulesTest::optionsThatChangePixels_data()
 {
     QTest::addColumn<Words>("options");
     QTest::addColumn<bool>("changes");
@@ -122,13 +122,13 @@ void ConvertRules::optionsThatChangePixels_data()
     QTest::newRow("black and white") << Words{"-compress", "JPEG", "-monochrome"} << true;
 }
 
-void ConvertRules::optionsThatChangePixels()
+void ConvertRulesTest::optionsThatChangePixels()
 {
     QFETCH(Words, options);
     QTEST(changesPixels(options), "changes");
 }
 
-void ConvertRules::compressionIsAskedFor_data()
+void ConvertRulesTest::compressionIsAskedFor_data()
 {
     QTest::addColumn<Words>("options");
     QTest::addColumn<int>("compression");
@@ -143,13 +143,13 @@ void ConvertRules::compressionIsAskedFor_data()
     row("the last one counts", {"-compress", "JPEG", "-compress", "LZW"}, Compression::Other);
 }
 
-void ConvertRules::compressionIsAskedFor()
+void ConvertRulesTest::compressionIsAskedFor()
 {
     QFETCH(Words, options);
     QTEST(int(askedCompression(options)), "compression");
 }
 
-void ConvertRules::jpegDecodersShrink_data()
+void ConvertRulesTest::jpegDecodersShrink_data()
 {
     QTest::addColumn<Words>("options");
     QTest::addColumn<QSize>("size");
@@ -177,7 +177,7 @@ void ConvertRules::jpegDecodersShrink_data()
     QTest::newRow("no readable header") << a4 << QSize(0, 0) << Words{};
 }
 
-void ConvertRules::jpegDecodersShrink()
+void ConvertRulesTest::jpegDecodersShrink()
 {
     QFETCH(Words, options);
     QFETCH(QSize, size);
@@ -185,7 +185,7 @@ void ConvertRules::jpegDecodersShrink()
     QTEST(shrinkingOptions(options, pixels).value_or(Words{}), "shrinking");
 }
 
-void ConvertRules::messagesTellOfDamage_data()
+void ConvertRulesTest::messagesTellOfDamage_data()
 {
     QTest::addColumn<QByteArray>("message");
     QTest::addColumn<bool>("damage");
@@ -204,13 +204,13 @@ void ConvertRules::messagesTellOfDamage_data()
     row("iCCP: known incorrect sRGB profile `a' @ warning/png.c/MagickPNGWarningHandler/", false);
 }
 
-void ConvertRules::messagesTellOfDamage()
+void ConvertRulesTest::messagesTellOfDamage()
 {
     QFETCH(QByteArray, message);
     QTEST(tellOfDamage(message.toStdString()), "damage");
 }
 
-void ConvertRules::runsAtOnceFitTheMachine_data()
+void ConvertRulesTest::runsAtOnceFitTheMachine_data()
 {
     constexpr Size gib = Size(1) << 30;
     QTest::addColumn<int>("cores");
@@ -223,14 +223,14 @@ void ConvertRules::runsAtOnceFitTheMachine_data()
     QTest::newRow("a very small machine") << 8 << gib / 2 << 1;
 }
 
-void ConvertRules::runsAtOnceFitTheMachine()
+void ConvertRulesTest::runsAtOnceFitTheMachine()
 {
     QFETCH(int, cores);
     QFETCH(Size, ram);
     QTEST(int(mostAtOnce(static_cast<size_t>(cores), ram)), "atOnce");
 }
 
-void ConvertRules::limitsFollowTheMachine_data()
+void ConvertRulesTest::limitsFollowTheMachine_data()
 {
     constexpr Size gib = Size(1) << 30;
     QTest::addColumn<int>("atOnce");
@@ -246,7 +246,7 @@ void ConvertRules::limitsFollowTheMachine_data()
         << 1 << 200 << 5 * gib << 2 * gib << 100 + 199 * 30;
 }
 
-void ConvertRules::limitsFollowTheMachine()
+void ConvertRulesTest::limitsFollowTheMachine()
 {
     QFETCH(int, atOnce);
     QFETCH(int, pages);
@@ -265,5 +265,5 @@ void ConvertRules::limitsFollowTheMachine()
     QVERIFY(kernel.front().value * runs < Size(4) << 30);
 }
 
-QTEST_APPLESS_MAIN(ConvertRules)
+QTEST_APPLESS_MAIN(ConvertRulesTest)
 #include "convertrules_test.moc"

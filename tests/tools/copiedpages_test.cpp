@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-class CopiedPages : public QObject
+class CopiedPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -170,12 +170,12 @@ void addRows(const QList<CopyableFile> &files)
 
 } // namespace
 
-void CopiedPages::pageHasTheRealSize_data()
+void CopiedPagesTest::pageHasTheRealSize_data()
 {
     addRows(densityFiles());
 }
 
-void CopiedPages::pageHasTheRealSize()
+void CopiedPagesTest::pageHasTheRealSize()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const bool, isCopied);
@@ -202,12 +202,12 @@ void CopiedPages::pageHasTheRealSize()
     }
 }
 
-void CopiedPages::pictureIsTheRealOne_data()
+void CopiedPagesTest::pictureIsTheRealOne_data()
 {
     addRows(pictureFiles());
 }
 
-void CopiedPages::pictureIsTheRealOne()
+void CopiedPagesTest::pictureIsTheRealOne()
 {
     QFETCH(const QByteArray, bytes);
     const QTemporaryDir folder;
@@ -242,7 +242,7 @@ void CopiedPages::pictureIsTheRealOne()
     QVERIFY2(isExact ? byPoppler == real : ratio >= 40, qPrintable(QString::number(ratio)));
 }
 
-void CopiedPages::privateDataStaysBehind_data()
+void CopiedPagesTest::privateDataStaysBehind_data()
 {
     using namespace imagefiles;
     const QByteArray words = "planted words";
@@ -268,7 +268,7 @@ void CopiedPages::privateDataStaysBehind_data()
     }
 }
 
-void CopiedPages::privateDataStaysBehind()
+void CopiedPagesTest::privateDataStaysBehind()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QStringList, options);
@@ -287,5 +287,5 @@ void CopiedPages::privateDataStaysBehind()
     QVERIFY(!contentOf(folder.filePath(u"open.pdf"_s)).contains("planted"));
 }
 
-QTEST_GUILESS_MAIN(CopiedPages)
+QTEST_GUILESS_MAIN(CopiedPagesTest)
 #include "copiedpages_test.moc"

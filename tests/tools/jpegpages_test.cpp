@@ -7,7 +7,7 @@
 
 using namespace imagefiles;
 
-class JpegPages : public QObject
+class JpegPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ QByteArray withScans(qsizetype count)
 
 } // namespace
 
-void JpegPages::nothingButTheImageIsCopied()
+void JpegPagesTest::nothingButTheImageIsCopied()
 {
     const QByteArray secret = "planted words";
     const QByteArray thumbnail = "planted words in three...";
@@ -92,7 +92,7 @@ void JpegPages::nothingButTheImageIsCopied()
     QCOMPARE(reading.pages.front().pageWidth, 40 * 72.0 / 300);
 }
 
-void JpegPages::isCopiedOrLeftToImageMagick_data()
+void JpegPagesTest::isCopiedOrLeftToImageMagick_data()
 {
     addReadingRows();
     const auto row = [](const char *name, const QByteArray &file, bool isCopied) {
@@ -164,12 +164,12 @@ void JpegPages::isCopiedOrLeftToImageMagick_data()
         false);
 }
 
-void JpegPages::isCopiedOrLeftToImageMagick()
+void JpegPagesTest::isCopiedOrLeftToImageMagick()
 {
     compareReading();
 }
 
-void JpegPages::incompleteFileIsRefused_data()
+void JpegPagesTest::incompleteFileIsRefused_data()
 {
     QTest::addColumn<QByteArray>("file");
     const QByteArray whole = jpeg({jfif(1, 300, 300)}, colour);
@@ -186,12 +186,12 @@ void JpegPages::incompleteFileIsRefused_data()
     QTest::newRow("end marker of one that is not copied") << jpeg({}, withFrame('\xC9')).chopped(2);
 }
 
-void JpegPages::incompleteFileIsRefused()
+void JpegPagesTest::incompleteFileIsRefused()
 {
     compareRefusal();
 }
 
-void JpegPages::profileTravels()
+void JpegPagesTest::profileTravels()
 {
     for (const bool inColour : {false, true}) {
         const QByteArray whole = profile(inColour);
@@ -201,5 +201,5 @@ void JpegPages::profileTravels()
     }
 }
 
-QTEST_GUILESS_MAIN(JpegPages)
+QTEST_GUILESS_MAIN(JpegPagesTest)
 #include "jpegpages_test.moc"

@@ -1,6 +1,6 @@
 #include "pagereading.h"
 
-#include "diagnosis.h"
+#include "error.h"
 
 #include <QTemporaryFile>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "pages_fuzz.h"
 
 #include "copyablepage.h"
-#include "diagnosis.h"
+#include "error.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-class PdftkDescription : public QObject
+class PdftkDescriptionTest : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ const QString emoji = QString::fromUtf8("M\xC3\xBCller \xE2\x82\xAC\xF0\x9F\x98\
 
 } // namespace
 
-void PdftkDescription::initTestCase()
+void PdftkDescriptionTest::initTestCase()
 {
     QVERIFY(m_locales.add(u"en_US"_s, u"ISO-8859-1"_s));
     m_locales.use("C");
@@ -61,12 +61,12 @@ void PdftkDescription::initTestCase()
     QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
-RunResult PdftkDescription::finish(const QStringList &tail, const Variables &variables) const
+RunResult PdftkDescriptionTest::finish(const QStringList &tail, const Variables &variables) const
 {
     return runBundled(u"pdftk"_s, QStringList{u"in.pdf"_s} + tail, m_folder.path(), variables);
 }
 
-void PdftkDescription::namesTheVersionThatRan()
+void PdftkDescriptionTest::namesTheVersionThatRan()
 {
     const RunResult result = runBundled(u"pdftk"_s, {u"--version"_s}, m_folder.path());
     qInfo().noquote() << result.output.trimmed().split('\n').first();
@@ -74,7 +74,7 @@ void PdftkDescription::namesTheVersionThatRan()
     QVERIFY(result.output.contains("pdftk"));
 }
 
-void PdftkDescription::fieldsArriveAsTyped_data()
+void PdftkDescriptionTest::fieldsArriveAsTyped_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QStringList>("fields");
@@ -96,7 +96,7 @@ void PdftkDescription::fieldsArriveAsTyped_data()
     }
 }
 
-void PdftkDescription::fieldsArriveAsTyped()
+void PdftkDescriptionTest::fieldsArriveAsTyped()
 {
     QFETCH(QString, locale);
     QFETCH(QStringList, fields);
@@ -110,7 +110,7 @@ void PdftkDescription::fieldsArriveAsTyped()
     QCOMPARE(fieldsOf(m_folder.filePath(u"out.pdf"_s)), fields);
 }
 
-void PdftkDescription::fieldsArriveInTheLocalesCharset()
+void PdftkDescriptionTest::fieldsArriveInTheLocalesCharset()
 {
     writeContent(m_folder.filePath(u"info"_s),
                  infoFile({umlauts.toLatin1(), "\xA4", " \xE9 ", "plain"}));
@@ -122,7 +122,7 @@ void PdftkDescription::fieldsArriveInTheLocalesCharset()
                           u"plain"_s}));
 }
 
-void PdftkDescription::newerFormIsLeftToTheTool()
+void PdftkDescriptionTest::newerFormIsLeftToTheTool()
 {
     writeContent(m_folder.filePath(u"info"_s),
                  "InfoBegin\nInfoKey: Title\nInfoValue: M&#252;ller\n"
@@ -134,7 +134,7 @@ void PdftkDescription::newerFormIsLeftToTheTool()
     QCOMPARE(facts.author, u"a & b"_s);
 }
 
-void PdftkDescription::fileNamesPassInEveryLocale_data()
+void PdftkDescriptionTest::fileNamesPassInEveryLocale_data()
 {
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("name");
@@ -145,7 +145,7 @@ void PdftkDescription::fileNamesPassInEveryLocale_data()
     }
 }
 
-void PdftkDescription::fileNamesPassInEveryLocale()
+void PdftkDescriptionTest::fileNamesPassInEveryLocale()
 {
     QFETCH(QString, locale);
     QFETCH(QString, name);
@@ -161,7 +161,7 @@ void PdftkDescription::fileNamesPassInEveryLocale()
     QCOMPARE(namesIn(folder.path()).size(), 3);
 }
 
-void PdftkDescription::missingInfoFileFails()
+void PdftkDescriptionTest::missingInfoFileFails()
 {
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -176,7 +176,7 @@ void PdftkDescription::missingInfoFileFails()
 }
 
 // What the application calls when it cannot write its info file.
-void PdftkDescription::missingInputFails()
+void PdftkDescriptionTest::missingInputFails()
 {
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -187,7 +187,7 @@ void PdftkDescription::missingInputFails()
     QCOMPARE(namesIn(folder.path()), QStringList{u"in.pdf"_s});
 }
 
-void PdftkDescription::otherCallsAreHandedOn()
+void PdftkDescriptionTest::otherCallsAreHandedOn()
 {
     QCOMPARE(finish({u"cat"_s, u"1"_s, u"1"_s, u"output"_s, u"twice.pdf"_s}).status, 0);
     QCOMPARE(readPdf(m_folder.filePath(u"twice.pdf"_s)).pages, 2);
@@ -196,5 +196,5 @@ void PdftkDescription::otherCallsAreHandedOn()
     QVERIFY(finish({u"no_such_operation"_s}).status > 0);
 }
 
-QTEST_GUILESS_MAIN(PdftkDescription)
+QTEST_GUILESS_MAIN(PdftkDescriptionTest)
 #include "pdftkdescription_test.moc"

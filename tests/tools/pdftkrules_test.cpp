@@ -1,6 +1,6 @@
 // The rules of our pdftk that need neither the real tool nor a file.
 
-#include "diagnosis.h"
+#include "error.h"
 #include "losslessinfo.h"
 #include "pdftkcall.h"
 
@@ -11,7 +11,7 @@ using Words = std::vector<std::string>;
 Q_DECLARE_METATYPE(std::string)
 Q_DECLARE_METATYPE(Words)
 
-class PdftkRules : public QObject
+class PdftkRulesTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private slots:
     void infoFileBecomesLossless();
 };
 
-void PdftkRules::pdftkTailHidesPasswords_data()
+void PdftkRulesTest::pdftkTailHidesPasswords_data()
 {
     QTest::addColumn<Words>("tail");
     QTest::addColumn<Words>("shown");
@@ -65,7 +65,7 @@ void PdftkRules::pdftkTailHidesPasswords_data()
         << Words{"user_pw", "PROMPT"} << Words{std::string(QString(32, QChar(0xFC)).toUtf8())};
 }
 
-void PdftkRules::pdftkTailHidesPasswords()
+void PdftkRulesTest::pdftkTailHidesPasswords()
 {
     QFETCH(Words, tail);
     QFETCH(Words, shown);
@@ -84,7 +84,7 @@ void PdftkRules::pdftkTailHidesPasswords()
     QCOMPARE(given, answers);
 }
 
-void PdftkRules::passwordsAreReadAsUtf8OrElseInTheLocalesCharset()
+void PdftkRulesTest::passwordsAreReadAsUtf8OrElseInTheLocalesCharset()
 {
     const std::optional<PdftkCall> call = parsePdftkCall(
         {"in.pdf", "output", "out.pdf", "owner_pw", "\xC3\xA9", "user_pw", "\xE8"}, "ISO-8859-1");
@@ -94,7 +94,7 @@ void PdftkRules::passwordsAreReadAsUtf8OrElseInTheLocalesCharset()
     QCOMPARE(call->passwords[1].answer, std::string("\xC3\xA8"));
 }
 
-void PdftkRules::otherPdftkCallsAreNotOurs_data()
+void PdftkRulesTest::otherPdftkCallsAreNotOurs_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::newRow("no arguments") << Words{};
@@ -104,13 +104,13 @@ void PdftkRules::otherPdftkCallsAreNotOurs_data()
     QTest::newRow("standard output") << Words{"a.pdf", "output", "-"};
 }
 
-void PdftkRules::otherPdftkCallsAreNotOurs()
+void PdftkRulesTest::otherPdftkCallsAreNotOurs()
 {
     QFETCH(Words, arguments);
     QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
 }
 
-void PdftkRules::passwordsElsewhereAreRefused_data()
+void PdftkRulesTest::passwordsElsewhereAreRefused_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::newRow("an input's password") << Words{"a.pdf", "input_pw", "x", "output", "o.pdf"};
@@ -120,13 +120,13 @@ void PdftkRules::passwordsElsewhereAreRefused_data()
     QTest::newRow("keywords in capitals") << Words{"a.pdf", "dump_data", "INPUT_PW", "x"};
 }
 
-void PdftkRules::passwordsElsewhereAreRefused()
+void PdftkRulesTest::passwordsElsewhereAreRefused()
 {
     QFETCH(Words, arguments);
     QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, "UTF-8"));
 }
 
-void PdftkRules::passwordsWithLineBreaksAreRefused_data()
+void PdftkRulesTest::passwordsWithLineBreaksAreRefused_data()
 {
     QTest::addColumn<std::string>("password");
     QTest::addColumn<std::string>("charset");
@@ -139,7 +139,7 @@ void PdftkRules::passwordsWithLineBreaksAreRefused_data()
     QTest::newRow("a paragraph separator") << std::string("\xE2\x80\xA9") << utf8;
 }
 
-void PdftkRules::passwordsWithLineBreaksAreRefused()
+void PdftkRulesTest::passwordsWithLineBreaksAreRefused()
 {
     QFETCH(std::string, password);
     QFETCH(std::string, charset);
@@ -147,7 +147,7 @@ void PdftkRules::passwordsWithLineBreaksAreRefused()
     QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, charset));
 }
 
-void PdftkRules::loggedArgumentsAreMasked_data()
+void PdftkRulesTest::loggedArgumentsAreMasked_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::addColumn<Words>("masked");
@@ -166,14 +166,14 @@ void PdftkRules::loggedArgumentsAreMasked_data()
         << Words{"owner_pw", "output", "o.pdf", "USER_PW", "********"};
 }
 
-void PdftkRules::loggedArgumentsAreMasked()
+void PdftkRulesTest::loggedArgumentsAreMasked()
 {
     QFETCH(Words, arguments);
     QFETCH(Words, masked);
     QCOMPARE(maskedPdftkArguments(arguments), masked);
 }
 
-void PdftkRules::infoFileBecomesLossless_data()
+void PdftkRulesTest::infoFileBecomesLossless_data()
 {
     QTest::addColumn<std::string>("content");
     QTest::addColumn<std::string>("charset");
@@ -207,7 +207,7 @@ void PdftkRules::infoFileBecomesLossless_data()
         << std::string("PageMediaBegin\n") << std::string("UTF-8") << std::string();
 }
 
-void PdftkRules::infoFileBecomesLossless()
+void PdftkRulesTest::infoFileBecomesLossless()
 {
     QFETCH(std::string, content);
     QFETCH(std::string, charset);
@@ -215,5 +215,5 @@ void PdftkRules::infoFileBecomesLossless()
     QCOMPARE(losslessInfo(content, charset), lossless);
 }
 
-QTEST_APPLESS_MAIN(PdftkRules)
+QTEST_APPLESS_MAIN(PdftkRulesTest)
 #include "pdftkrules_test.moc"

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-class PdftkSecurity : public QObject
+class PdftkSecurityTest : public QObject
 {
     Q_OBJECT
 
@@ -70,19 +70,19 @@ QByteArray everythingInProc(const QString &own)
 
 } // namespace
 
-void PdftkSecurity::initTestCase()
+void PdftkSecurityTest::initTestCase()
 {
     makeImage(m_folder.filePath(u"x.png"_s));
     QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
-RunResult PdftkSecurity::finish(const QStringList &tail, const Variables &variables) const
+RunResult PdftkSecurityTest::finish(const QStringList &tail, const Variables &variables) const
 {
     return runBundled(u"pdftk"_s, QStringList{u"in.pdf"_s, u"output"_s, u"out.pdf"_s} + tail,
                       m_folder.path(), variables);
 }
 
-void PdftkSecurity::eachPermissionAlone_data()
+void PdftkSecurityTest::eachPermissionAlone_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QStringList>("allowed");
@@ -102,7 +102,7 @@ void PdftkSecurity::eachPermissionAlone_data()
                                              u"modify annotations"_s};
 }
 
-void PdftkSecurity::eachPermissionAlone()
+void PdftkSecurityTest::eachPermissionAlone()
 {
     QFETCH(QStringList, words);
     QFETCH(QStringList, allowed);
@@ -117,7 +117,7 @@ void PdftkSecurity::eachPermissionAlone()
     QCOMPARE(facts.mayCopy, words.contains(u"copycontents"_s));
 }
 
-void PdftkSecurity::passwordsOpenTheResult_data()
+void PdftkSecurityTest::passwordsOpenTheResult_data()
 {
     QTest::addColumn<QString>("owner");
     QTest::addColumn<QString>("user");
@@ -138,7 +138,7 @@ void PdftkSecurity::passwordsOpenTheResult_data()
         << QString::fromUtf8("\xC3\xBC\xC3\x9F") << QString::fromUtf8("\xC3\xA9");
 }
 
-void PdftkSecurity::passwordsOpenTheResult()
+void PdftkSecurityTest::passwordsOpenTheResult()
 {
     QFETCH(QString, owner);
     QFETCH(QString, user);
@@ -160,7 +160,7 @@ void PdftkSecurity::passwordsOpenTheResult()
     }
 }
 
-void PdftkSecurity::refusedPasswordsFailAsTheToolFails_data()
+void PdftkSecurityTest::refusedPasswordsFailAsTheToolFails_data()
 {
     QTest::addColumn<QStringList>("tail");
     QTest::newRow("a blank splits it") << QStringList{u"owner_pw"_s, u"two"_s, u"words"_s};
@@ -173,7 +173,7 @@ void PdftkSecurity::refusedPasswordsFailAsTheToolFails_data()
         << QStringList{u"owner_pw"_s, u"a1"_s, u"owner_pw"_s, u"a2"_s};
 }
 
-void PdftkSecurity::refusedPasswordsFailAsTheToolFails()
+void PdftkSecurityTest::refusedPasswordsFailAsTheToolFails()
 {
     QFETCH(QStringList, tail);
     const RunResult plain = runProgram(u"/usr/bin/pdftk"_s,
@@ -188,7 +188,7 @@ void PdftkSecurity::refusedPasswordsFailAsTheToolFails()
         QVERIFY(!result.errors.contains(tail[i].toUtf8()));
 }
 
-void PdftkSecurity::passwordsWithLineBreaksAreRefused()
+void PdftkSecurityTest::passwordsWithLineBreaksAreRefused()
 {
     writeContent(m_folder.filePath(u"out.pdf"_s), "older");
     const RunResult result = finish({u"user_pw"_s, u"Geheim\nrest"_s});
@@ -198,7 +198,7 @@ void PdftkSecurity::passwordsWithLineBreaksAreRefused()
 }
 
 // A real tool that would show what it is given.
-void PdftkSecurity::otherCallsWithPasswordsAreRefused()
+void PdftkSecurityTest::otherCallsWithPasswordsAreRefused()
 {
     const QStringList tool = shellTool(u"echo \"$@\""_s);
     const ToolBundle bundle(tool, tool);
@@ -213,14 +213,14 @@ void PdftkSecurity::otherCallsWithPasswordsAreRefused()
     QCOMPARE(without.output, QByteArray("in.pdf cat 1 output x.pdf\n"));
 }
 
-void PdftkSecurity::anyResultNameTakesPasswords_data()
+void PdftkSecurityTest::anyResultNameTakesPasswords_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"x.PDF", ".pdf", "-1.pdf", "x", "PROMPT", "x%d.pdf"})
         QTest::newRow(name) << name;
 }
 
-void PdftkSecurity::anyResultNameTakesPasswords()
+void PdftkSecurityTest::anyResultNameTakesPasswords()
 {
     QFETCH(QString, name);
     const RunResult result = runBundled(
@@ -233,14 +233,14 @@ void PdftkSecurity::anyResultNameTakesPasswords()
     QVERIFY2(again.errors.contains("PASSWORD REQUIRED"), again.errors.constData());
 }
 
-void PdftkSecurity::permissionsWithoutPasswordEncryptNothing()
+void PdftkSecurityTest::permissionsWithoutPasswordEncryptNothing()
 {
     QCOMPARE(finish({u"allow"_s, u"printing"_s, u"allow"_s, u"copycontents"_s}).status, 0);
     QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s)).encrypted);
 }
 
 // The process list as `ps` reads it, over and over while the JVM starts and works.
-void PdftkSecurity::passwordsAreNowhereDuringTheCall()
+void PdftkSecurityTest::passwordsAreNowhereDuringTheCall()
 {
     const std::unique_ptr<QProcess> call =
         startProgram(bundledTool(u"pdftk"_s),
@@ -264,7 +264,7 @@ void PdftkSecurity::passwordsAreNowhereDuringTheCall()
     QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s), "Geheim-User").needsPassword);
 }
 
-void PdftkSecurity::passwordsAreNowhereAfterTheCall()
+void PdftkSecurityTest::passwordsAreNowhereAfterTheCall()
 {
     const QTemporaryDir logs, temporary;
     const Variables variables = {{u"TESSARO_TOOL_LOG"_s, logs.filePath(u"log"_s)},
@@ -291,5 +291,5 @@ void PdftkSecurity::passwordsAreNowhereAfterTheCall()
     }
 }
 
-QTEST_GUILESS_MAIN(PdftkSecurity)
+QTEST_GUILESS_MAIN(PdftkSecurityTest)
 #include "pdftksecurity_test.moc"

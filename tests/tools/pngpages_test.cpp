@@ -7,7 +7,7 @@
 
 using namespace imagefiles;
 
-class PngPages : public QObject
+class PngPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ QByteArray profileChunk(const QByteArray &profile)
 
 } // namespace
 
-void PngPages::imageDataIsCopied()
+void PngPagesTest::imageDataIsCopied()
 {
     PngForm form;
     form.colourType = 3;
@@ -95,7 +95,7 @@ void PngPages::imageDataIsCopied()
     QVERIFY(page.decodeParms == parms);
 }
 
-void PngPages::isCopiedOrLeftToImageMagick_data()
+void PngPagesTest::isCopiedOrLeftToImageMagick_data()
 {
     addReadingRows();
     const auto row = [](const char *name, const QByteArray &file, bool isCopied) {
@@ -172,12 +172,12 @@ void PngPages::isCopiedOrLeftToImageMagick_data()
     row("profile without a name's end", withChunk(chunk("iCCP", "name")), false);
 }
 
-void PngPages::isCopiedOrLeftToImageMagick()
+void PngPagesTest::isCopiedOrLeftToImageMagick()
 {
     compareReading();
 }
 
-void PngPages::incompleteFileIsRefused_data()
+void PngPagesTest::incompleteFileIsRefused_data()
 {
     QTest::addColumn<QByteArray>("file");
     const QByteArray whole = png({});
@@ -199,12 +199,12 @@ void PngPages::incompleteFileIsRefused_data()
     QTest::newRow("last byte of one that is not copied") << png({6}).chopped(1);
 }
 
-void PngPages::incompleteFileIsRefused()
+void PngPagesTest::incompleteFileIsRefused()
 {
     compareRefusal();
 }
 
-void PngPages::profileTravels()
+void PngPagesTest::profileTravels()
 {
     for (const bool inColour : {false, true}) {
         const QByteArray whole = profile(inColour);
@@ -214,5 +214,5 @@ void PngPages::profileTravels()
     }
 }
 
-QTEST_GUILESS_MAIN(PngPages)
+QTEST_GUILESS_MAIN(PngPagesTest)
 #include "pngpages_test.moc"

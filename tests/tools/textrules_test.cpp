@@ -7,7 +7,7 @@
 
 Q_DECLARE_METATYPE(std::string)
 
-class TextRules : public QObject
+class TextRulesTest : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void textIsDecoded();
 };
 
-void TextRules::wordsAreReplacedWhole_data()
+void TextRulesTest::wordsAreReplacedWhole_data()
 {
     QTest::addColumn<std::string>("text");
     QTest::addColumn<std::string>("result");
@@ -33,7 +33,7 @@ void TextRules::wordsAreReplacedWhole_data()
     row("at both ends", "input-10.input-10", "tenth.tenth");
 }
 
-void TextRules::wordsAreReplacedWhole()
+void TextRulesTest::wordsAreReplacedWhole()
 {
     QFETCH(std::string, text);
     QFETCH(std::string, result);
@@ -42,7 +42,7 @@ void TextRules::wordsAreReplacedWhole()
     QCOMPARE(replaced(text, words), result);
 }
 
-void TextRules::textIsDecoded_data()
+void TextRulesTest::textIsDecoded_data()
 {
     QTest::addColumn<std::string>("bytes");
     QTest::addColumn<std::string>("charset");
@@ -67,7 +67,7 @@ void TextRules::textIsDecoded_data()
     QTest::newRow("nothing") << std::string() << utf8 << std::string();
 }
 
-void TextRules::textIsDecoded()
+void TextRulesTest::textIsDecoded()
 {
     QFETCH(std::string, bytes);
     QFETCH(std::string, charset);
@@ -75,5 +75,5 @@ void TextRules::textIsDecoded()
     QCOMPARE(encoded(decoded(bytes, charset)), text);
 }
 
-QTEST_APPLESS_MAIN(TextRules)
+QTEST_APPLESS_MAIN(TextRulesTest)
 #include "textrules_test.moc"

@@ -7,7 +7,7 @@
 
 using namespace imagefiles;
 
-class TiffPages : public QObject
+class TiffPagesTest : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ QByteArray withNext(const QByteArray &file, const QByteArray &offset)
 
 } // namespace
 
-void TiffPages::onlyStripIsCopied()
+void TiffPagesTest::onlyStripIsCopied()
 {
     const QByteArray file = tiff(form());
 
@@ -86,7 +86,7 @@ void TiffPages::onlyStripIsCopied()
     QVERIFY(readImage(with(&TiffForm::zeroIsBlack, true)).pages.front().inverted);
 }
 
-void TiffPages::severalStripsBecomeOne()
+void TiffPagesTest::severalStripsBecomeOne()
 {
     const QByteArrayList whole = readImage(tiff(form())).streams;
 
@@ -95,7 +95,7 @@ void TiffPages::severalStripsBecomeOne()
     QCOMPARE(readImage(with(&TiffForm::fillOrder, 2)).streams, whole);
 }
 
-void TiffPages::isCopiedOrLeftToImageMagick_data()
+void TiffPagesTest::isCopiedOrLeftToImageMagick_data()
 {
     addReadingRows();
     const auto row = [](const char *name, const QByteArray &file, bool isCopied) {
@@ -130,12 +130,12 @@ void TiffPages::isCopiedOrLeftToImageMagick_data()
     row("a second page that is not copied", withFieldByte(tiff(mixed), 259, 8, 5), false);
 }
 
-void TiffPages::isCopiedOrLeftToImageMagick()
+void TiffPagesTest::isCopiedOrLeftToImageMagick()
 {
     compareReading();
 }
 
-void TiffPages::incompleteFileIsRefused_data()
+void TiffPagesTest::incompleteFileIsRefused_data()
 {
     QTest::addColumn<QByteArray>("file");
     const QByteArray plain = tiff(form());
@@ -157,12 +157,12 @@ void TiffPages::incompleteFileIsRefused_data()
     QTest::newRow("end of a BigTIFF") << tiff(big).chopped(20);
 }
 
-void TiffPages::incompleteFileIsRefused()
+void TiffPagesTest::incompleteFileIsRefused()
 {
     compareRefusal();
 }
 
-void TiffPages::whatIsAskedForDecides_data()
+void TiffPagesTest::whatIsAskedForDecides_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<int>("own");
@@ -171,7 +171,7 @@ void TiffPages::whatIsAskedForDecides_data()
     QTest::newRow("TIFF") << tiff(form()) << int(Compression::Group4);
 }
 
-void TiffPages::whatIsAskedForDecides()
+void TiffPagesTest::whatIsAskedForDecides()
 {
     QFETCH(const QByteArray, file);
     QFETCH(const int, own);
@@ -184,5 +184,5 @@ void TiffPages::whatIsAskedForDecides()
     QVERIFY(readImage("").pages.empty());
 }
 
-QTEST_GUILESS_MAIN(TiffPages)
+QTEST_GUILESS_MAIN(TiffPagesTest)
 #include "tiffpages_test.moc"

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Longer than anything here takes on a busy machine.
-constexpr int patience = 300'000;
+constexpr int timeout = 300'000;
 
 } // namespace
 
@@ -42,7 +42,7 @@ RunResult runProgram(const QString &program, const QStringList &arguments, const
                      const Variables &variables)
 {
     const std::unique_ptr<QProcess> process = startProgram(program, arguments, folder, variables);
-    if (!process->waitForStarted(patience) || !process->waitForFinished(patience))
+    if (!process->waitForStarted(timeout) || !process->waitForFinished(timeout))
         return {-1, {}, process->errorString().toUtf8()};
     const bool exited = process->exitStatus() == QProcess::NormalExit;
     return {exited ? process->exitCode() : -1, process->readAllStandardOutput(),

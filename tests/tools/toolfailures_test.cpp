@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ToolFailures : public QObject
+class ToolFailuresTest : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ QStringList callOf(const QString &program)
 
 } // namespace
 
-void ToolFailures::failureIsPassedOn_data()
+void ToolFailuresTest::failureIsPassedOn_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<int>("status");
@@ -68,7 +68,7 @@ void ToolFailures::failureIsPassedOn_data()
         << "kill -SEGV $$" << 1 << QByteArray("ended by signal 11\n");
 }
 
-void ToolFailures::failureIsPassedOn()
+void ToolFailuresTest::failureIsPassedOn()
 {
     QFETCH(QString, script);
     QFETCH(int, status);
@@ -90,33 +90,34 @@ void ToolFailures::failureIsPassedOn()
 }
 
 // Later writes would succeed.
-void ToolFailures::diskFullForAMomentLeavesTheOlderPdf()
+void ToolFailuresTest::diskFullForAMomentLeavesTheOlderPdf()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.jpg"_s), {3000, 2000});
     writeContent(folder.filePath(u"o.pdf"_s), "older");
-    const RunResult result = runBundled(
-        u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
-        {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_MEDDLE)}, {u"TESSARO_MEDDLE"_s, u"full"_s}});
+    const RunResult result = runBundled(u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
+                                        {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_FAULTINJECTION)},
+                                         {u"TESSARO_FAULTINJECTION"_s, u"full"_s}});
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
     QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
     QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
 }
 
-void ToolFailures::imageThatChangesMeanwhileIsRefused()
+void ToolFailuresTest::imageThatChangesMeanwhileIsRefused()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.jpg"_s), {6000, 4000});
-    const RunResult result = runBundled(u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
-                                        {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_MEDDLE)},
-                                         {u"TESSARO_MEDDLE"_s, folder.filePath(u"x.jpg"_s)}});
+    const RunResult result =
+        runBundled(u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
+                   {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_FAULTINJECTION)},
+                    {u"TESSARO_FAULTINJECTION"_s, folder.filePath(u"x.jpg"_s)}});
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("'x.jpg' was changed meanwhile"), result.errors.constData());
     QCOMPARE(namesIn(folder.path()), QStringList{u"x.jpg"_s});
 }
 
-void ToolFailures::successIsQuiet()
+void ToolFailuresTest::successIsQuiet()
 {
     const ToolBundle bundle = bundleOf(u"echo warning; echo warning >&2; cp ../in.pdf RESULT"_s);
     for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
@@ -131,7 +132,7 @@ void ToolFailures::successIsQuiet()
     }
 }
 
-void ToolFailures::noiseIsBounded()
+void ToolFailuresTest::noiseIsBounded()
 {
     const QStringList tool =
         shellTool(u"head -c 50000000 /dev/zero; head -c 50000000 /dev/zero >&2; exit 4"_s);
@@ -145,7 +146,7 @@ void ToolFailures::noiseIsBounded()
     QCOMPARE(result.errors.size(), 256 * 1024);
 }
 
-void ToolFailures::realToolSeesPlainNames()
+void ToolFailuresTest::realToolSeesPlainNames()
 {
     const QStringList tool = shellTool(u"echo \"$@\" >&2; cat input-1.png >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
@@ -159,7 +160,7 @@ void ToolFailures::realToolSeesPlainNames()
                                        "+set label pdf:page-1\ncontent\n"));
 }
 
-void ToolFailures::realToolSeesACleanEnvironment()
+void ToolFailuresTest::realToolSeesACleanEnvironment()
 {
     const QStringList tool = shellTool(u"env | sort >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
@@ -182,7 +183,7 @@ void ToolFailures::realToolSeesACleanEnvironment()
     }
 }
 
-void ToolFailures::missingConfigurationIsNamed()
+void ToolFailuresTest::missingConfigurationIsNamed()
 {
     const ToolBundle bundle({}, {});
     const QTemporaryDir folder;
@@ -197,7 +198,7 @@ void ToolFailures::missingConfigurationIsNamed()
     }
 }
 
-void ToolFailures::missingRealToolIsNamed()
+void ToolFailuresTest::missingRealToolIsNamed()
 {
     const ToolBundle bundle({u"/no/such/tool"_s}, {u"/no/such/tool"_s});
     const QTemporaryDir folder;
@@ -210,7 +211,7 @@ void ToolFailures::missingRealToolIsNamed()
 }
 
 // /proc takes no new folder from anybody, root included.
-void ToolFailures::onlyReadableFolderIsNamed()
+void ToolFailuresTest::onlyReadableFolderIsNamed()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.png"_s));
@@ -221,5 +222,5 @@ void ToolFailures::onlyReadableFolderIsNamed()
              result.errors.constData());
 }
 
-QTEST_GUILESS_MAIN(ToolFailures)
+QTEST_GUILESS_MAIN(ToolFailuresTest)
 #include "toolfailures_test.moc"

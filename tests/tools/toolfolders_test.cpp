@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ToolFolders : public QObject
+class ToolFoldersTest : public QObject
 {
     Q_OBJECT
 
@@ -59,13 +59,13 @@ void leaveOver(const QString &folder)
 
 } // namespace
 
-void ToolFolders::initTestCase()
+void ToolFoldersTest::initTestCase()
 {
     makeImage(m_folder.filePath(u"x.png"_s));
     QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
-void ToolFolders::privateFolderIsForTheUserAlone()
+void ToolFoldersTest::privateFolderIsForTheUserAlone()
 {
     const QStringList tool = shellTool(u"stat -c '%a' . >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
@@ -76,7 +76,7 @@ void ToolFolders::privateFolderIsForTheUserAlone()
     }
 }
 
-void ToolFolders::namesCannotBeForeseen()
+void ToolFoldersTest::namesCannotBeForeseen()
 {
     const QStringList tool = shellTool(u"basename \"$PWD\" >&2; exit 1"_s);
     const ToolBundle bundle(tool, tool);
@@ -95,7 +95,7 @@ void ToolFolders::namesCannotBeForeseen()
 }
 
 // However few descriptors there are: a PDF or one sentence, and no folder.
-void ToolFolders::nothingIsLeftWithoutDescriptors()
+void ToolFoldersTest::nothingIsLeftWithoutDescriptors()
 {
     const QStringList tool = shellTool(wholePdf + u" >result.pdf"_s);
     const ToolBundle bundle(tool, tool);
@@ -121,7 +121,7 @@ void ToolFolders::nothingIsLeftWithoutDescriptors()
     QVERIFY(failed < 42);
 }
 
-void ToolFolders::leftoversAreClearedAway()
+void ToolFoldersTest::leftoversAreClearedAway()
 {
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -135,7 +135,7 @@ void ToolFolders::leftoversAreClearedAway()
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
 }
 
-void ToolFolders::leftoversAreFoundAmongManyFiles()
+void ToolFoldersTest::leftoversAreFoundAmongManyFiles()
 {
     const QStringList tool = shellTool(wholePdf + u" >result.pdf"_s);
     const ToolBundle bundle(tool, tool);
@@ -153,7 +153,7 @@ void ToolFolders::leftoversAreFoundAmongManyFiles()
 
 // One that is in use, one that only looks like ours, one that a link of our name leads to, and, as
 // far as this user can make one, another user's.
-void ToolFolders::foreignFoldersAreLeftAlone()
+void ToolFoldersTest::foreignFoldersAreLeftAlone()
 {
     const QTemporaryDir folder, elsewhere;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -182,7 +182,7 @@ void ToolFolders::foreignFoldersAreLeftAlone()
     QCOMPARE(QFile::exists(folder.filePath(u".tessaro-other0/o.pdf"_s)), isRoot);
 }
 
-void ToolFolders::inputsHavePlainNamesEverywhere_data()
+void ToolFoldersTest::inputsHavePlainNamesEverywhere_data()
 {
     QTest::addColumn<QString>("refused");
     QTest::newRow("the folder takes links") << "";
@@ -191,7 +191,7 @@ void ToolFolders::inputsHavePlainNamesEverywhere_data()
 }
 
 // The word that the real tool is given, and the content that it finds there.
-void ToolFolders::inputsHavePlainNamesEverywhere()
+void ToolFoldersTest::inputsHavePlainNamesEverywhere()
 {
     QFETCH(QString, refused);
     const QStringList tool =
@@ -212,7 +212,7 @@ void ToolFolders::inputsHavePlainNamesEverywhere()
              QStringList({u"content"_s, u"o.pdf"_s, u"word"_s, u"x[1]*?{a}.pdf"_s}));
 }
 
-void ToolFolders::inputsArePlainOnImages_data()
+void ToolFoldersTest::inputsArePlainOnImages_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::newRow("vfat") << "vfat";
@@ -221,7 +221,7 @@ void ToolFolders::inputsArePlainOnImages_data()
 
 // The real tools, inputs of every awkward name, and one whose content would be taken as arguments
 // if its name were a pattern. Root alone can mount.
-void ToolFolders::inputsArePlainOnImages()
+void ToolFoldersTest::inputsArePlainOnImages()
 {
     QFETCH(QString, kind);
     if (geteuid() != 0)
@@ -256,7 +256,7 @@ void ToolFolders::inputsArePlainOnImages()
     QCOMPARE(namesIn(places.path()), QStringList());
 }
 
-void ToolFolders::fullPlacesAreNamedAndLeftClean_data()
+void ToolFoldersTest::fullPlacesAreNamedAndLeftClean_data()
 {
     QTest::addColumn<QStringList>("image");
     QTest::newRow("no room") << QStringList{u"tmpfs"_s, u"1"_s};
@@ -265,7 +265,7 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean_data()
     QTest::newRow("two inodes too few") << QStringList{u"tmpfs"_s, u"1,nr_inodes=5"_s};
 }
 
-void ToolFolders::fullPlacesAreNamedAndLeftClean()
+void ToolFoldersTest::fullPlacesAreNamedAndLeftClean()
 {
     QFETCH(QStringList, image);
     if (geteuid() != 0)
@@ -286,7 +286,7 @@ void ToolFolders::fullPlacesAreNamedAndLeftClean()
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
 }
 
-void ToolFolders::messagesNameTheRightInput_data()
+void ToolFoldersTest::messagesNameTheRightInput_data()
 {
     QTest::addColumn<QString>("failing");
     QTest::addColumn<QByteArray>("message");
@@ -296,7 +296,7 @@ void ToolFolders::messagesNameTheRightInput_data()
         << "input-2" << QByteArray("cannot read input-3\n");
 }
 
-void ToolFolders::messagesNameTheRightInput()
+void ToolFoldersTest::messagesNameTheRightInput()
 {
     QFETCH(QString, failing);
     QFETCH(QByteArray, message);
@@ -317,5 +317,5 @@ void ToolFolders::messagesNameTheRightInput()
     QCOMPARE(result.errors, message);
 }
 
-QTEST_GUILESS_MAIN(ToolFolders)
+QTEST_GUILESS_MAIN(ToolFoldersTest)
 #include "toolfolders_test.moc"

@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ToolProcesses : public QObject
+class ToolProcessesTest : public QObject
 {
     Q_OBJECT
 
@@ -100,8 +100,8 @@ QString ownWord(const QString &word)
 } // namespace
 
 // Work for much longer than any test waits.
-std::unique_ptr<QProcess> ToolProcesses::startConverting(const QString &folder,
-                                                         const QString &pixels) const
+std::unique_ptr<QProcess> ToolProcessesTest::startConverting(const QString &folder,
+                                                             const QString &pixels) const
 {
     const QStringList pages(100, m_folder.filePath(u"page.jpg"_s));
     return startProgram(bundledTool(u"convert"_s),
@@ -109,14 +109,14 @@ std::unique_ptr<QProcess> ToolProcesses::startConverting(const QString &folder,
                         folder, {{u"TMPDIR"_s, pixels}});
 }
 
-void ToolProcesses::initTestCase()
+void ToolProcessesTest::initTestCase()
 {
     makeImage(m_folder.filePath(u"page.jpg"_s), {2480, 3508});
     makeImage(m_folder.filePath(u"x.png"_s));
     QCOMPARE(runBundled(u"convert"_s, {u"x.png"_s, u"in.pdf"_s}, m_folder.path()).status, 0);
 }
 
-void ToolProcesses::signalsArePassedOnAndCleanedUpAfter_data()
+void ToolProcessesTest::signalsArePassedOnAndCleanedUpAfter_data()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("SIGTERM") << SIGTERM;
@@ -125,7 +125,7 @@ void ToolProcesses::signalsArePassedOnAndCleanedUpAfter_data()
     QTest::newRow("SIGQUIT") << SIGQUIT;
 }
 
-void ToolProcesses::signalsArePassedOnAndCleanedUpAfter()
+void ToolProcessesTest::signalsArePassedOnAndCleanedUpAfter()
 {
     QFETCH(int, signal);
     const QTemporaryDir folder;
@@ -147,7 +147,7 @@ void ToolProcesses::signalsArePassedOnAndCleanedUpAfter()
 }
 
 // Sent again and again, so that a signal that put the end off would do so for ever.
-void ToolProcesses::signalsReachAToolThatIgnoresThem()
+void ToolProcessesTest::signalsReachAToolThatIgnoresThem()
 {
     const QTemporaryDir folder;
     writeContent(folder.filePath(u"in.pdf"_s), "in");
@@ -163,7 +163,7 @@ void ToolProcesses::signalsReachAToolThatIgnoresThem()
 }
 
 // By the real tool, which sends them to itself, and by ours, which must not even wait for them.
-void ToolProcesses::ignoredSignalsStayIgnored()
+void ToolProcessesTest::ignoredSignalsStayIgnored()
 {
     const QTemporaryDir folder;
     writeContent(folder.filePath(u"in.pdf"_s), "in");
@@ -179,7 +179,7 @@ void ToolProcesses::ignoredSignalsStayIgnored()
     QVERIFY(waitedFor >> (SIGTERM - 1) & 1);
 }
 
-void ToolProcesses::closedStreamsChangeNothing_data()
+void ToolProcessesTest::closedStreamsChangeNothing_data()
 {
     QTest::addColumn<QString>("closing");
     QTest::newRow("standard input") << "exec <&-";
@@ -188,7 +188,7 @@ void ToolProcesses::closedStreamsChangeNothing_data()
     QTest::newRow("all three") << "exec <&- >&- 2>&-";
 }
 
-void ToolProcesses::closedStreamsChangeNothing()
+void ToolProcessesTest::closedStreamsChangeNothing()
 {
     QFETCH(QString, closing);
     const QTemporaryDir folder;
@@ -206,7 +206,7 @@ void ToolProcesses::closedStreamsChangeNothing()
     QCOMPARE(namesIn(folder.path()), QStringList({u"o-1.pdf"_s, u"o.pdf"_s, u"x.png"_s}));
 }
 
-void ToolProcesses::noCoreIsDumped_data()
+void ToolProcessesTest::noCoreIsDumped_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("call");
@@ -217,7 +217,7 @@ void ToolProcesses::noCoreIsDumped_data()
 }
 
 // What the kernel tells of the end, wherever this machine would put a core.
-void ToolProcesses::noCoreIsDumped()
+void ToolProcessesTest::noCoreIsDumped()
 {
     QFETCH(QString, program);
     QFETCH(QStringList, call);
@@ -249,7 +249,7 @@ void ToolProcesses::noCoreIsDumped()
     QCOMPARE(QDir(folder.path()).entryList({u"*core*"_s}), QStringList());
 }
 
-void ToolProcesses::theRealToolDumpsNoCore()
+void ToolProcessesTest::theRealToolDumpsNoCore()
 {
     const ToolBundle bundle({}, shellTool(u"grep 'core file' /proc/self/limits >&2; exit 1"_s));
     const RunResult result = runInShell(u"ulimit -c unlimited 2>/dev/null"_s,
@@ -258,7 +258,7 @@ void ToolProcesses::theRealToolDumpsNoCore()
     QCOMPARE(result.errors.simplified(), QByteArray("Max core file size 1 1 bytes"));
 }
 
-void ToolProcesses::lackOfMemoryIsASentence()
+void ToolProcessesTest::lackOfMemoryIsASentence()
 {
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -273,7 +273,7 @@ void ToolProcesses::lackOfMemoryIsASentence()
 }
 
 // The kernel's answer to a file beyond the caller's limit is a signal that ends a program.
-void ToolProcesses::limitOnFileSizesIsAFailure()
+void ToolProcessesTest::limitOnFileSizesIsAFailure()
 {
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.jpg"_s));
@@ -289,7 +289,7 @@ void ToolProcesses::limitOnFileSizesIsAFailure()
     }
 }
 
-void ToolProcesses::realConvertStopsOnASignal()
+void ToolProcessesTest::realConvertStopsOnASignal()
 {
     const QTemporaryDir folder, pixels;
     const auto call = startConverting(folder.path(), pixels.path());
@@ -303,7 +303,7 @@ void ToolProcesses::realConvertStopsOnASignal()
     QCOMPARE(namesIn(pixels.path()), QStringList());
 }
 
-void ToolProcesses::killedProgramTakesTheJvmAlong()
+void ToolProcessesTest::killedProgramTakesTheJvmAlong()
 {
     const QString word = ownWord(u"killed-jvm"_s);
     const auto call = startProgram(bundledTool(u"pdftk"_s),
@@ -319,7 +319,7 @@ void ToolProcesses::killedProgramTakesTheJvmAlong()
     QVERIFY(!QFile::exists(m_folder.filePath(u"jvm.pdf"_s)));
 }
 
-void ToolProcesses::killedProgramTakesConvertAlong()
+void ToolProcessesTest::killedProgramTakesConvertAlong()
 {
     const QTemporaryDir folder, pixels;
     const auto call = startConverting(folder.path(), pixels.path());
@@ -334,7 +334,7 @@ void ToolProcesses::killedProgramTakesConvertAlong()
 }
 
 // An image that is not whole is found while others are being converted.
-void ToolProcesses::failureEndsThoseAtWork()
+void ToolProcessesTest::failureEndsThoseAtWork()
 {
     const QString word = ownWord(u"2000"_s);
     const ToolBundle bundle(shellTool(u"case $1 in *input-1*) exec sleep "_s + word +
@@ -353,7 +353,7 @@ void ToolProcesses::failureEndsThoseAtWork()
     QCOMPARE(namesIn(folder.path()), QStringList({u"1"_s, u"2"_s}));
 }
 
-void ToolProcesses::killedProgramTakesAnyToolAlong()
+void ToolProcessesTest::killedProgramTakesAnyToolAlong()
 {
     const QString word = ownWord(u"1000"_s);
     const QStringList tool = shellTool(u"exec sleep "_s + word);
@@ -372,7 +372,7 @@ void ToolProcesses::killedProgramTakesAnyToolAlong()
     }
 }
 
-void ToolProcesses::tenPdftkCallsAtOnceInOneFolder()
+void ToolProcessesTest::tenPdftkCallsAtOnceInOneFolder()
 {
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
@@ -396,5 +396,5 @@ void ToolProcesses::tenPdftkCallsAtOnceInOneFolder()
         QVERIFY(!readPdf(folder.filePath(name), "b").needsPassword);
 }
 
-QTEST_GUILESS_MAIN(ToolProcesses)
+QTEST_GUILESS_MAIN(ToolProcessesTest)
 #include "toolprocesses_test.moc"

@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-class ToolTargets : public QObject
+class ToolTargetsTest : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ RunResult finish(const QString &folder, const QString &output, const QString &se
 
 } // namespace
 
-void ToolTargets::modeIsKept_data()
+void ToolTargetsTest::modeIsKept_data()
 {
     QTest::addColumn<unsigned>("mode");
     QTest::newRow("for the user alone") << 0600U;
@@ -63,7 +63,7 @@ void ToolTargets::modeIsKept_data()
     QTest::newRow("read-only") << 0444U;
 }
 
-void ToolTargets::modeIsKept()
+void ToolTargetsTest::modeIsKept()
 {
     QFETCH(unsigned, mode);
     const QTemporaryDir folder;
@@ -74,7 +74,7 @@ void ToolTargets::modeIsKept()
     QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), newPdf);
 }
 
-void ToolTargets::newFileFollowsTheUmask_data()
+void ToolTargetsTest::newFileFollowsTheUmask_data()
 {
     QTest::addColumn<QString>("mask");
     QTest::addColumn<unsigned>("mode");
@@ -84,7 +84,7 @@ void ToolTargets::newFileFollowsTheUmask_data()
     QTest::newRow("for nobody") << "umask 0777" << 0U;
 }
 
-void ToolTargets::newFileFollowsTheUmask()
+void ToolTargetsTest::newFileFollowsTheUmask()
 {
     QFETCH(QString, mask);
     QFETCH(unsigned, mode);
@@ -94,7 +94,7 @@ void ToolTargets::newFileFollowsTheUmask()
     QCOMPARE(modeOf(folder.filePath(u"o.pdf"_s)), mode);
 }
 
-void ToolTargets::groupIsKept()
+void ToolTargetsTest::groupIsKept()
 {
     const QTemporaryDir folder;
     writeContent(folder.filePath(u"o.pdf"_s), "older");
@@ -108,7 +108,7 @@ void ToolTargets::groupIsKept()
     QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), newPdf);
 }
 
-void ToolTargets::linkLeadsToTheTarget_data()
+void ToolTargetsTest::linkLeadsToTheTarget_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<bool>("present");
@@ -118,7 +118,7 @@ void ToolTargets::linkLeadsToTheTarget_data()
     QTest::newRow("that is not there yet") << "sub/o.pdf" << false;
 }
 
-void ToolTargets::linkLeadsToTheTarget()
+void ToolTargetsTest::linkLeadsToTheTarget()
 {
     QFETCH(QString, target);
     QFETCH(bool, present);
@@ -136,7 +136,7 @@ void ToolTargets::linkLeadsToTheTarget()
     QCOMPARE(contentOf(file), newPdf);
 }
 
-void ToolTargets::linksWithoutEndAreRefused()
+void ToolTargetsTest::linksWithoutEndAreRefused()
 {
     const QTemporaryDir folder;
     QFile::link(folder.filePath(u"b.pdf"_s), folder.filePath(u"a.pdf"_s));
@@ -147,7 +147,7 @@ void ToolTargets::linksWithoutEndAreRefused()
              result.errors.constData());
 }
 
-void ToolTargets::anotherUsersLinkInASharedFolderIsRefused()
+void ToolTargetsTest::anotherUsersLinkInASharedFolderIsRefused()
 {
     if (geteuid() != 0)
         QSKIP("only root can make another user's link");
@@ -164,7 +164,7 @@ void ToolTargets::anotherUsersLinkInASharedFolderIsRefused()
     QCOMPARE(contentOf(folder.filePath(u"precious"_s)), QByteArray("older"));
 }
 
-void ToolTargets::otherKindsOfFilesAreRefused_data()
+void ToolTargetsTest::otherKindsOfFilesAreRefused_data()
 {
     QTest::addColumn<QString>("making");
     QTest::newRow("a pipe") << "mkfifo o.pdf";
@@ -175,7 +175,7 @@ void ToolTargets::otherKindsOfFilesAreRefused_data()
     QTest::newRow("a link to a pipe") << "mkfifo pipe; ln -s pipe o.pdf";
 }
 
-void ToolTargets::otherKindsOfFilesAreRefused()
+void ToolTargetsTest::otherKindsOfFilesAreRefused()
 {
     QFETCH(QString, making);
     const QTemporaryDir folder;
@@ -185,7 +185,7 @@ void ToolTargets::otherKindsOfFilesAreRefused()
     QVERIFY(!QFileInfo(folder.filePath(u"o.pdf"_s)).isFile());
 }
 
-void ToolTargets::inputsOfOtherKindsAreRefused_data()
+void ToolTargetsTest::inputsOfOtherKindsAreRefused_data()
 {
     QTest::addColumn<QStringList>("call");
     QTest::newRow("a pipe as PDF") << QStringList{u"pipe"_s, u"output"_s, u"o.pdf"_s};
@@ -197,7 +197,7 @@ void ToolTargets::inputsOfOtherKindsAreRefused_data()
     QTest::newRow("a folder as PDF") << QStringList{u"."_s, u"output"_s, u"o.pdf"_s};
 }
 
-void ToolTargets::inputsOfOtherKindsAreRefused()
+void ToolTargetsTest::inputsOfOtherKindsAreRefused()
 {
     QFETCH(QStringList, call);
     const QTemporaryDir folder;
@@ -210,5 +210,5 @@ void ToolTargets::inputsOfOtherKindsAreRefused()
     QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"pipe"_s}));
 }
 
-QTEST_GUILESS_MAIN(ToolTargets)
+QTEST_GUILESS_MAIN(ToolTargetsTest)
 #include "tooltargets_test.moc"

@@ -138,7 +138,7 @@ void TranslationFilesTest::addFiles()
 void TranslationFilesTest::initTestCase()
 {
     QStringList arguments{u"-silent"_s, u"-locations"_s, u"none"_s, u"app"_s,
-                          u"rules"_s,   u"widgets"_s,    u"-ts"_s};
+                          u"core"_s,    u"widgets"_s,    u"-ts"_s};
     const QStringList names = fileNames();
     QVERIFY(names.size() > 1);
     for (const QString &name : names) {

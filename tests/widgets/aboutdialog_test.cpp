@@ -67,7 +67,7 @@ private:
     const QStringList handled;
 };
 
-class TestAboutDialog : public QObject
+class TestAboutDialogTest : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private slots:
     void keepsANameItHas();
 };
 
-void TestAboutDialog::isAFixedWindow()
+void TestAboutDialogTest::isAFixedWindow()
 {
     const AboutDialog dialog;
 
@@ -101,7 +101,7 @@ void TestAboutDialog::isAFixedWindow()
     QVERIFY(!icon.pixmap(16).isNull());
 }
 
-void TestAboutDialog::placesItsText()
+void TestAboutDialogTest::placesItsText()
 {
     const AboutDialog dialog;
 
@@ -110,7 +110,7 @@ void TestAboutDialog::placesItsText()
     QVERIFY(textOf(dialog)->isReadOnly());
 }
 
-void TestAboutDialog::saysVersionAndAddresses()
+void TestAboutDialogTest::saysVersionAndAddresses()
 {
     const AboutDialog dialog;
 
@@ -119,7 +119,7 @@ void TestAboutDialog::saysVersionAndAddresses()
                  {u"Tessaro Image to PDF Converter v2.0"_s, u""_s, webAddress, u""_s, mailTarget}));
 }
 
-void TestAboutDialog::setsItsParagraphsInTheNamedFonts_data()
+void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts_data()
 {
     QTest::addColumn<int>("line");
     QTest::newRow("the version") << 0;
@@ -127,7 +127,7 @@ void TestAboutDialog::setsItsParagraphsInTheNamedFonts_data()
     QTest::newRow("the support address") << 4;
 }
 
-void TestAboutDialog::setsItsParagraphsInTheNamedFonts()
+void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts()
 {
     QFETCH(const int, line);
     const AboutDialog dialog;
@@ -142,7 +142,7 @@ void TestAboutDialog::setsItsParagraphsInTheNamedFonts()
         QMarginsF());
 }
 
-void TestAboutDialog::underlinesItsLinksInBlue_data()
+void TestAboutDialogTest::underlinesItsLinksInBlue_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("target");
@@ -150,7 +150,7 @@ void TestAboutDialog::underlinesItsLinksInBlue_data()
     QTest::newRow("the support address") << 4 << mailTarget;
 }
 
-void TestAboutDialog::underlinesItsLinksInBlue()
+void TestAboutDialogTest::underlinesItsLinksInBlue()
 {
     QFETCH(const int, line);
     QFETCH(const QString, target);
@@ -162,7 +162,7 @@ void TestAboutDialog::underlinesItsLinksInBlue()
     QVERIFY(format.fontUnderline());
 }
 
-void TestAboutDialog::showsAllItsLinesAtOnce()
+void TestAboutDialogTest::showsAllItsLinesAtOnce()
 {
     AboutDialog dialog;
     dialog.show();
@@ -173,7 +173,7 @@ void TestAboutDialog::showsAllItsLinesAtOnce()
         QVERIFY(textOf(dialog)->document()->findBlockByNumber(line).layout()->lineCount() <= 1);
 }
 
-void TestAboutDialog::isDarkOnLightOnADarkDesktop()
+void TestAboutDialogTest::isDarkOnLightOnADarkDesktop()
 {
     const QPalette before = QGuiApplication::palette();
     QGuiApplication::setPalette(QPalette(QColor(40, 40, 40)));
@@ -187,12 +187,12 @@ void TestAboutDialog::isDarkOnLightOnADarkDesktop()
     QGuiApplication::setPalette(before);
 }
 
-void TestAboutDialog::opensALinkOutsideAndStaysOpen_data()
+void TestAboutDialogTest::opensALinkOutsideAndStaysOpen_data()
 {
     underlinesItsLinksInBlue_data();
 }
 
-void TestAboutDialog::opensALinkOutsideAndStaysOpen()
+void TestAboutDialogTest::opensALinkOutsideAndStaysOpen()
 {
     QFETCH(const int, line);
     QFETCH(const QString, target);
@@ -210,7 +210,7 @@ void TestAboutDialog::opensALinkOutsideAndStaysOpen()
     QCOMPARE(textOf(dialog)->toPlainText(), before);
 }
 
-void TestAboutDialog::keepsItsScrollPositionBetweenOpenings()
+void TestAboutDialogTest::keepsItsScrollPositionBetweenOpenings()
 {
     AboutDialog dialog;
     textOf(dialog)->append(u"more\n"_s.repeated(30));
@@ -226,7 +226,7 @@ void TestAboutDialog::keepsItsScrollPositionBetweenOpenings()
     QCOMPARE(bar.value(), 50);
 }
 
-void TestAboutDialog::keepsANameItHas()
+void TestAboutDialogTest::keepsANameItHas()
 {
     QDialog dialog;
     dialog.setObjectName("mine");
@@ -236,5 +236,5 @@ void TestAboutDialog::keepsANameItHas()
     QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
-QTEST_MAIN(TestAboutDialog)
+QTEST_MAIN(TestAboutDialogTest)
 #include "aboutdialog_test.moc"

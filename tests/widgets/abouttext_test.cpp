@@ -19,7 +19,7 @@ QString linkInLine(const QTextDocument &document, int line)
 
 } // namespace
 
-class TestAboutText : public QObject
+class TestAboutTextTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void linksAnAddressWithoutASchemeToTheWeb();
 };
 
-void TestAboutText::keepsWhiteSpaceAsTyped()
+void TestAboutTextTest::keepsWhiteSpaceAsTyped()
 {
     QTextDocument document;
 
@@ -38,7 +38,7 @@ void TestAboutText::keepsWhiteSpaceAsTyped()
     QCOMPARE(document.findBlockByNumber(2).text(), u"a  b"_s);
 }
 
-void TestAboutText::escapesItsAddresses()
+void TestAboutTextTest::escapesItsAddresses()
 {
     const QString web = QString::fromUtf8(deployment::webAddress);
     const QString support = QString::fromUtf8(deployment::supportAddress);
@@ -55,7 +55,7 @@ void TestAboutText::escapesItsAddresses()
     QCOMPARE(linkInLine(document, 4), u"mailto:"_s + support);
 }
 
-void TestAboutText::linksAnAddressWithoutASchemeToTheWeb()
+void TestAboutTextTest::linksAnAddressWithoutASchemeToTheWeb()
 {
     QTextDocument document;
 
@@ -65,5 +65,5 @@ void TestAboutText::linksAnAddressWithoutASchemeToTheWeb()
     QCOMPARE(linkInLine(document, 2), u"http://www.example.org"_s);
 }
 
-QTEST_MAIN(TestAboutText)
+QTEST_MAIN(TestAboutTextTest)
 #include "abouttext_test.moc"

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestHexSpinBox : public QObject
+class TestHexSpinBoxTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void doesNotReadAUnitsName();
 };
 
-void TestHexSpinBox::stepsThroughTheUnits_data()
+void TestHexSpinBoxTest::stepsThroughTheUnits_data()
 {
     QTest::addColumn<int>("steps");
     QTest::addColumn<int>("value");
@@ -40,7 +40,7 @@ void TestHexSpinBox::stepsThroughTheUnits_data()
     QTest::newRow("three steps down are points again") << -3 << 0 << "pt";
 }
 
-void TestHexSpinBox::stepsThroughTheUnits()
+void TestHexSpinBoxTest::stepsThroughTheUnits()
 {
     QFETCH(const int, steps);
     QFETCH(const int, value);
@@ -54,7 +54,7 @@ void TestHexSpinBox::stepsThroughTheUnits()
     QCOMPARE(box.text(), text);
 }
 
-void TestHexSpinBox::keepsAValueSetFromOutsideInItsRange_data()
+void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange_data()
 {
     QTest::addColumn<int>("given");
     QTest::addColumn<int>("value");
@@ -67,7 +67,7 @@ void TestHexSpinBox::keepsAValueSetFromOutsideInItsRange_data()
     QTest::newRow("inside the range stays") << 1 << 1 << "cm";
 }
 
-void TestHexSpinBox::keepsAValueSetFromOutsideInItsRange()
+void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange()
 {
     QFETCH(const int, given);
     QFETCH(const int, value);
@@ -80,7 +80,7 @@ void TestHexSpinBox::keepsAValueSetFromOutsideInItsRange()
     QCOMPARE(box.text(), text);
 }
 
-void TestHexSpinBox::namesEachUnitAndNothingElse_data()
+void TestHexSpinBoxTest::namesEachUnitAndNothingElse_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("text");
@@ -93,7 +93,7 @@ void TestHexSpinBox::namesEachUnitAndNothingElse_data()
     QTest::newRow("the largest number has no name") << std::numeric_limits<int>::max() << "";
 }
 
-void TestHexSpinBox::namesEachUnitAndNothingElse()
+void TestHexSpinBoxTest::namesEachUnitAndNothingElse()
 {
     QFETCH(const int, value);
     QFETCH(const QString, text);
@@ -101,7 +101,7 @@ void TestHexSpinBox::namesEachUnitAndNothingElse()
     QCOMPARE(HexSpinBox().textFromValue(value), text);
 }
 
-void TestHexSpinBox::showsNoNameWhereTheRangeIsWidened()
+void TestHexSpinBoxTest::showsNoNameWhereTheRangeIsWidened()
 {
     HexSpinBox box;
     box.setRange(0, 5);
@@ -112,7 +112,7 @@ void TestHexSpinBox::showsNoNameWhereTheRangeIsWidened()
     QCOMPARE(box.text(), QString());
 }
 
-void TestHexSpinBox::stepsByTheKeyboard()
+void TestHexSpinBoxTest::stepsByTheKeyboard()
 {
     HexSpinBox box;
 
@@ -123,7 +123,7 @@ void TestHexSpinBox::stepsByTheKeyboard()
     QCOMPARE(box.text(), u"cm"_s);
 }
 
-void TestHexSpinBox::readsWhatIsTypedAsANumber()
+void TestHexSpinBoxTest::readsWhatIsTypedAsANumber()
 {
     HexSpinBox box;
 
@@ -135,7 +135,7 @@ void TestHexSpinBox::readsWhatIsTypedAsANumber()
     QCOMPARE(box.text(), u"in"_s);
 }
 
-void TestHexSpinBox::doesNotReadAUnitsName()
+void TestHexSpinBoxTest::doesNotReadAUnitsName()
 {
     HexSpinBox box;
 
@@ -147,5 +147,5 @@ void TestHexSpinBox::doesNotReadAUnitsName()
     QCOMPARE(box.text(), u"pt"_s);
 }
 
-QTEST_MAIN(TestHexSpinBox)
+QTEST_MAIN(TestHexSpinBoxTest)
 #include "hexspinbox_test.moc"

@@ -113,7 +113,7 @@ protected:
 
 using Events = QList<QEvent::Type>;
 
-class TestMyPushButton : public QObject
+class TestMyPushButtonTest : public QObject
 {
     Q_OBJECT
 
@@ -138,7 +138,7 @@ private:
     QString imagePath;
 };
 
-void TestMyPushButton::initTestCase()
+void TestMyPushButtonTest::initTestCase()
 {
     QVERIFY(folder.isValid());
     // The name says another format than the content.
@@ -149,7 +149,7 @@ void TestMyPushButton::initTestCase()
     image.save(folder.filePath(u"named.png"_s), "PNG");
 }
 
-void TestMyPushButton::centresTheIcon_data()
+void TestMyPushButtonTest::centresTheIcon_data()
 {
     QTest::addColumn<QRect>("rect");
     QTest::addColumn<QSize>("size");
@@ -168,7 +168,7 @@ void TestMyPushButton::centresTheIcon_data()
     QTest::newRow("no size at all") << QRect(0, 0, 20, 10) << QSize(0, 0) << QRect(10, 5, 0, 0);
 }
 
-void TestMyPushButton::centresTheIcon()
+void TestMyPushButtonTest::centresTheIcon()
 {
     QFETCH(const QRect, rect);
     QFETCH(const QSize, size);
@@ -177,7 +177,7 @@ void TestMyPushButton::centresTheIcon()
     QCOMPARE(mypushbutton().calculateIconPosition(rect, size), place);
 }
 
-void TestMyPushButton::paintsItsPictureInACircle_data()
+void TestMyPushButtonTest::paintsItsPictureInACircle_data()
 {
     QTest::addColumn<QRect>("geometry");
     QTest::addColumn<QSize>("iconSize");
@@ -218,7 +218,7 @@ void TestMyPushButton::paintsItsPictureInACircle_data()
         << square << QSize(60, 60) << Events() << iconColour << QRect(-10, -10, 60, 60);
 }
 
-void TestMyPushButton::paintsItsPictureInACircle()
+void TestMyPushButtonTest::paintsItsPictureInACircle()
 {
     QFETCH(const QRect, geometry);
     QFETCH(const QSize, iconSize);
@@ -241,7 +241,7 @@ void TestMyPushButton::paintsItsPictureInACircle()
     QCOMPARE(withOpenPixels(letters(paint(button), colour), expected), expected);
 }
 
-void TestMyPushButton::paintsNothingWithoutAPicture_data()
+void TestMyPushButtonTest::paintsNothingWithoutAPicture_data()
 {
     QTest::addColumn<bool>("hasIcon");
     QTest::addColumn<bool>("isPressed");
@@ -256,7 +256,7 @@ void TestMyPushButton::paintsNothingWithoutAPicture_data()
         << false << false << folder.filePath(u"named"_s);
 }
 
-void TestMyPushButton::paintsNothingWithoutAPicture()
+void TestMyPushButtonTest::paintsNothingWithoutAPicture()
 {
     QFETCH(const bool, hasIcon);
     QFETCH(const bool, isPressed);
@@ -270,7 +270,7 @@ void TestMyPushButton::paintsNothingWithoutAPicture()
     QCOMPARE(letters(paint(button), iconColour), discLetters(QSize(40, 40), QRect()));
 }
 
-void TestMyPushButton::paintsWhatTheFileHoldsNow()
+void TestMyPushButtonTest::paintsWhatTheFileHoldsNow()
 {
     const QString path = folder.filePath(u"changing.png"_s);
     mypushbutton button(path);
@@ -283,7 +283,7 @@ void TestMyPushButton::paintsWhatTheFileHoldsNow()
     }
 }
 
-void TestMyPushButton::edgeOfTheCircleIsSmooth()
+void TestMyPushButtonTest::edgeOfTheCircleIsSmooth()
 {
     mypushbutton button(icon(), QString());
     button.resize(40, 40);
@@ -297,7 +297,7 @@ void TestMyPushButton::edgeOfTheCircleIsSmooth()
     QVERIFY2(halfCovered > 20, qPrintable(QString::number(halfCovered)));
 }
 
-void TestMyPushButton::releaseOutsideShowsTheIconAgain()
+void TestMyPushButtonTest::releaseOutsideShowsTheIconAgain()
 {
     mypushbutton button(icon(), imagePath);
     button.resize(40, 40);
@@ -310,7 +310,7 @@ void TestMyPushButton::releaseOutsideShowsTheIconAgain()
     QCOMPARE(clicks, 0);
 }
 
-void TestMyPushButton::repaintsAtOnce_data()
+void TestMyPushButtonTest::repaintsAtOnce_data()
 {
     QTest::addColumn<QEvent::Type>("type");
 
@@ -320,7 +320,7 @@ void TestMyPushButton::repaintsAtOnce_data()
     QTest::newRow("when the mouse leaves") << QEvent::Leave;
 }
 
-void TestMyPushButton::repaintsAtOnce()
+void TestMyPushButtonTest::repaintsAtOnce()
 {
     QFETCH(const QEvent::Type, type);
     mypushbutton button(icon(), QString());
@@ -339,7 +339,7 @@ void TestMyPushButton::repaintsAtOnce()
     QCOMPARE(paints.down.first(), isRelease);
 }
 
-void TestMyPushButton::isAPushButtonInAllElse()
+void TestMyPushButtonTest::isAPushButtonInAllElse()
 {
     mypushbutton button(u"&Convert"_s);
     button.setCheckable(true);
@@ -357,7 +357,7 @@ void TestMyPushButton::isAPushButtonInAllElse()
     QCOMPARE(button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_C));
 }
 
-void TestMyPushButton::takesWhatAPushButtonIsMadeFrom()
+void TestMyPushButtonTest::takesWhatAPushButtonIsMadeFrom()
 {
     QWidget parent;
     const mypushbutton plain(&parent);
@@ -373,5 +373,5 @@ void TestMyPushButton::takesWhatAPushButtonIsMadeFrom()
     QCOMPARE(parent.children().size(), 3);
 }
 
-QTEST_MAIN(TestMyPushButton)
+QTEST_MAIN(TestMyPushButtonTest)
 #include "mypushbutton_test.moc"

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestSetDialog : public QObject
+class TestSetDialogTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private slots:
     void keepsANameItHas();
 };
 
-void TestSetDialog::isAFixedWindow()
+void TestSetDialogTest::isAFixedWindow()
 {
     const setDialog dialog;
 
@@ -38,7 +38,7 @@ void TestSetDialog::isAFixedWindow()
     QCOMPARE(dialog.findChildren<QWidget *>().size(), 3);
 }
 
-void TestSetDialog::placesItsButtons_data()
+void TestSetDialogTest::placesItsButtons_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
@@ -52,7 +52,7 @@ void TestSetDialog::placesItsButtons_data()
                                               << "Reset All" << QRect(176, 310, 75, 23);
 }
 
-void TestSetDialog::placesItsButtons()
+void TestSetDialogTest::placesItsButtons()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, caption);
@@ -66,7 +66,7 @@ void TestSetDialog::placesItsButtons()
     QCOMPARE(button->geometry(), place);
 }
 
-void TestSetDialog::staysOpenWhenAButtonIsClicked_data()
+void TestSetDialogTest::staysOpenWhenAButtonIsClicked_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -75,7 +75,7 @@ void TestSetDialog::staysOpenWhenAButtonIsClicked_data()
     QTest::newRow("a click on Reset All") << "resetallButton";
 }
 
-void TestSetDialog::staysOpenWhenAButtonIsClicked()
+void TestSetDialogTest::staysOpenWhenAButtonIsClicked()
 {
     QFETCH(const QString, name);
     setDialog dialog;
@@ -91,7 +91,7 @@ void TestSetDialog::staysOpenWhenAButtonIsClicked()
     QVERIFY(dialog.isVisible());
 }
 
-void TestSetDialog::closesByEscape()
+void TestSetDialogTest::closesByEscape()
 {
     setDialog dialog;
     dialog.show();
@@ -105,7 +105,7 @@ void TestSetDialog::closesByEscape()
     QCOMPARE(result, int{QDialog::Rejected});
 }
 
-void TestSetDialog::keepsANameItHas()
+void TestSetDialogTest::keepsANameItHas()
 {
     QDialog dialog;
     dialog.setObjectName("mine");
@@ -115,5 +115,5 @@ void TestSetDialog::keepsANameItHas()
     QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
-QTEST_MAIN(TestSetDialog)
+QTEST_MAIN(TestSetDialogTest)
 #include "setdialog_test.moc"

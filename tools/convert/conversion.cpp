@@ -1,10 +1,10 @@
 #include "conversion.h"
 
-#include "damage.h"
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
-#include "jpegshrink.h"
+#include "jpegscaling.h"
 #include "magick.h"
+#include "magickwarnings.h"
 #include "text.h"
 
 #include <algorithm>

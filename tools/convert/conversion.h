@@ -1,11 +1,11 @@
 #pragma once
 
-#include "childpool.h"
 #include "convertcall.h"
 #include "convertlimits.h"
 #include "imagekind.h"
 #include "job.h"
 #include "pagelibrary.h"
+#include "subprocesspool.h"
 
 #include <deque>
 #include <optional>

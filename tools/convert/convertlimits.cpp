@@ -1,6 +1,6 @@
 #include "convertlimits.h"
 
-#include "privatefolder.h"
+#include "workdirectory.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "child.h"
+#include "subprocess.h"
 
 #include <chrono>
 #include <string>

@@ -1,6 +1,6 @@
 #include "filebytes.h"
 
-#include "diagnosis.h"
+#include "error.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,8 +1,8 @@
 #include "jpegpage.h"
 
-#include "diagnosis.h"
+#include "density.h"
+#include "error.h"
 #include "metadata.h"
-#include "pagesize.h"
 
 #include <algorithm>
 #include <string_view>

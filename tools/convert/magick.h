@@ -1,7 +1,7 @@
 #pragma once
 
-#include "child.h"
 #include "convertlimits.h"
+#include "subprocess.h"
 
 #include <string>
 #include <vector>

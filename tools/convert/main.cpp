@@ -1,8 +1,8 @@
 #include "bundle.h"
 #include "conversion.h"
-#include "diagnosis.h"
+#include "error.h"
 #include "magick.h"
-#include "program.h"
+#include "toolmain.h"
 
 #include <limits>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pagesize.h"
+#include "density.h"
 
 #include <string>
 

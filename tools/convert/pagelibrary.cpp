@@ -1,7 +1,7 @@
 #include "pagelibrary.h"
 
 #include "bundle.h"
-#include "diagnosis.h"
+#include "error.h"
 
 #include <dlfcn.h>
 

@@ -2,7 +2,7 @@
 
 #include "copyablepage.h"
 #include "filestamp.h"
-#include "jpegshrink.h"
+#include "jpegscaling.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "pngdata.h"
 
-#include "diagnosis.h"
+#include "error.h"
 
 #include <algorithm>
 #include <new>

@@ -1,8 +1,8 @@
 #include "pngpage.h"
 
-#include "diagnosis.h"
+#include "density.h"
+#include "error.h"
 #include "metadata.h"
-#include "pagesize.h"
 #include "pngdata.h"
 
 #include <algorithm>

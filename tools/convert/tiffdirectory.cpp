@@ -1,6 +1,6 @@
 #include "tiffdirectory.h"
 
-#include "diagnosis.h"
+#include "error.h"
 
 #include <algorithm>
 #include <array>

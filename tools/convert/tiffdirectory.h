@@ -1,7 +1,7 @@
 #pragma once
 
+#include "density.h"
 #include "filebytes.h"
-#include "pagesize.h"
 
 #include <cstdint>
 #include <string>

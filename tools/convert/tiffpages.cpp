@@ -1,7 +1,7 @@
 #include "tiffpages.h"
 
+#include "density.h"
 #include "group4.h"
-#include "pagesize.h"
 #include "tiffdirectory.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 #include "bundle.h"
-#include "diagnosis.h"
 #include "environment.h"
+#include "error.h"
 #include "job.h"
 #include "losslessinfo.h"
 #include "pdftkcall.h"
-#include "program.h"
 #include "text.h"
+#include "toolmain.h"
 
 #include <chrono>
 

@@ -1,6 +1,6 @@
 #include "pdftkcall.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "passwordwords.h"
 #include "text.h"
 

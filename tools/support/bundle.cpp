@@ -1,6 +1,6 @@
 #include "bundle.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "text.h"
 
 #include <climits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "outcome.h"
+#include "toolresult.h"
 
 #include <chrono>
 #include <string>

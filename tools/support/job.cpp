@@ -1,6 +1,6 @@
 #include "job.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
 #include "text.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "child.h"
-#include "outcome.h"
-#include "privatefolder.h"
-#include "target.h"
+#include "outputfile.h"
+#include "subprocess.h"
+#include "toolresult.h"
 #include "words.h"
+#include "workdirectory.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "text.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
 
 #include <algorithm>

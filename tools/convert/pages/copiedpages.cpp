@@ -1,6 +1,6 @@
 #include "copiedpages.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
 
 #include <qpdf/Pipeline.hh>

@@ -1,7 +1,7 @@
 #include "document.h"
 
 #include "copiedpages.h"
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
 
 #include <qpdf/ClosedFileInputSource.hh>

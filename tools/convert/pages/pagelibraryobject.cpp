@@ -1,5 +1,5 @@
 #include "document.h"
-#include "imagefacts.h"
+#include "imageheaders.h"
 #include "imagekind.h"
 #include "pagelibrary.h"
 

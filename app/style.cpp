@@ -1,4 +1,4 @@
-#include "look.h"
+#include "style.h"
 
 #include <QApplication>
 #include <QHelpEvent>

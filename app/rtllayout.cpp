@@ -1,4 +1,4 @@
-#include "mirror.h"
+#include "rtllayout.h"
 
 #include "ui_process.h"
 

@@ -140,7 +140,7 @@ int lineThickness(QWidget &widget, QPoint edge, QPoint inward)
 
 } // namespace
 
-class LookTest : public QObject
+class StyleTest : public QObject
 {
     Q_OBJECT
 
@@ -164,20 +164,20 @@ private slots:
     void frameHasWholeLines();
 };
 
-void LookTest::desktopIsDark()
+void StyleTest::desktopIsDark()
 {
     // What main() found before it prepared the application.
     QVERIFY(qApp->property("desktopWindow").value<QColor>().lightness() < 80);
 }
 
-void LookTest::everyTextOnEveryPageIsDarkOnLight_data()
+void StyleTest::everyTextOnEveryPageIsDarkOnLight_data()
 {
     QTest::addColumn<int>("page");
     for (int page = 0; page < 4; ++page)
         QTest::addRow("page %d", page) << page;
 }
 
-void LookTest::everyTextOnEveryPageIsDarkOnLight()
+void StyleTest::everyTextOnEveryPageIsDarkOnLight()
 {
     QFETCH(int, page);
     WindowFixture fixture;
@@ -195,7 +195,7 @@ void LookTest::everyTextOnEveryPageIsDarkOnLight()
     QVERIFY(seen >= 4);
 }
 
-void LookTest::rowsAndHeaderAreDarkOnLight()
+void StyleTest::rowsAndHeaderAreDarkOnLight()
 {
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
@@ -209,7 +209,7 @@ void LookTest::rowsAndHeaderAreDarkOnLight()
     QVERIFY(isReadable(table->verticalHeader()));
 }
 
-void LookTest::selectedRowStandsOut()
+void StyleTest::selectedRowStandsOut()
 {
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
@@ -220,14 +220,14 @@ void LookTest::selectedRowStandsOut()
     QVERIFY(tones.lightest > 240);
 }
 
-void LookTest::typedTextIsDarkOnLight()
+void StyleTest::typedTextIsDarkOnLight()
 {
     WindowFixture fixture;
     fixture.fill("outputfolderEdit", u"/home/me/results"_s);
     QVERIFY(isReadable(fixture.find<QLineEdit>("outputfolderEdit")));
 }
 
-void LookTest::messageBoxIsDarkOnLight()
+void StyleTest::messageBoxIsDarkOnLight()
 {
     WindowFixture fixture;
     bool readable = false;
@@ -239,7 +239,7 @@ void LookTest::messageBoxIsDarkOnLight()
     QVERIFY(readable);
 }
 
-void LookTest::everyTipIsDarkOnLight()
+void StyleTest::everyTipIsDarkOnLight()
 {
     WindowFixture fixture;
     auto *pages = fixture.find<QStackedWidget>("stackedWidget_dialog");
@@ -265,7 +265,7 @@ void LookTest::everyTipIsDarkOnLight()
     QVERIFY2(tips.size() >= 22, qPrintable(tips.join(QLatin1Char('\n'))));
 }
 
-void LookTest::everyPopupIsDarkOnLight()
+void StyleTest::everyPopupIsDarkOnLight()
 {
     WindowFixture fixture;
     fixture.addImages(QStringList(20, u"a.jpg"_s)); // enough for a scroll bar
@@ -297,7 +297,7 @@ void LookTest::everyPopupIsDarkOnLight()
     QVERIFY(seen.count(u"QComboBox"_s) >= 3);
 }
 
-void LookTest::dialogsAreDarkOnLight()
+void StyleTest::dialogsAreDarkOnLight()
 {
     WindowFixture fixture;
     for (QDialog *dialog : {static_cast<QDialog *>(&ProcessProbe::aboutBox(fixture.window)),
@@ -308,7 +308,7 @@ void LookTest::dialogsAreDarkOnLight()
     }
 }
 
-void LookTest::everyColourRoleIsTheWindowsOwn()
+void StyleTest::everyColourRoleIsTheWindowsOwn()
 {
     const QPalette colours = QApplication::palette();
     for (int role = 0; role < QPalette::NColorRoles; ++role) {
@@ -320,7 +320,7 @@ void LookTest::everyColourRoleIsTheWindowsOwn()
     }
 }
 
-void LookTest::styleIsTheWindowsOwn()
+void StyleTest::styleIsTheWindowsOwn()
 {
     // What main() found before it prepared the application, and what stands now.
     QCOMPARE(qApp->property("desktopStyle").toString(), u"windows"_s);
@@ -329,7 +329,7 @@ void LookTest::styleIsTheWindowsOwn()
     QCOMPARE(style->baseStyle()->name(), u"fusion"_s);
 }
 
-void LookTest::everyKindOfWidgetHasTheUsersFont()
+void StyleTest::everyKindOfWidgetHasTheUsersFont()
 {
     QCOMPARE(qApp->property("desktopButtonFont").value<QFont>().pointSize(), 30);
     WindowFixture fixture;
@@ -340,7 +340,7 @@ void LookTest::everyKindOfWidgetHasTheUsersFont()
                  qPrintable(widget->objectName()));
 }
 
-void LookTest::currentPageButtonHasItsOwnPicture()
+void StyleTest::currentPageButtonHasItsOwnPicture()
 {
     WindowFixture fixture;
     for (const char *name : {"pushButton_Inout", "pushButton_ImageSetting", "pushButton_PDFSetting",
@@ -356,7 +356,7 @@ void LookTest::currentPageButtonHasItsOwnPicture()
     }
 }
 
-void LookTest::focusedFlatButtonShowsARing()
+void StyleTest::focusedFlatButtonShowsARing()
 {
     WindowFixture fixture;
     fixture.window.activateWindow();
@@ -371,7 +371,7 @@ void LookTest::focusedFlatButtonShowsARing()
     }
 }
 
-void LookTest::frameHasWholeLines_data()
+void StyleTest::frameHasWholeLines_data()
 {
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("frame");
@@ -391,7 +391,7 @@ void LookTest::frameHasWholeLines_data()
     QTest::newRow("below the side buttons") << 0 << u"frame_8"_s << QPoint(25, 80) << up;
 }
 
-void LookTest::frameHasWholeLines()
+void StyleTest::frameHasWholeLines()
 {
     QFETCH(int, page);
     QFETCH(QString, frame);
@@ -412,8 +412,8 @@ int main(int argc, char *argv[])
     const QStringList plugins = QCoreApplication::libraryPaths();
     prepare(application);
     QCoreApplication::setLibraryPaths(plugins); // the test's bundle has no plug-ins of its own
-    LookTest test;
+    StyleTest test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "look_test.moc"
+#include "style_test.moc"

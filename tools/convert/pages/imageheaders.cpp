@@ -1,4 +1,4 @@
-#include "imagefacts.h"
+#include "imageheaders.h"
 
 #include "imagekind.h"
 #include "tiffdirectory.h"

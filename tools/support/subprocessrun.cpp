@@ -1,6 +1,6 @@
-#include "childprocess.h"
+#include "subprocessrun.h"
 
-#include "diagnosis.h"
+#include "error.h"
 
 #include <algorithm>
 #include <cerrno>

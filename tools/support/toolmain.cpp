@@ -1,9 +1,9 @@
-#include "program.h"
+#include "toolmain.h"
 
 #include "calllog.h"
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
-#include "process.h"
+#include "hardening.h"
 #include "text.h"
 
 #include <algorithm>

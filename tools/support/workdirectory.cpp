@@ -1,6 +1,6 @@
-#include "privatefolder.h"
+#include "workdirectory.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "target.h"
+#include "outputfile.h"
 
-#include "diagnosis.h"
+#include "error.h"
 #include "filedescriptor.h"
-#include "process.h"
+#include "hardening.h"
 #include "text.h"
 
 #include <cerrno>

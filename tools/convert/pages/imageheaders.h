@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jpegshrink.h"
+#include "jpegscaling.h"
 
 #include <cstddef>
 

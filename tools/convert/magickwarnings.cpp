@@ -1,4 +1,4 @@
-#include "damage.h"
+#include "magickwarnings.h"
 
 #include <algorithm>
 #include <array>

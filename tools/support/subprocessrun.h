@@ -1,7 +1,7 @@
 #pragma once
 
-#include "child.h"
 #include "filedescriptor.h"
+#include "subprocess.h"
 
 #include <array>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "child.h"
-#include "outcome.h"
+#include "subprocess.h"
+#include "toolresult.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "child.h"
+#include "subprocess.h"
 
-#include "childpool.h"
+#include "subprocesspool.h"
 
 #include <sys/wait.h>
 

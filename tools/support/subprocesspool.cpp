@@ -1,7 +1,7 @@
-#include "childpool.h"
+#include "subprocesspool.h"
 
-#include "childprocess.h"
-#include "diagnosis.h"
+#include "error.h"
+#include "subprocessrun.h"
 
 #include <algorithm>
 

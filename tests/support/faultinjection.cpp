@@ -1,6 +1,6 @@
-// Preloaded into a program, meddles as TESSARO_MEDDLE says: "full" makes the first write of a large
-// piece of data fail as on a full disk; any other value is a file that changes whenever a large
-// piece of data is read.
+// Preloaded into a program, meddles as TESSARO_FAULTINJECTION says: "full" makes the first write of
+// a large piece of data fail as on a full disk; any other value is a file that changes whenever a
+// large piece of data is read.
 
 #include <cerrno>
 #include <cstdlib>
@@ -17,7 +17,7 @@ namespace {
 std::string wish(size_t size)
 {
     constexpr size_t large = size_t(64) * 1024;
-    const char *wanted = size < large ? nullptr : std::getenv("TESSARO_MEDDLE");
+    const char *wanted = size < large ? nullptr : std::getenv("TESSARO_FAULTINJECTION");
     return wanted ? wanted : "";
 }
 
@@ -28,7 +28,7 @@ extern "C" ssize_t write(int file, const void *data, size_t size)
     static const auto real = reinterpret_cast<decltype(&write)>(dlsym(RTLD_NEXT, "write"));
     if (wish(size) != "full")
         return real(file, data, size);
-    unsetenv("TESSARO_MEDDLE");
+    unsetenv("TESSARO_FAULTINJECTION");
     errno = ENOSPC;
     return -1;
 }

@@ -1,7 +1,7 @@
-#include "process.h"
+#include "hardening.h"
 
-#include "child.h"
-#include "diagnosis.h"
+#include "error.h"
+#include "subprocess.h"
 
 #include <fcntl.h>
 #include <sys/prctl.h>

@@ -1,4 +1,4 @@
-#include "jpegshrink.h"
+#include "jpegscaling.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "pagesize.h"
+#include "density.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "diagnosis.h"
+#include "error.h"
 
 #include <cerrno>
 #include <cstring>
