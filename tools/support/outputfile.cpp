@@ -2,7 +2,7 @@
 
 #include "error.h"
 #include "filedescriptor.h"
-#include "hardening.h"
+#include "filerights.h"
 #include "text.h"
 
 #include <cerrno>
@@ -10,13 +10,10 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-constexpr mode_t permissions = 0777;
-constexpr mode_t newFile = 0666;
-constexpr mode_t forGroup = 070;
 
 // As many as Linux itself follows.
 constexpr int mostLinks = 40;
@@ -72,35 +69,20 @@ bool isOnDisk(int file)
 Target::Target(const std::string &path)
     : m_path(followed(path))
 {
-    [[maybe_unused]] const std::optional<struct stat> old = present();
+    requireReplaceable();
 }
 
-std::optional<struct stat> Target::present() const
+void Target::requireReplaceable() const
 {
     struct stat status = {};
-    if (lstat(m_path.c_str(), &status) != 0)
-        return std::nullopt;
-    if (!S_ISREG(status.st_mode))
+    if (lstat(m_path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
         throw ToolError("cannot replace '" + m_path + "': not a regular file");
-    return status;
-}
-
-// A file system that knows no modes or groups refuses to change them, and needs no change.
-void Target::adoptRights(int file) const
-{
-    struct stat status = {};
-    const std::optional<struct stat> old = present();
-    mode_t mode = old ? old->st_mode & permissions : newFile & ~userMask();
-    const bool sameGroup = !old || (fstat(file, &status) == 0 && status.st_gid == old->st_gid) ||
-                           fchown(file, static_cast<uid_t>(-1), old->st_gid) == 0;
-    if (!sameGroup)
-        mode &= ~forGroup;
-    [[maybe_unused]] const int result = fchmod(file, mode);
 }
 
 void Target::replaceBy(int folder, const std::string &name, int file) const
 {
-    adoptRights(file);
+    requireReplaceable();
+    takeOverRights(file, m_path);
     if (!isOnDisk(file))
         throw systemError("cannot write", m_path);
     if (renameat(folder, name.c_str(), AT_FDCWD, m_path.c_str()) != 0)

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <optional>
 #include <string>
-
-#include <sys/stat.h>
 
 /// The file that a finished one is to be moved over; it need not be there yet.
 class Target
@@ -17,13 +14,12 @@ public:
     const std::string &path() const { return m_path; }
 
     /// Moves the file `name` of the folder of descriptor `folder`, open as `file`, over the target,
-    /// once its content is on the disk. It gets the mode and group of the file that it replaces, or
-    /// those of a new file of the user. Throws ToolError, and leaves the target as it was.
+    /// once its content is on the disk. It gets the rights of the file that it replaces
+    /// (filerights.h). Throws ToolError, and leaves the target as it was.
     void replaceBy(int folder, const std::string &name, int file) const;
 
 private:
-    std::optional<struct stat> present() const;
-    void adoptRights(int file) const;
+    void requireReplaceable() const;
 
     std::string m_path;
 };
