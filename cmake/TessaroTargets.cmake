@@ -8,6 +8,7 @@ target_compile_options(tessaro_build_flags INTERFACE
     $<$<BOOL:${TESSARO_WERROR}>:-Werror>
     $<$<BOOL:${TESSARO_SANITIZE}>:-fsanitize=address,undefined -fno-sanitize-recover=undefined
                                   -fno-omit-frame-pointer>
+    $<$<BOOL:${TESSARO_FUZZ}>:-fsanitize=fuzzer-no-link>
     $<$<BOOL:${TESSARO_COVERAGE}>:--coverage -fprofile-update=atomic>)
 target_link_options(tessaro_build_flags INTERFACE
     $<$<BOOL:${TESSARO_SANITIZE}>:-fsanitize=address,undefined>

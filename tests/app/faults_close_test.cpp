@@ -52,12 +52,6 @@ void touch(const QString &path)
         qFatal("cannot write %s", qPrintable(path));
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class FaultsCloseTest : public QObject

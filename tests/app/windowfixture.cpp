@@ -36,10 +36,7 @@ QString WindowFixture::outputPath(const QString &name) const
 
 QString WindowFixture::makeFile(const QString &name, const QByteArray &content) const
 {
-    QFile file(inputPath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    return file.fileName();
+    return writeContent(inputPath(name), content);
 }
 
 QStringList WindowFixture::addImages(const QStringList &names)
@@ -104,10 +101,7 @@ QStringList WindowFixture::outputFiles() const
     const QDir output(outputPath());
     const QStringList names = output.entryList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString &name : names) {
-        QFile file(output.filePath(name));
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("cannot read %s", qPrintable(file.fileName()));
-        QString content = QString::fromUtf8(file.readAll());
+        QString content = QString::fromUtf8(contentOf(output.filePath(name), "unreadable"));
         content.replace(folder.filePath(QStringLiteral("in/")), QString());
         files << name + QStringLiteral(": ") + content;
     }
@@ -116,8 +110,7 @@ QStringList WindowFixture::outputFiles() const
 
 QByteArray contentBesideTheBundle(const QString &name)
 {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    return contentOf(name, "none");
 }
 
 ModalAnswer::ModalAnswer(std::function<void(QWidget *)> answerFunction)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files.h"
 #include "windowcontrols.h"
 
 #include <QPushButton>

@@ -2,6 +2,7 @@
 // the bytes between them.
 
 #include "charsets.h"
+#include "files.h"
 #include "pdffacts.h"
 #include "privatelocales.h"
 #include "startup.h"
@@ -9,7 +10,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -56,8 +56,7 @@ void CharsetE2eTest::typedTextArrives()
     QFETCH(QByteArray, bytes);
     m_locales.use("en_US." + QByteArray(QTest::currentDataTag()));
     const QTemporaryDir folder;
-    const QString image = folder.filePath(u"a.png"_s);
-    QVERIFY(QImage(8, 6, QImage::Format_Mono).save(image));
+    const QString image = makeImage(folder.filePath(u"a.png"_s));
     const auto password = u"caf\u00e9"_s; // Qt hands it over in UTF-8 in each locale
 
     WindowDriver driver;
@@ -72,9 +71,7 @@ void CharsetE2eTest::typedTextArrives()
     QVERIFY(driver.openFiles({image}));
     QVERIFY(driver.convert(runTimeout));
 
-    QFile info(u"pdfa.txt"_s);
-    QVERIFY(info.open(QIODevice::ReadOnly));
-    QVERIFY(info.readAll().startsWith("InfoKey:Title\nInfoValue:" + bytes + "\n"));
+    QVERIFY(contentOf(u"pdfa.txt"_s).startsWith("InfoKey:Title\nInfoValue:" + bytes + "\n"));
     const PdfFacts facts =
         readPdf(folder.filePath(u"a.pdf"_s), password.toLatin1()); // as PDF has it
     QCOMPARE(facts.title, text);

@@ -1,6 +1,8 @@
 // Real images through the real window and the real tools; the PDFs are read back.
 
+#include "files.h"
 #include "pdffacts.h"
+#include "pdfpages.h"
 #include "pdfpictures.h"
 #include "startup.h"
 #include "windowdriver.h"
@@ -51,8 +53,7 @@ private slots:
 private:
     QString sample(const QString &name) const { return QStringLiteral(SAMPLES "/") + name; }
     QString output(const QString &name) const { return folder->filePath(u"out/"_s + name); }
-    QString makeImage(const QString &name, QSize size = {40, 30}) const;
-    QString makeFile(const QString &path, const QByteArray &content) const;
+    QString makePlainImage(const QString &name, QSize size = {40, 30}) const;
     QStringList outputFiles() const;
     void convert(const QStringList &images);
 
@@ -75,18 +76,10 @@ void ConversionE2eTest::cleanup()
     driver.reset();
 }
 
-QString ConversionE2eTest::makeImage(const QString &name, QSize size) const
+QString ConversionE2eTest::makePlainImage(const QString &name, QSize size) const
 {
     QString path = folder->filePath(u"in/"_s + name);
     if (!plainImage(size).save(path, "PNG"))
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
-}
-
-QString ConversionE2eTest::makeFile(const QString &path, const QByteArray &content) const
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
     return path;
 }
@@ -125,8 +118,8 @@ void ConversionE2eTest::everyFormatBecomesAPdf()
 void ConversionE2eTest::mergedPagesStandInRowOrder()
 {
     QVERIFY(driver->tick("checkBox_joinpdf"));
-    convert({makeImage(u"b.png"_s, {20, 10}), makeImage(u"c.png"_s, {30, 10}),
-             makeImage(u"a.png"_s, {40, 10})});
+    convert({makePlainImage(u"b.png"_s, {20, 10}), makePlainImage(u"c.png"_s, {30, 10}),
+             makePlainImage(u"a.png"_s, {40, 10})});
     QCOMPARE(outputFiles(), QStringList(u"b.pdf"_s));
     QList<QSize> pages;
     const QList<QSizeF> pageSizes = readPdf(output(u"b.pdf"_s)).pageSizes;
@@ -201,14 +194,14 @@ void ConversionE2eTest::pageSizeAndRotationShapeThePage()
     QVERIFY(driver->choose("comboBox_rotate", rotation));
     QVERIFY(driver->tick("checkBox_monochrome", monochrome));
     QVERIFY(driver->click("pushButton_Inout"));
-    const QString image = makeImage(u"a.png"_s);
+    const QString image = makePlainImage(u"a.png"_s);
     QVERIFY(markedImage().save(image));
     convert({image});
     const QSizeF result = readPdf(output(u"a.pdf"_s)).pageSizes.value(0);
     QVERIFY2(qAbs(result.width() - page.width()) <= 1.0 &&
                  qAbs(result.height() - page.height()) <= 1.0,
              qPrintable(u"%1 x %2"_s.arg(result.width()).arg(result.height())));
-    const QImage shown = pageImage(output(u"a.pdf"_s));
+    const QImage shown = drawnPage(output(u"a.pdf"_s));
     QCOMPARE(lightestQuarter(shown), mark);
     const int coloured = colouredPixels(shown);
     QVERIFY2(monochrome ? coloured < 5 : coloured > 60, qPrintable(QString::number(coloured)));
@@ -241,7 +234,7 @@ void ConversionE2eTest::securityReachesThePdf()
     QVERIFY(driver->type("lineEdit_userpwd", user));
     QVERIFY(driver->tick(qPrintable(box)));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage(u"a.png"_s)});
+    convert({makePlainImage(u"a.png"_s)});
     QVERIFY(readPdf(output(u"a.pdf"_s)).needsPassword);
     const PdfFacts facts = readPdf(output(u"a.pdf"_s), user.toUtf8());
     QVERIFY(facts.encrypted);
@@ -259,7 +252,7 @@ void ConversionE2eTest::descriptionArrivesAsTyped()
     QVERIFY(driver->type("lineEdit_title", title));
     QVERIFY(driver->type("lineEdit_keywords", u"&amp; <b>"_s));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage(u"a.png"_s)});
+    convert({makePlainImage(u"a.png"_s)});
     const PdfFacts facts = readPdf(output(u"a.pdf"_s));
     QCOMPARE(facts.title, title);
     QCOMPARE(facts.subject, QString());
@@ -288,7 +281,7 @@ void ConversionE2eTest::oddNamesWork()
     QVERIFY(driver->click("pushButton_PDFSetting"));
     QVERIFY(driver->type("lineEdit_title", u"T"_s));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage(name)});
+    convert({makePlainImage(name)});
     const QString pdf = QFileInfo(name).baseName() + u".pdf"_s;
     QCOMPARE(outputFiles(), QStringList(pdf));
     QCOMPARE(readPdf(output(pdf)).title, u"T"_s);
@@ -296,8 +289,8 @@ void ConversionE2eTest::oddNamesWork()
 
 void ConversionE2eTest::unreadableImageIsSkippedOneByOne()
 {
-    convert({makeImage(u"a.png"_s), makeFile(folder->filePath(u"in/b.png"_s), "no image"),
-             makeImage(u"c.png"_s)});
+    convert({makePlainImage(u"a.png"_s), writeContent(folder->filePath(u"in/b.png"_s), "no image"),
+             makePlainImage(u"c.png"_s)});
     QCOMPARE(outputFiles(), QStringList({u"a.pdf"_s, u"c.pdf"_s}));
     QCOMPARE(driver->find<QProgressBar>("progressBar")->value(), 0);
 }
@@ -305,7 +298,8 @@ void ConversionE2eTest::unreadableImageIsSkippedOneByOne()
 void ConversionE2eTest::mergeWithAnUnreadableImageMakesNoPdf()
 {
     QVERIFY(driver->tick("checkBox_joinpdf"));
-    convert({makeImage(u"a.png"_s), makeFile(folder->filePath(u"in/b.png"_s), "no image")});
+    convert(
+        {makePlainImage(u"a.png"_s), writeContent(folder->filePath(u"in/b.png"_s), "no image")});
     QCOMPARE(outputFiles(), QStringList());
 }
 
@@ -314,7 +308,7 @@ void ConversionE2eTest::passwordWithABlankLosesThePdf()
     QVERIFY(driver->click("pushButton_Security"));
     QVERIFY(driver->type("lineEdit_ownerpwd", u"two words"_s));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage(u"a.png"_s)});
+    convert({makePlainImage(u"a.png"_s)});
     QCOMPARE(outputFiles(), QStringList());
 }
 
@@ -345,7 +339,7 @@ void ConversionE2eTest::passwordWithADoubleQuoteIsAnotherPhrase()
     QVERIFY(driver->type("lineEdit_ownerpwd", owner));
     QVERIFY(driver->type("lineEdit_userpwd", user));
     QVERIFY(driver->click("pushButton_Inout"));
-    convert({makeImage(u"a.png"_s)});
+    convert({makePlainImage(u"a.png"_s)});
     const PdfFacts unasked = readPdf(output(u"a.pdf"_s));
     QVERIFY(unasked.readable && unasked.encrypted);
     QCOMPARE(unasked.needsPassword, needed);
@@ -373,18 +367,16 @@ void ConversionE2eTest::intermediateFileTakesAnotherImagesName()
     QVERIFY(driver->type("lineEdit_title", u"T"_s));
     QVERIFY(driver->click("pushButton_Inout"));
     for (QString &image : images)
-        image = makeImage(image);
+        image = makePlainImage(image);
     convert(images);
     QTEST(outputFiles(), "pdfs");
 }
 
 void ConversionE2eTest::olderPdfSurvivesAFailedConversion()
 {
-    const QString older = makeFile(output(u"b.pdf"_s), "an older result");
-    convert({makeFile(folder->filePath(u"in/b.png"_s), "no image")});
-    QFile file(older);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("an older result"));
+    const QString older = writeContent(output(u"b.pdf"_s), "an older result");
+    convert({writeContent(folder->filePath(u"in/b.png"_s), "no image")});
+    QCOMPARE(contentOf(older), QByteArray("an older result"));
 }
 
 int main(int argc, char *argv[])

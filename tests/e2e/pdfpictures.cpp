@@ -48,12 +48,6 @@ QStringList imageFilters(const QString &path)
     return filters;
 }
 
-QImage pageImage(const QString &path)
-{
-    return QImage::fromData(
-        outputOf(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-singlefile"_s, u"-png"_s, path}));
-}
-
 QImage plainImage(QSize size)
 {
     QImage image(size, QImage::Format_RGB32);

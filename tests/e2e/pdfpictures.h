@@ -7,9 +7,6 @@
 /// How the data of each image in the PDF at `path` is packed, in the words of PDF: "/DCTDecode".
 QStringList imageFilters(const QString &path);
 
-/// The first page at a point to the pixel.
-QImage pageImage(const QString &path);
-
 /// Dark cyan, at a point to the pixel.
 QImage plainImage(QSize size);
 

@@ -2,6 +2,7 @@
 // environment holds one, nor does the real tools' command line. And what the program writes is
 // nobody else's to change.
 
+#include "files.h"
 #include "pdffacts.h"
 #include "regularfile.h"
 #include "startup.h"
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QImage>
 #include <QRandomGenerator>
 #include <QStringEncoder>
 #include <QTemporaryDir>
@@ -48,12 +48,6 @@ bool holdsSecret(const QByteArray &content)
     static const QList<QByteArray> secrets = needles();
     return std::ranges::any_of(
         secrets, [&content](const QByteArray &secret) { return content.contains(secret); });
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// The processes below `pid`, by number.
@@ -95,7 +89,6 @@ private slots:
 
 private:
     QString place(const QString &name) const { return folder->filePath(name); }
-    QString makeImage(const QString &name) const;
     void inspectProcesses();
     void inspectOpenFiles(const QString &process);
     void inspectFiles(const QString &root);
@@ -121,15 +114,6 @@ void SecretsTest::init()
         qunsetenv(name); // they lie below the home then
     finds.clear();
     toolsSeen = 0;
-}
-
-QString SecretsTest::makeImage(const QString &name) const
-{
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    if (!image.save(place(name)))
-        qFatal("cannot write %s", qPrintable(place(name)));
-    return place(name);
 }
 
 void SecretsTest::inspectProcesses()
@@ -200,7 +184,7 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
     QVERIFY(driver.click("pushButton_Security") && driver.type("lineEdit_ownerpwd", owner) &&
             driver.type("lineEdit_userpwd", userPassword));
     QVERIFY(driver.click("pushButton_Inout"));
-    QVERIFY(driver.openFiles({makeImage(u"a.png"_s), makeImage(u"b.png"_s)}));
+    QVERIFY(driver.openFiles({makeImage(place(u"a.png"_s)), makeImage(place(u"b.png"_s))}));
 
     QTimer inspector;
     connect(&inspector, &QTimer::timeout, this, [this] {
@@ -253,7 +237,8 @@ void SecretsTest::filesAreNoWiderThanTheUsersMask()
     const bool shown = driver.show() && driver.chooseFolder(place(u"out"_s)) &&
                        driver.click("pushButton_PDFSetting") &&
                        driver.type("lineEdit_title", u"T"_s) && driver.click("pushButton_Inout") &&
-                       driver.openFiles({makeImage(u"a.png"_s)}) && driver.convert(runTimeout);
+                       driver.openFiles({makeImage(place(u"a.png"_s))}) &&
+                       driver.convert(runTimeout);
     umask(usual);
     QVERIFY(shown);
     QCOMPARE(modeOf(u"pdfa.txt"_s), 0666 & ~mask);

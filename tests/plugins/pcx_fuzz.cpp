@@ -1,5 +1,4 @@
-#include "pcx_fuzz.h"
-
+#include "fuzztarget.h"
 #include "pcxhandler.h"
 #include "pipe.h"
 

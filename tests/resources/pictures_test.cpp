@@ -2,6 +2,8 @@
 
 #include "pictures.h"
 
+#include "files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QPainter>
@@ -19,12 +21,6 @@ QImage painted(const QIcon &icon, const QRect &place, QIcon::Mode mode)
     QPainter painter(&canvas);
     icon.paint(&painter, place, Qt::AlignCenter, mode);
     return canvas;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace

@@ -1,7 +1,6 @@
-#include "pages_fuzz.h"
-
 #include "copyablepage.h"
 #include "error.h"
+#include "fuzztarget.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -2,8 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -60,36 +58,6 @@ RunResult assembleTools(const QString &contents, const Variables &variables,
 {
     return runProgram(QStringLiteral(TESSARO_ASSEMBLE), options + QStringList{contents},
                       QDir::tempPath(), variables);
-}
-
-QStringList namesIn(const QString &folder)
-{
-    return QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeContent(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-    QCOMPARE(file.write(content), content.size());
-}
-
-void makeImage(const QString &path, QSize size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < size.width(); ++x)
-            line[x] = qRgb(255 - x % 251, 255 - y % 241, (x * y) % 239);
-    }
-    QVERIFY2(image.save(path), qPrintable(path));
 }
 
 ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool)

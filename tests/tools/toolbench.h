@@ -1,7 +1,8 @@
 #pragma once
 
+#include "files.h"
+
 #include <QProcess>
-#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -40,15 +41,6 @@ RunResult assembleTools(const QString &contents, const Variables &variables = {}
 /// Starts a program and leaves it to the caller.
 std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList &arguments,
                                        const QString &folder, const Variables &variables = {});
-
-/// The names in a folder, hidden ones included, sorted.
-QStringList namesIn(const QString &folder);
-
-QByteArray contentOf(const QString &path);
-/// Fails the test when it cannot be written.
-void writeContent(const QString &path, const QByteArray &content);
-/// A picture with a gradient and fine structure, in the format of the path's extension.
-void makeImage(const QString &path, QSize size = {8, 6});
 
 /// A bundle of its own in a temporary folder: the two programs, and as their real tools what
 /// `convertTool` and `pdftkTool` say (words, one per line).

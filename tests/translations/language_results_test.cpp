@@ -14,12 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : u"none"_s;
-}
-
 /// What the window makes of each single choice.
 QStringList optionsOf(WindowFixture &fixture)
 {
@@ -46,7 +40,8 @@ QStringList optionsOf(WindowFixture &fixture)
     for (const char *name :
          {"lineEdit_title", "lineEdit_subject", "lineEdit_keywords", "lineEdit_author"}) {
         fixture.fill(name, u"1234.5 \u0661 \u05d0 "_s + QString::fromLatin1(name));
-        results << fixture.window.getPdftkoption() << contentOf(u"pdfa.txt"_s);
+        results << fixture.window.getPdftkoption()
+                << QString::fromUtf8(contentBesideTheBundle(u"pdfa.txt"_s));
     }
     return results;
 }
@@ -69,7 +64,7 @@ QStringList choicesOf(WindowFixture &fixture)
         qFatal("no dialog came");
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     return patterns << table->item(0, 0)->text() << table->item(0, 1)->text()
-                    << contentOf(u"setting.ini"_s);
+                    << QString::fromUtf8(contentBesideTheBundle(u"setting.ini"_s));
 }
 
 /// What a run with all options on calls and leaves behind.
@@ -84,7 +79,8 @@ QStringList runOf(WindowFixture &fixture, bool merged)
     const QList<ToolCall> calls = fixture.calls();
     for (const ToolCall &call : calls)
         results << call.tool << call.arguments;
-    return results << fixture.outputFiles() << contentOf(u"pdfa.txt"_s);
+    return results << fixture.outputFiles()
+                   << QString::fromUtf8(contentBesideTheBundle(u"pdfa.txt"_s));
 }
 
 QStringList resultsIn(const QString &language)
