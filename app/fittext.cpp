@@ -1,5 +1,7 @@
 #include "fittext.h"
 
+#include "ui_process.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontInfo>
@@ -9,6 +11,7 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTableWidget>
@@ -155,6 +158,23 @@ bool makeNarrower(QFont &font)
 }
 
 } // namespace
+
+void widenCaptions(const Ui_process &ui)
+{
+    constexpr int pageMargin = 14; // pixels
+    constexpr int previewWidth = 151;
+    constexpr int fieldGap = 3;
+    const auto labels = ui.stackedWidget_dialog->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        const int left = pageMargin - label->parentWidget()->x();
+        if (label->alignment() & Qt::AlignRight && label->x() > left)
+            label->setGeometry(label->geometry().adjusted(left - label->x(), 0, 0, 0));
+    }
+    ui.outputfolderlabel->resize(ui.outputfolderEdit->x() - fieldGap - ui.outputfolderlabel->x(),
+                                 ui.outputfolderlabel->height());
+    ui.label_2->resize(previewWidth, ui.label_2->height());
+    ui.label->resize(ui.inputfiletableWidget->width(), ui.label->height());
+}
 
 void fitText(QWidget &window)
 {

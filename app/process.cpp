@@ -7,6 +7,7 @@
 #include "fittext.h"
 #include "pictures.h"
 #include "rtllayout.h"
+#include "translation.h"
 #include "ui_process.h"
 
 #include <QCheckBox>
@@ -31,6 +32,8 @@ Process::Process(QWidget *parent)
     // Five controls lie below the frame's edge in the layout; at its page's height they show.
     ui->frame_6->resize(ui->frame_6->width(), ui->stackedWidget_dialog->height());
     describeControls(*ui);
+    if (isTranslated())
+        widenCaptions(*ui);
     fitText(*this);
     fitText(setdialog);
     mirrorPlaces(*ui);

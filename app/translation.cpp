@@ -39,6 +39,13 @@ QString wantedLanguage()
     return uiLanguage(QLocale::system().uiLanguages(), translatedLanguages());
 }
 
+bool isTranslated()
+{
+    return !QCoreApplication::instance()
+                ->findChildren<QTranslator *>(Qt::FindDirectChildrenOnly)
+                .isEmpty();
+}
+
 void speak(QCoreApplication &application, const QString &language)
 {
     qDeleteAll(application.findChildren<QTranslator *>(Qt::FindDirectChildrenOnly));

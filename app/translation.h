@@ -11,6 +11,9 @@ QStringList translatedLanguages();
 /// "" for English.
 QString wantedLanguage();
 
+/// Whether the windows made from now on get texts in another language than English.
+bool isTranslated();
+
 /// Shows the texts of the windows made from now on in `language`, Qt's own too where the system
 /// has translations of them (qt6-translations-l10n), and lets them run in its direction.
 /// "" is English. Numbers and the like stay as the environment's locale writes them.

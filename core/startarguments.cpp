@@ -33,6 +33,17 @@ QString localPath(const QUrl &url)
     return isHere && url.isLocalFile() ? url.path(QUrl::FullyDecoded) : QString();
 }
 
+/// The option `name` as it stands in `arguments`, with its dashes and without a value.
+QString asTyped(const QString &name, const QStringList &arguments)
+{
+    for (const QString &argument : arguments) {
+        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        if (option == QLatin1Char('-') + name || option == QLatin1String("--") + name)
+            return option;
+    }
+    return name;
+}
+
 } // namespace
 
 StartArguments readStartArguments(const QStringList &arguments)
@@ -40,8 +51,11 @@ StartArguments readStartArguments(const QStringList &arguments)
     QCommandLineParser parser;
     describe(parser);
     parser.parse(arguments);
+    QStringList unknownOptions = parser.unknownOptionNames();
+    for (QString &option : unknownOptions)
+        option = asTyped(option, arguments);
     return {parser.isSet(QStringLiteral("help")), parser.isSet(QStringLiteral("version")),
-            parser.unknownOptionNames(), parser.positionalArguments()};
+            unknownOptions, parser.positionalArguments()};
 }
 
 QString startHelp()

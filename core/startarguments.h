@@ -8,7 +8,8 @@ struct StartArguments
 {
     bool wantsHelp = false;
     bool wantsVersion = false;
-    /// Without their dashes; Qt's own options are among them until a QApplication has taken them.
+    /// As typed, without values; Qt's own options are among them until a QApplication has taken
+    /// them.
     QStringList unknownOptions;
     QStringList files;
 };

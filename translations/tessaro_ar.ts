@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>Keywords</source>
-        <translation>الكلمات الأساسية</translation>
+        <translation>الكلمات المفتاحية</translation>
     </message>
     <message>
         <source>Keywords of the PDF</source>
-        <translation>الكلمات الأساسية لملف PDF</translation>
+        <translation>الكلمات المفتاحية لملف PDF</translation>
     </message>
     <message>
         <source>Author</source>

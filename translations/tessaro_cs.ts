@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Velikost</translation>
+        <translation>Velikost stránky</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Velikost</translation>
+        <translation>Velikost stránky</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -371,7 +371,7 @@ PDF:</translation>
     </message>
     <message>
         <source>Lossless</source>
-        <translation>Bezeztrátová</translation>
+        <translation>Bezztrátová</translation>
     </message>
     <message>
         <source>Lempel-Ziv-Welch</source>

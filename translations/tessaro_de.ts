@@ -157,11 +157,11 @@
     </message>
     <message>
         <source>Degrees clockwise; type another angle and press Enter</source>
-        <translation>Grad im Uhrzeigersinn; für einen anderen Winkel eingeben und die Eingabetaste drücken</translation>
+        <translation>Grad im Uhrzeigersinn; einen anderen Winkel eintippen und die Eingabetaste drücken</translation>
     </message>
     <message>
         <source>Page size</source>
-        <translation>Format</translation>
+        <translation>Seitengröße</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Format</translation>
+        <translation>Seitengröße</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Προβολή</translation>
+        <translation>Προεπισκόπηση</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Μέγεθος</translation>
+        <translation>Μέγεθος σελίδας</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Author</source>
-        <translation>Συγγρ.</translation>
+        <translation>Συγγραφέας</translation>
     </message>
     <message>
         <source>Author of the PDF</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Μέγεθος</translation>
+        <translation>Μέγεθος σελίδας</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

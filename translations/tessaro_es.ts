@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Vista</translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Output folder</source>
-        <translation>Carpeta destino</translation>
+        <translation>Carpeta de destino</translation>
     </message>
     <message>
         <source>The folder that gets the PDF files</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Rotate</source>
-        <translation>Rotar</translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Degrees clockwise; type another angle and press Enter</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Tamaño</translation>
+        <translation>Tamaño de página</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Owner password</source>
-        <translation>Contraseña propietario</translation>
+        <translation>Contraseña de propietario</translation>
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>User password</source>
-        <translation>Contraseña usuario</translation>
+        <translation>Contraseña de usuario</translation>
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>Output Folder</source>
-        <translation>Carpeta destino</translation>
+        <translation>Carpeta de destino</translation>
     </message>
     <message>
         <source>Appearance options to adjust converted PDF pages:</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Tamaño</translation>
+        <translation>Tamaño de página</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -371,7 +371,7 @@ del PDF:</translation>
     </message>
     <message>
         <source>Lossless</source>
-        <translation>Sin pérdida</translation>
+        <translation>Sin pérdidas</translation>
     </message>
     <message>
         <source>Lempel-Ziv-Welch</source>

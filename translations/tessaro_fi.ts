@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Kuva</translation>
+        <translation>Esikatselu</translation>
     </message>
     <message>
         <source>The image of the current row</source>

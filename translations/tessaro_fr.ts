@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Format</translation>
+        <translation>Taille de page</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Owner password</source>
-        <translation>Mdp propriétaire</translation>
+        <translation>Mot de passe du propriétaire</translation>
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>User password</source>
-        <translation>Mdp utilisateur</translation>
+        <translation>Mot de passe de l’utilisateur</translation>
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Format</translation>
+        <translation>Taille de page</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

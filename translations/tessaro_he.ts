@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>תצוגה</translation>
+        <translation>תצוגה מקדימה</translation>
     </message>
     <message>
         <source>The image of the current row</source>

@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Compression</source>
-        <translation>संपीड़न</translation>
+        <translation>संपीडन</translation>
     </message>
     <message>
         <source>How the images are stored in the PDF</source>

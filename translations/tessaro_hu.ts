@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Lapméret</translation>
+        <translation>Oldalméret</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Lapméret</translation>
+        <translation>Oldalméret</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Ukuran</translation>
+        <translation>Ukuran halaman</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Owner password</source>
-        <translation>Sandi pemilik</translation>
+        <translation>Kata sandi pemilik</translation>
     </message>
     <message>
         <source>Needed to change the permissions; no blanks</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>User password</source>
-        <translation>Sandi pengguna</translation>
+        <translation>Kata sandi pengguna</translation>
     </message>
     <message>
         <source>Needed to open the PDF; no blanks</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Ukuran</translation>
+        <translation>Ukuran halaman</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -371,7 +371,7 @@ PDF:</translation>
     </message>
     <message>
         <source>Lossless</source>
-        <translation>Nirrugi</translation>
+        <translation>Nirhilang</translation>
     </message>
     <message>
         <source>Lempel-Ziv-Welch</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Vista</translation>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Formato</translation>
+        <translation>Dimensione pagina</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Security</source>
-        <translation>Protezione</translation>
+        <translation>Sicurezza</translation>
     </message>
     <message>
         <source>Passwords and permissions</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Formato</translation>
+        <translation>Dimensione pagina</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -302,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Opzioni di protezione: password e autorizzazioni
+        <translation>Opzioni di sicurezza: password e autorizzazioni
 del PDF:</translation>
     </message>
     <message>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>画像</translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>The image of the current row</source>

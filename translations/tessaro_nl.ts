@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>Please choose files to convert.</source>
-        <translation>Kies de bestanden die u wilt omzetten.</translation>
+        <translation>Kies de bestanden die u wilt converteren.</translation>
     </message>
     <message>
         <source>All Supported Formats(*.bmp *.gif *.jpg *.pbm *.pcx *.png *.ppm *.tif);;BMP File(*.bmp);;GIF File(*.gif);;JPEG File(*.jpg;*.jpeg);;PBM File(*.pbm);;PCX File(*.pcx);;PNG File(*.png);;PPM File(*.ppm);;TIF File(*.tif;*.tiff);;ALL files(*.*)</source>
@@ -74,11 +74,11 @@
     </message>
     <message>
         <source>Choose files to convert</source>
-        <translation>Bestanden kiezen om om te zetten</translation>
+        <translation>Kies bestanden om te converteren</translation>
     </message>
     <message>
         <source>Browse a floder to save the converted files.</source>
-        <translation>Kies een map om de omgezette bestanden in op te slaan.</translation>
+        <translation>Kies een map om de geconverteerde bestanden in op te slaan.</translation>
     </message>
 </context>
 <context>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Beeld</translation>
+        <translation>Voorbeeld</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Convert</source>
-        <translation>Omzetten</translation>
+        <translation>Converteren</translation>
     </message>
     <message>
         <source>Convert the images to PDF</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Formaat</translation>
+        <translation>Paginaformaat</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -185,11 +185,11 @@
     </message>
     <message>
         <source>Subject</source>
-        <translation>Thema</translation>
+        <translation>Onderwerp</translation>
     </message>
     <message>
         <source>Subject of the PDF</source>
-        <translation>Thema van de pdf</translation>
+        <translation>Onderwerp van de pdf</translation>
     </message>
     <message>
         <source>Keywords</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Formaat</translation>
+        <translation>Paginaformaat</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -371,7 +371,7 @@ van de pdf:</translation>
     </message>
     <message>
         <source>Lossless</source>
-        <translation>Verliesvrij</translation>
+        <translation>Verliesloos</translation>
     </message>
     <message>
         <source>Lempel-Ziv-Welch</source>

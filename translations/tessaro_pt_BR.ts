@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Prévia</translation>
+        <translation>Visualização</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Tamanho</translation>
+        <translation>Tamanho da página</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Compression</source>
-        <translation>Compactação</translation>
+        <translation>Compressão</translation>
     </message>
     <message>
         <source>How the images are stored in the PDF</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Tamanho</translation>
+        <translation>Tamanho da página</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

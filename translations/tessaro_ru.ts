@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Эскиз</translation>
+        <translation>Просмотр</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Формат</translation>
+        <translation>Размер страницы</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Title</source>
-        <translation>Название</translation>
+        <translation>Заголовок</translation>
     </message>
     <message>
         <source>Title of the PDF</source>
-        <translation>Название PDF</translation>
+        <translation>Заголовок PDF</translation>
     </message>
     <message>
         <source>Subject</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Keywords</source>
-        <translation>Ключ. слова</translation>
+        <translation>Ключевые слова</translation>
     </message>
     <message>
         <source>Keywords of the PDF</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Security</source>
-        <translation>Защита</translation>
+        <translation>Безопасность</translation>
     </message>
     <message>
         <source>Passwords and permissions</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Формат</translation>
+        <translation>Размер страницы</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>
@@ -302,7 +302,7 @@
     <message>
         <source>Security options to set password and permissions 
 for converted PDF:</source>
-        <translation>Параметры защиты: пароли и разрешения
+        <translation>Параметры безопасности: пароли и разрешения
 для PDF:</translation>
     </message>
     <message>

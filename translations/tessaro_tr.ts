@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Boyut</translation>
+        <translation>Sayfa boyutu</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Keywords</source>
-        <translation>Anahtar sözcük</translation>
+        <translation>Anahtar sözcükler</translation>
     </message>
     <message>
         <source>Keywords of the PDF</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Boyut</translation>
+        <translation>Sayfa boyutu</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Ескіз</translation>
+        <translation>Перегляд</translation>
     </message>
     <message>
         <source>The image of the current row</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>Page size</source>
-        <translation>Формат</translation>
+        <translation>Розмір сторінки</translation>
     </message>
     <message>
         <source>Scale each image to fit this page</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Page Size</source>
-        <translation>Формат</translation>
+        <translation>Розмір сторінки</translation>
     </message>
     <message>
         <source>Convert images to black-and-white PDF</source>

@@ -223,7 +223,7 @@ void LegibilityTest::textsStayLegible()
     for (const QWidget *widget : widgets) {
         if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QComboBox *>(widget) ||
             qobject_cast<const QPushButton *>(widget)) {
-            QVERIFY(widget->font().pointSizeF() >= 7.5);
+            QVERIFY(widget->font().pointSizeF() >= 8);
             QVERIFY(QFontInfo(widget->font()).pixelSize() >= 10);
         }
     }

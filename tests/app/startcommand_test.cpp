@@ -88,7 +88,7 @@ void StartCommandTest::unknownOptionIsRefused()
         files = startFiles({u"tessaro"_s, u"--colour"_s, u"/"_s}, u"/"_s);
     });
     QVERIFY(!files.has_value());
-    QCOMPARE(complaints, QStringList(u"tessaro: There is no option colour; see --help."_s));
+    QCOMPARE(complaints, QStringList(u"tessaro: There is no option --colour; see --help."_s));
 }
 
 void StartCommandTest::firstRowIsCurrentAndItsPreviewShows()

@@ -11,14 +11,14 @@ class StartArgumentsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void optionsAndFilesAreToldApart_data();
-    void optionsAndFilesAreToldApart();
+    void optionsAndFilesAreSeparated_data();
+    void optionsAndFilesAreSeparated();
     void helpNamesEveryOption();
     void namesAreSeenFromTheFolder_data();
     void namesAreSeenFromTheFolder();
 };
 
-void StartArgumentsTest::optionsAndFilesAreToldApart_data()
+void StartArgumentsTest::optionsAndFilesAreSeparated_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QStringList>("wishes");
@@ -34,16 +34,19 @@ void StartArgumentsTest::optionsAndFilesAreToldApart_data()
     QTest::newRow("help after a file")
         << Words{u"a.png"_s, u"--help"_s} << Words{u"help"_s} << Words{u"a.png"_s};
     QTest::newRow("another option")
-        << Words{u"--colour"_s, u"a.png"_s} << Words{u"colour"_s} << Words{u"a.png"_s};
-    QTest::newRow("one of Qt's options") << Words{u"-style"_s} << Words{u"style"_s} << Words();
-    QTest::newRow("a word with the letter of help") << Words{u"-sh"_s} << Words{u"sh"_s} << Words();
+        << Words{u"--colour"_s, u"a.png"_s} << Words{u"--colour"_s} << Words{u"a.png"_s};
+    QTest::newRow("another option with a value")
+        << Words{u"--colour=red"_s} << Words{u"--colour"_s} << Words();
+    QTest::newRow("one of Qt's options") << Words{u"-style"_s} << Words{u"-style"_s} << Words();
+    QTest::newRow("a word with the letter of help")
+        << Words{u"-sh"_s} << Words{u"-sh"_s} << Words();
     QTest::newRow("files after two dashes")
         << Words{u"a.png"_s, u"--"_s, u"--help"_s, u"-b.png"_s} << Words()
         << Words{u"a.png"_s, u"--help"_s, u"-b.png"_s};
     QTest::newRow("a dash alone") << Words{u"-"_s} << Words() << Words{u"-"_s};
 }
 
-void StartArgumentsTest::optionsAndFilesAreToldApart()
+void StartArgumentsTest::optionsAndFilesAreSeparated()
 {
     QFETCH(QStringList, arguments);
     const StartArguments read = readStartArguments(QStringList(u"tessaro"_s) + arguments);

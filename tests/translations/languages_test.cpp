@@ -167,7 +167,7 @@ void LanguagesTest::programAsksTheEnvironment()
     };
     QVERIFY2(help.contains(inWords("Turns images into PDF documents.")), help);
     const QByteArray expected =
-        inWords("There is no option %1; see --help.").replace("%1", "nonsense");
+        inWords("There is no option %1; see --help.").replace("%1", "--nonsense");
     QVERIFY2(complaint.contains(expected), complaint);
 }
 
