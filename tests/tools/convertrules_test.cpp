@@ -3,6 +3,7 @@
 #include "convertcall.h"
 #include "convertlimits.h"
 #include "jpegscaling.h"
+#include "magick.h"
 #include "magickwarnings.h"
 
 #include <QTest>
@@ -18,54 +19,66 @@ class ConvertRulesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void convertCallIsSplit_data();
-    void convertCallIsSplit();
-    void otherConvertCallsAreNotOurs_data();
-    void otherConvertCallsAreNotOurs();
+    void applicationsCallsAreParsed();
+    void typedAnglesAreParsed_data();
+    void typedAnglesAreParsed();
+    void otherCallsAreRefused_data();
+    void otherCallsAreRefused();
     void inputsGetPlainNames_data();
     void inputsGetPlainNames();
     void optionsThatChangePixels_data();
     void optionsThatChangePixels();
-    void compressionIsAskedFor_data();
-    void compressionIsAskedFor();
+    void compressionsAllowCopies_data();
+    void compressionsAllowCopies();
     void jpegDecodersShrink_data();
     void jpegDecodersShrink();
-    void messagesTellOfDamage_data();
-    void messagesTellOfDamage();
+    void messagesReportDamage_data();
+    void messagesReportDamage();
     void runsAtOnceFitTheMachine_data();
     void runsAtOnceFitTheMachine();
     void limitsFollowTheMachine_data();
     void limitsFollowTheMachine();
 };
 
-void ConvertRulesTest::convertCallIsSplit_data()
+void ConvertRulesTest::applicationsCallsAreParsed()
 {
-    QTest::addColumn<Words>("arguments");
-    QTest::addColumn<Words>("options");
-    QTest::addColumn<Words>("inputs");
-    QTest::newRow("no option, one image") << Words{"/a.png", "o.pdf"} << Words{} << Words{"/a.png"};
-    QTest::newRow("every option, two images")
-        << Words{"-resize", "595x842",     "-rotate", "90", "-compress",
-                 "JPEG",    "-monochrome", "/a",      "/b", "o.pdf"}
-        << Words{"-resize", "595x842", "-rotate", "90", "-compress", "JPEG", "-monochrome"}
-        << Words{"/a", "/b"};
-    QTest::newRow("the output begins with a dash")
-        << Words{"/a.png", "-out/o.pdf"} << Words{} << Words{"/a.png"};
+    const std::optional<ConvertCall> plain = parseConvertCall({"/a.png", "o.pdf"});
+    QVERIFY(plain);
+    QVERIFY(!plain->options.resize && !plain->options.monochrome);
+    QCOMPARE(plain->options.rotate + plain->options.compress, std::string());
+    QCOMPARE(plain->inputs, Words{"/a.png"});
+
+    const std::optional<ConvertCall> full =
+        parseConvertCall({"-resize", "595x842", "-rotate", "90", "-compress", "JPEG", "-monochrome",
+                          "/a", "/b", "-out/o.pdf"});
+    QVERIFY(full);
+    QCOMPARE(full->options.resize->width, 595U);
+    QCOMPARE(full->options.resize->height, 842U);
+    QCOMPARE(full->options.rotate, std::string("90"));
+    QCOMPARE(full->options.compress, std::string("JPEG"));
+    QVERIFY(full->options.monochrome);
+    QCOMPARE(full->inputs, Words({"/a", "/b"}));
+    QCOMPARE(full->output, std::string("-out/o.pdf"));
 }
 
-void ConvertRulesTest::convertCallIsSplit()
+void ConvertRulesTest::typedAnglesAreParsed_data()
 {
-    QFETCH(Words, arguments);
-    QFETCH(Words, options);
-    QFETCH(Words, inputs);
-    const std::optional<ConvertCall> call = parseConvertCall(arguments);
-    QVERIFY(call);
-    QCOMPARE(call->options, options);
-    QCOMPARE(call->inputs, inputs);
-    QCOMPARE(call->output, arguments.back());
+    QTest::addColumn<std::string>("angle");
+    QTest::addColumn<bool>("accepted");
+    for (const char *angle : {"90", "3", "89.5", "-7", "+45", "0", ".5", "359"})
+        QTest::newRow(angle) << std::string(angle) << true;
+    for (const char *angle : {"", "-", "--5", "+-5", "1e3", "inf", "nan", "90>", "9O", "0x10",
+                              "1.2.3", "45,5", "-write", "90 ", "@f"})
+        QTest::addRow("no angle: '%s'", angle) << std::string(angle) << false;
 }
 
-void ConvertRulesTest::otherConvertCallsAreNotOurs_data()
+void ConvertRulesTest::typedAnglesAreParsed()
+{
+    QFETCH(std::string, angle);
+    QTEST(parseConvertCall({"-rotate", angle, "/a", "o.pdf"}).has_value(), "accepted");
+}
+
+void ConvertRulesTest::otherCallsAreRefused_data()
 {
     QTest::addColumn<Words>("arguments");
     QTest::newRow("no arguments") << Words{};
@@ -76,10 +89,21 @@ void ConvertRulesTest::otherConvertCallsAreNotOurs_data()
     QTest::newRow("an option that the application has not")
         << Words{"-density", "72", "/a", "o.pdf"};
     QTest::newRow("an option behind the input") << Words{"/a", "-rotate", "90", "o.pdf"};
+    QTest::newRow("a file written on the way") << Words{"/x", "-write", "jpg:F", "y", "o.pdf"};
+    QTest::newRow("a file written behind an angle")
+        << Words{"-rotate", "90", "-write", "F", "/a", "o.pdf"};
+    QTest::newRow("options in another order")
+        << Words{"-rotate", "90", "-resize", "9x9", "/a", "o.pdf"};
+    QTest::newRow("an option twice") << Words{"-rotate", "90", "-rotate", "90", "/a", "o.pdf"};
+    QTest::newRow("a size that is no box") << Words{"-resize", "50%", "/a", "o.pdf"};
+    QTest::newRow("a size with more in it") << Words{"-resize", "9x9!", "/a", "o.pdf"};
+    QTest::newRow("a size of nothing") << Words{"-resize", "0x9", "/a", "o.pdf"};
+    QTest::newRow("an unknown compression") << Words{"-compress", "WebP", "/a", "o.pdf"};
+    QTest::newRow("an empty path") << Words{"", "o.pdf"};
     QTest::newRow("the standard input") << Words{"-", "o.pdf"};
 }
 
-void ConvertRulesTest::otherConvertCallsAreNotOurs()
+void ConvertRulesTest::otherCallsAreRefused()
 {
     QFETCH(Words, arguments);
     QVERIFY(!parseConvertCall(arguments));
@@ -116,8 +140,9 @@ void ConvertRulesTest::optionsThatChangePixels_data()
     QTest::addColumn<bool>("changes");
     QTest::newRow("none") << Words{} << false;
     QTest::newRow("a compression") << Words{"-compress", "JPEG"} << false;
-    QTest::newRow("a turn by nothing") << Words{"-rotate", "0", "-compress", "zip"} << false;
+    QTest::newRow("a turn by nothing") << Words{"-rotate", "-0.0", "-compress", "zip"} << false;
     QTest::newRow("a turn") << Words{"-rotate", "90"} << true;
+    QTest::newRow("a small turn") << Words{"-rotate", ".05"} << true;
     QTest::newRow("a page size") << Words{"-resize", "595x842"} << true;
     QTest::newRow("black and white") << Words{"-compress", "JPEG", "-monochrome"} << true;
 }
@@ -125,67 +150,65 @@ void ConvertRulesTest::optionsThatChangePixels_data()
 void ConvertRulesTest::optionsThatChangePixels()
 {
     QFETCH(Words, options);
-    QTEST(changesPixels(options), "changes");
+    options.insert(options.end(), {"/a", "o.pdf"});
+    QTEST(parseConvertCall(options)->options.changesPixels(), "changes");
 }
 
-void ConvertRulesTest::compressionIsAskedFor_data()
+void ConvertRulesTest::compressionsAllowCopies_data()
 {
-    QTest::addColumn<Words>("options");
-    QTest::addColumn<int>("compression");
-    const auto row = [](const char *name, const Words &options, Compression compression) {
-        QTest::newRow(name) << options << int(compression);
-    };
-    row("none", {"-rotate", "0"}, Compression::Unset);
-    row("JPEG", {"-compress", "JPEG"}, Compression::Jpeg);
-    row("Zip as the window spells it", {"-compress", "zip"}, Compression::Zip);
-    row("Group 4", {"-rotate", "0", "-compress", "Group4"}, Compression::Group4);
-    row("another one", {"-compress", "None"}, Compression::Other);
-    row("the last one counts", {"-compress", "JPEG", "-compress", "LZW"}, Compression::Other);
+    QTest::addColumn<std::string>("word");
+    QTest::addColumn<int>("allowed");
+    QTest::newRow("none") << std::string() << -1;
+    for (const char *word : {"None", "Bzip", "Fax", "JPEG2000", "Lossless", "LZW", "RLE"})
+        QTest::newRow(word) << std::string(word) << int(Compression::Other);
+    QTest::newRow("Group4") << std::string("Group4") << int(Compression::Group4);
+    QTest::newRow("JPEG") << std::string("JPEG") << int(Compression::Jpeg);
+    QTest::newRow("zip") << std::string("zip") << int(Compression::Zip);
 }
 
-void ConvertRulesTest::compressionIsAskedFor()
+void ConvertRulesTest::compressionsAllowCopies()
 {
-    QFETCH(Words, options);
-    QTEST(int(askedCompression(options)), "compression");
+    QFETCH(std::string, word);
+    QFETCH(int, allowed);
+    ConvertOptions options;
+    options.compress = word;
+    for (const Compression own : {Compression::Jpeg, Compression::Zip, Compression::Group4})
+        QCOMPARE(options.allows(own), allowed == -1 || int(own) == allowed);
 }
 
 void ConvertRulesTest::jpegDecodersShrink_data()
 {
-    QTest::addColumn<Words>("options");
+    QTest::addColumn<QSize>("box");
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<Words>("shrinking");
-    const Words a4 = {"-resize", "595x842"};
-    QTest::newRow("a scan for an A4 page")
-        << a4 << QSize(2480, 3508)
-        << Words{"-define", "jpeg:size=1240x1754", "-resize", "595x842!"};
-    QTest::newRow("the other options stay")
-        << Words{"-resize", "297x421", "-rotate", "90"} << QSize(4000, 3000)
-        << Words{"-define", "jpeg:size=666x500", "-resize", "297x223!", "-rotate", "90"};
-    QTest::newRow("just twice as large") << a4 << QSize(1190, 1684) << Words{};
-    QTest::newRow("just four times as large")
-        << a4 << QSize(2380, 3368)
-        << Words{"-define", "jpeg:size=1190x1684", "-resize", "595x842!"};
-    QTest::newRow("one pixel less") << a4 << QSize(2380, 3367) << Words{};
+    QTest::addColumn<QSize>("decoded");
+    QTest::addColumn<QSize>("result");
+    const QSize a4(595, 842);
+    QTest::newRow("a scan for an A4 page") << a4 << QSize(2480, 3508) << QSize(1240, 1754) << a4;
+    QTest::newRow("a photo for an A6 page")
+        << QSize(297, 421) << QSize(4000, 3000) << QSize(666, 500) << QSize(297, 223);
+    QTest::newRow("just twice as large") << a4 << QSize(1190, 1684) << QSize() << QSize();
+    QTest::newRow("just four times as large") << a4 << QSize(2380, 3368) << QSize(1190, 1684) << a4;
+    QTest::newRow("one pixel less") << a4 << QSize(2380, 3367) << QSize() << QSize();
     QTest::newRow("larger than eight times")
-        << a4 << QSize(32000, 32000)
-        << Words{"-define", "jpeg:size=4000x4000", "-resize", "595x595!"};
-    QTest::newRow("to be made larger") << a4 << QSize(20, 10) << Words{};
-    QTest::newRow("turned before it is resized")
-        << Words{"-rotate", "90", "-resize", "595x842"} << QSize(2480, 3508) << Words{};
-    QTest::newRow("another way to give the size")
-        << Words{"-resize", "50%"} << QSize(2480, 3508) << Words{};
-    QTest::newRow("no readable header") << a4 << QSize(0, 0) << Words{};
+        << a4 << QSize(32000, 32000) << QSize(4000, 4000) << QSize(595, 595);
+    QTest::newRow("to be made larger") << a4 << QSize(20, 10) << QSize() << QSize();
+    QTest::newRow("no readable header") << a4 << QSize(0, 0) << QSize() << QSize();
 }
 
 void ConvertRulesTest::jpegDecodersShrink()
 {
-    QFETCH(Words, options);
+    QFETCH(QSize, box);
     QFETCH(QSize, size);
-    const PixelSize pixels = {static_cast<uint>(size.width()), static_cast<uint>(size.height())};
-    QTEST(shrinkingOptions(options, pixels).value_or(Words{}), "shrinking");
+    const auto pixels = [](QSize value) {
+        return PixelSize{static_cast<uint>(value.width()), static_cast<uint>(value.height())};
+    };
+    const auto qSize = [](PixelSize value) { return QSize(int(value.width), int(value.height)); };
+    const std::optional<JpegScaling> scaling = jpegScaling(pixels(box), pixels(size));
+    QTEST(scaling ? qSize(scaling->decoded) : QSize(), "decoded");
+    QTEST(scaling ? qSize(scaling->result) : QSize(), "result");
 }
 
-void ConvertRulesTest::messagesTellOfDamage_data()
+void ConvertRulesTest::messagesReportDamage_data()
 {
     QTest::addColumn<QByteArray>("message");
     QTest::addColumn<bool>("damage");
@@ -204,10 +227,10 @@ void ConvertRulesTest::messagesTellOfDamage_data()
     row("iCCP: known incorrect sRGB profile `a' @ warning/png.c/MagickPNGWarningHandler/", false);
 }
 
-void ConvertRulesTest::messagesTellOfDamage()
+void ConvertRulesTest::messagesReportDamage()
 {
     QFETCH(QByteArray, message);
-    QTEST(tellOfDamage(message.toStdString()), "damage");
+    QTEST(reportsDamage(message.toStdString()), "damage");
 }
 
 void ConvertRulesTest::runsAtOnceFitTheMachine_data()
@@ -215,7 +238,7 @@ void ConvertRulesTest::runsAtOnceFitTheMachine_data()
     constexpr Size gib = Size(1) << 30;
     QTest::addColumn<int>("cores");
     QTest::addColumn<Size>("ram");
-    QTest::addColumn<int>("atOnce");
+    QTest::addColumn<int>("concurrency");
     QTest::newRow("one core") << 1 << 64 * gib << 1;
     QTest::newRow("each core has a run") << 4 << 64 * gib << 4;
     QTest::newRow("no more than 4 GiB are shared") << 64 << 64 * gib << 5;
@@ -227,13 +250,13 @@ void ConvertRulesTest::runsAtOnceFitTheMachine()
 {
     QFETCH(int, cores);
     QFETCH(Size, ram);
-    QTEST(int(mostAtOnce(static_cast<size_t>(cores), ram)), "atOnce");
+    QTEST(int(maxConcurrency(static_cast<size_t>(cores), ram)), "concurrency");
 }
 
 void ConvertRulesTest::limitsFollowTheMachine_data()
 {
     constexpr Size gib = Size(1) << 30;
-    QTest::addColumn<int>("atOnce");
+    QTest::addColumn<int>("concurrency");
     QTest::addColumn<int>("pages");
     QTest::addColumn<Size>("ram");
     QTest::addColumn<Size>("memory");
@@ -243,22 +266,23 @@ void ConvertRulesTest::limitsFollowTheMachine_data()
     QTest::newRow("several runs share") << 2 << 1 << 64 * gib << 21 * gib / 16 << 100;
     QTest::newRow("many leave half to the decoders") << 5 << 1 << 64 * gib << 31 * gib / 80 << 100;
     QTest::newRow("every further page has its own time")
-        << 1 << 200 << 5 * gib << 2 * gib << 100 + 199 * 30;
+        << 1 << 100 << 5 * gib << 2 * gib << 100 + 99 * 30;
+    QTest::newRow("an hour at most") << 1 << 1'000'000 << 5 * gib << 2 * gib << 3700;
 }
 
 void ConvertRulesTest::limitsFollowTheMachine()
 {
-    QFETCH(int, atOnce);
+    QFETCH(int, concurrency);
     QFETCH(int, pages);
     QFETCH(Size, ram);
     QFETCH(Size, memory);
     QFETCH(int, seconds);
-    const auto runs = static_cast<size_t>(atOnce);
+    const auto runs = static_cast<size_t>(concurrency);
     const ConvertLimits limits =
         limitsFor({runs, static_cast<size_t>(pages), 1 << 20}, ram, 400 * runs);
     QCOMPARE(limits.memory >> 20, memory >> 20);
     QCOMPARE(limits.disk, Size(300));
-    QCOMPARE(limits.threads, atOnce == 1 ? 0 : 1);
+    QCOMPARE(limits.threads, concurrency == 1 ? 0 : 1);
     QCOMPARE(limits.time, std::chrono::seconds(seconds));
     const std::vector<ResourceLimit> kernel = kernelLimits(limits);
     QCOMPARE(kernel.front().resource, RLIMIT_DATA);

@@ -5,6 +5,7 @@
 #include <QByteArrayList>
 #include <QString>
 
+#include <string>
 #include <vector>
 
 /// What the readers make of an image file.
@@ -12,13 +13,15 @@ struct Reading
 {
     /// None when ImageMagick has to convert it.
     std::vector<CopyablePage> pages;
-    /// The stream of each.
+    /// The stream of each, and its colour profile.
     QByteArrayList streams;
+    QByteArrayList profiles;
     /// Why the file is refused, or "".
     QString refusal;
 };
 
-Reading readImage(const QByteArray &file, Compression asked = Compression::Unset);
+/// `compress` is what the application asks for.
+Reading readImage(const QByteArray &file, const std::string &compress = {});
 
 /// Columns "file" and "isCopied", and the test over them.
 void addReadingRows();

@@ -1,6 +1,6 @@
-#include "copyablepage.h"
 #include "error.h"
 #include "fuzztarget.h"
+#include "imageplan.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::uint32_t longestSide = 32000;
+constexpr std::uint32_t maxSide = 32000;
 
 void demand(bool holds)
 {
@@ -25,18 +25,21 @@ void demand(bool holds)
 void demandExtentsInside(const CopyablePage &page, std::size_t size)
 {
     std::uint64_t end = 0;
+    demand(!page.extents.empty());
     for (const Extent &extent : page.extents) {
-        demand(extent.length > 0 && extent.offset >= end && extent.offset <= size &&
+        demand(extent.length > 0);
+        if (extent.isSpooled)
+            continue;
+        demand(extent.offset >= end && extent.offset <= size &&
                extent.length <= size - extent.offset);
         end = extent.offset + extent.length;
     }
-    demand(page.data.empty() ? !page.extents.empty() : page.extents.empty());
 }
 
 void demandWholePage(const CopyablePage &page, std::size_t size)
 {
-    demand(page.width > 0 && page.width <= longestSide);
-    demand(page.height > 0 && page.height <= longestSide);
+    demand(page.width > 0 && page.width <= maxSide);
+    demand(page.height > 0 && page.height <= maxSide);
     demand(std::isfinite(page.pageWidth) && page.pageWidth > 0);
     demand(std::isfinite(page.pageHeight) && page.pageHeight > 0);
     demand(page.components == 1 || page.components == 3);
@@ -82,17 +85,20 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t s
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const int file = memfd_create("picture", MFD_CLOEXEC);
-    demand(file >= 0 && write(file, data, size) == static_cast<ssize_t>(size));
+    const FileDescriptor file(memfd_create("image", MFD_CLOEXEC));
+    Spool spool(FileDescriptor(memfd_create("spool", MFD_CLOEXEC)));
+    demand(write(file.get(), data, size) == static_cast<ssize_t>(size));
     try {
-        if (const auto pages = copyablePages(file, Compression::Unset)) {
-            demand(!pages->empty());
-            for (const CopyablePage &page : *pages)
+        const ImagePlan plan = planImage(file.get(), {}, spool);
+        if (const auto *copied = std::get_if<CopiedImage>(&plan)) {
+            demand(!copied->pages.empty());
+            for (const CopyablePage &page : copied->pages)
                 demandWholePage(page, size);
+        } else {
+            demand(std::get<ConvertedImage>(plan).images > 0);
         }
     } catch (const ToolError &) {
         // An incomplete or damaged file.
     }
-    close(file);
     return 0;
 }

@@ -1,7 +1,6 @@
 // What both programs do with words and text.
 
 #include "text.h"
-#include "words.h"
 
 #include <QTest>
 

@@ -53,6 +53,19 @@ RunResult runBundled(const QString &name, const QStringList &arguments, const QS
     return runProgram(bundledTool(name), arguments, folder, variables);
 }
 
+RunResult runRealConvert(const QStringList &arguments, const QString &folder)
+{
+    const QString resources = bundleContents() + u"/Resources"_s;
+    const QStringList command = QString::fromUtf8(contentOf(resources + u"/convert.tool"_s))
+                                    .split(u'\n', Qt::SkipEmptyParts);
+    return runProgram(command.first(), command.mid(1) + arguments, folder,
+                      {{u"MAGICK_CONFIGURE_PATH"_s, resources + u"/magick/limits"_s},
+                       {u"XDG_CONFIG_HOME"_s, resources + u"/magick/rights"_s},
+                       {u"HOME"_s, resources + u"/magick"_s},
+                       {u"MAGICK_THREAD_LIMIT"_s, u"1"_s},
+                       {u"LC_ALL"_s, u"C.UTF-8"_s}});
+}
+
 RunResult assembleTools(const QString &contents, const Variables &variables,
                         const QStringList &options)
 {
@@ -69,7 +82,7 @@ ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkT
         QFile::copy(bundleContents() + folder + u"/policy.xml"_s,
                     contents() + folder + u"/policy.xml"_s);
     }
-    for (const QString &name : {u"convert"_s, u"convert-pages.so"_s, u"pdftk"_s})
+    for (const QString &name : {u"convert"_s, u"pdftk"_s})
         QFile::copy(bundledTool(name), tool(name));
     writeContent(contents() + u"/Resources/convert.tool"_s, convertTool.join(u'\n').toUtf8());
     writeContent(contents() + u"/Resources/pdftk.tool"_s, pdftkTool.join(u'\n').toUtf8());

@@ -31,6 +31,8 @@ RunResult runProgram(const QString &program, const QStringList &arguments, const
                      const Variables &variables = {});
 RunResult runBundled(const QString &name, const QStringList &arguments, const QString &folder,
                      const Variables &variables = {});
+/// The real ImageMagick under the policy of the bundle in the build tree, with one thread.
+RunResult runRealConvert(const QStringList &arguments, const QString &folder);
 /// Runs a program from a shell that has made its `setting` first: a limit, a mask, a trap.
 RunResult runInShell(const QString &setting, const QString &program, const QStringList &arguments,
                      const QString &folder, const Variables &variables = {});

@@ -13,6 +13,10 @@ class ToolFailuresTest : public QObject
     Q_OBJECT
 
 private slots:
+    void helpAndVersionAreAnswered_data();
+    void helpAndVersionAreAnswered();
+    void otherCallsStartNothing_data();
+    void otherCallsStartNothing();
     void failureIsPassedOn_data();
     void failureIsPassedOn();
     void diskFullForAMomentLeavesTheOlderPdf();
@@ -28,13 +32,14 @@ private slots:
 
 namespace {
 
-// The same script for both programs: RESULT stands for what each of them has to write.
-ToolBundle bundleOf(QString script)
+// The same script for both programs: RESULT stands for what each of them has to write, INPUT for
+// the input in the folder of the call.
+ToolBundle bundleOf(const QString &script)
 {
-    const auto tool = [&script](const QString &result) {
-        return shellTool(QString(script).replace(u"RESULT"_s, result));
+    const auto tool = [&script](const QString &result, const QString &input) {
+        return shellTool(QString(script).replace(u"RESULT"_s, result).replace(u"INPUT"_s, input));
     };
-    return {tool(u"page-1"_s), tool(u"result.pdf"_s)};
+    return {tool(u"page.pdf"_s, u"../../in.pdf"_s), tool(u"result.pdf"_s, u"../in.pdf"_s)};
 }
 
 QStringList callOf(const QString &program)
@@ -44,6 +49,60 @@ QStringList callOf(const QString &program)
 }
 
 } // namespace
+
+void ToolFailuresTest::helpAndVersionAreAnswered_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::newRow("help") << u"--help"_s << QByteArray("usage: PROGRAM ");
+    QTest::newRow("version") << u"--version"_s << QByteArray("PROGRAM of Tessaro ");
+}
+
+void ToolFailuresTest::helpAndVersionAreAnswered()
+{
+    QFETCH(QString, option);
+    QFETCH(QByteArray, answer);
+    for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
+        const RunResult result = runBundled(program, {option}, QDir::tempPath());
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.errors, QByteArray());
+        QVERIFY2(result.output.startsWith(answer.replace("PROGRAM", program.toUtf8())),
+                 result.output.constData());
+        QCOMPARE(result.output.count('\n'), 1);
+    }
+}
+
+void ToolFailuresTest::otherCallsStartNothing_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("convert, no arguments") << u"convert"_s << QStringList{};
+    QTest::newRow("convert, the real tool's version") << u"convert"_s << QStringList{u"-version"_s};
+    QTest::newRow("convert, a file written on the way")
+        << u"convert"_s
+        << QStringList{u"in.pdf"_s, u"-write"_s, u"jpg:victim"_s, u"in.pdf"_s, u"o.pdf"_s};
+    QTest::newRow("pdftk, no arguments") << u"pdftk"_s << QStringList{};
+    QTest::newRow("pdftk, another operation")
+        << u"pdftk"_s << QStringList{u"in.pdf"_s, u"cat"_s, u"output"_s, u"victim"_s};
+}
+
+void ToolFailuresTest::otherCallsStartNothing()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, arguments);
+    const QTemporaryDir folder;
+    const QStringList tool = shellTool(u"touch '%1/started'"_s.arg(folder.path()));
+    const ToolBundle bundle(tool, tool);
+    writeContent(folder.filePath(u"in.pdf"_s), "in");
+    writeContent(folder.filePath(u"victim"_s), "kept");
+    const RunResult result = runProgram(bundle.tool(program), arguments, folder.path());
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.errors.startsWith("usage: " + program.toUtf8()) &&
+                 result.errors.count('\n') == 1,
+             result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"victim"_s}));
+    QCOMPARE(contentOf(folder.filePath(u"victim"_s)), QByteArray("kept"));
+}
 
 void ToolFailuresTest::failureIsPassedOn_data()
 {
@@ -55,15 +114,17 @@ void ToolFailuresTest::failureIsPassedOn_data()
     QTest::newRow("exits 1 with a whole result")
         << "printf '%%PDF-1.4\\n%%%%EOF\\n' >RESULT; exit 1" << 1 << QByteArray();
     QTest::newRow("exits 0 without a result")
-        << "exit 0" << 1 << QByteArray("the tool reported success but left no whole PDF\n");
+        << "exit 0" << 1
+        << QByteArray("PROGRAM: the tool reported success but left no whole PDF\n");
     QTest::newRow("exits 0 with an empty result")
-        << ": >RESULT" << 1 << QByteArray("the tool reported success but left no whole PDF\n");
+        << ": >RESULT" << 1
+        << QByteArray("PROGRAM: the tool reported success but left no whole PDF\n");
     QTest::newRow("exits 0 with a result that breaks off")
         << "printf '%%PDF-1.4\\n' >RESULT" << 1
-        << QByteArray("the tool reported success but left no whole PDF\n");
+        << QByteArray("PROGRAM: the tool reported success but left no whole PDF\n");
     QTest::newRow("exits 0 with a link for a result")
         << "ln -s /etc/passwd RESULT" << 1
-        << QByteArray("the tool reported success but left no whole PDF\n");
+        << QByteArray("PROGRAM: the tool reported success but left no whole PDF\n");
     QTest::newRow("ends itself by a signal")
         << "kill -SEGV $$" << 1 << QByteArray("ended by signal 11\n");
 }
@@ -82,7 +143,7 @@ void ToolFailuresTest::failureIsPassedOn()
         const RunResult result = runProgram(bundle.tool(program), callOf(program), folder.path(),
                                             {{u"TMPDIR"_s, pixels.path()}});
         QCOMPARE(result.status, status);
-        QCOMPARE(result.errors, errors);
+        QCOMPARE(result.errors, QByteArray(errors).replace("PROGRAM", program.toUtf8()));
         QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
         QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"o.pdf"_s}));
         QCOMPARE(namesIn(pixels.path()), QStringList());
@@ -119,7 +180,7 @@ void ToolFailuresTest::imageThatChangesMeanwhileIsRefused()
 
 void ToolFailuresTest::successIsQuiet()
 {
-    const ToolBundle bundle = bundleOf(u"echo warning; echo warning >&2; cp ../in.pdf RESULT"_s);
+    const ToolBundle bundle = bundleOf(u"echo warning; echo warning >&2; cp INPUT RESULT"_s);
     for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const QTemporaryDir folder;
         makeImage(folder.filePath(u"x.png"_s));
@@ -156,8 +217,8 @@ void ToolFailuresTest::realToolSeesPlainNames()
         runProgram(bundle.tool(u"convert"_s),
                    {u"-rotate"_s, u"90"_s, u"a %d[0].png"_s, u"-5%.pdf"_s}, folder.path());
     // The tool was given "input-1.png"; the name is put back.
-    QCOMPARE(result.errors, QByteArray("-rotate 90 a %d[0].png +profile !icc,!icm,* +set comment "
-                                       "+set label pdf:page-1\ncontent\n"));
+    QCOMPARE(result.errors, QByteArray("a %d[0].png -rotate 90 +profile !icc,!icm,* +set comment "
+                                       "+set label pdf:page.pdf\ncontent\n"));
 }
 
 void ToolFailuresTest::realToolSeesACleanEnvironment()
@@ -218,7 +279,7 @@ void ToolFailuresTest::onlyReadableFolderIsNamed()
     const RunResult result =
         runBundled(u"convert"_s, {u"x.png"_s, u"/proc/o.pdf"_s}, folder.path());
     QCOMPARE(result.status, 1);
-    QVERIFY2(result.errors.startsWith("convert: cannot make a folder in '/proc'"),
+    QVERIFY2(result.errors.startsWith("convert: cannot create a folder in '/proc'"),
              result.errors.constData());
 }
 

@@ -302,7 +302,7 @@ void ToolFoldersTest::messagesNameTheRightInput()
     QFETCH(QByteArray, message);
     const ToolBundle bundle(
         shellTool(u"[ $1 != $FAILING ] || { echo \"cannot read $1\" >&2; exit 1; }; "
-                  "for last; do :; done; cp ../whole.pdf ${last#pdf:}"_s),
+                  "for last; do :; done; cp ../../whole.pdf ${last#pdf:}"_s),
         {u"/bin/false"_s});
     const QTemporaryDir folder;
     makeImage(folder.filePath(u"x.png"_s));

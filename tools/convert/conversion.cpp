@@ -1,47 +1,37 @@
 #include "conversion.h"
 
 #include "error.h"
-#include "filedescriptor.h"
-#include "jpegscaling.h"
 #include "magick.h"
 #include "magickwarnings.h"
 #include "text.h"
 
 #include <algorithm>
-#include <csignal>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
+constexpr const char *pageName = "page.pdf";
+
 // Pages of a TIFF file that one run takes: finding a page means going through those before it.
 size_t pagesPerRun(size_t pages)
 {
-    constexpr size_t mostRuns = 1000;
-    return (pages + mostRuns - 1) / mostRuns;
+    constexpr size_t maxRuns = 1000;
+    return (pages + maxRuns - 1) / maxRuns;
 }
 
-std::string selector(size_t first, size_t count)
+std::string selectorOf(size_t first, size_t count)
 {
     const std::string from = std::to_string(first);
     return count == 1 ? "[" + from + "]"
                       : "[" + from + "-" + std::to_string(first + count - 1) + "]";
 }
 
-// Of the run that makes this part, in the private folder.
-std::string resultName(size_t part)
+// The folder of the run that makes this part, in the folder of the call.
+std::string runFolder(size_t part)
 {
-    return "page-" + std::to_string(part + 1);
-}
-
-// The folder of the PDF itself is the last resort.
-PrivateFolder pixelPlace(const std::string &lastResort)
-{
-    std::vector<std::string> folders = pixelFolders();
-    folders.push_back(lastResort);
-    return PrivateFolder::inFirstOf(folders);
+    return "run-" + std::to_string(part + 1);
 }
 
 std::string titleOf(const std::string &output)
@@ -54,48 +44,38 @@ std::string titleOf(const std::string &output)
 
 Conversion::Conversion(const ConvertCall &call)
     : m_call(call)
-    , m_mayCopy(!changesPixels(call.options))
-    , m_mostAtOnce(mostAtOnce(machineCores(), machineMemory()))
-    , m_job(call.output)
-    , m_pixels(pixelPlace(folderOf(call.output)))
+    , m_concurrency(maxConcurrency(machineCores(), machineMemory()))
+    , m_output(call.output)
+    , m_spool(m_output.folder().addFile("spool"))
 {
 }
 
-Outcome Conversion::run()
+std::string Conversion::run()
 {
     while (true) {
-        while (m_pool.atWork() < m_mostAtOnce && startNext()) {
+        while (m_pool.atWork() < m_concurrency && startNext()) {
         }
-        // Loaded while the first ones are at work.
-        pageLibrary();
         if (m_pool.atWork() == 0)
-            return join();
-        if (std::optional<Outcome> failure = finish(m_pool.wait()))
-            return *failure;
+            break;
+        finish(m_pool.wait());
     }
-}
-
-bool Conversion::startNext()
-{
-    if (m_runs.empty() && !planNext())
-        return false;
-    Run run = std::move(m_runs.front());
-    m_runs.pop_front();
-    const bool alone = m_call.inputs.size() == 1 && m_runs.empty() && m_parts.size() == 1;
-    run.work.atOnce = alone ? 1 : m_mostAtOnce;
-    const ConvertLimits limits = limitsFor(run.work, machineMemory(), freeBytesIn(m_pixels.path()));
-    ChildSpec spec = magickRun(run.words, limits, m_pixels.path());
-    spec.folder = m_job.folder().descriptor();
-    m_pool.start(std::move(spec), run.part);
-    return true;
+    join();
+    return m_warnings;
 }
 
 // False when no image is left that ImageMagick has to convert.
-bool Conversion::planNext()
+bool Conversion::startNext()
 {
-    while (m_runs.empty() && m_planned < m_call.inputs.size())
+    while (m_runs.empty() && m_planned < m_call.inputs.size()) {
+        requireNoSignal();
         plan(m_call.inputs[m_planned++]);
-    return !m_runs.empty();
+    }
+    if (m_runs.empty())
+        return false;
+    const Run run = std::move(m_runs.front());
+    m_runs.pop_front();
+    start(run);
+    return true;
 }
 
 void Conversion::plan(const std::string &path)
@@ -103,93 +83,81 @@ void Conversion::plan(const std::string &path)
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.valid())
         throw systemError("cannot read", path);
+    const FileIdentity identity = identityOf(file.get(), path);
+    ImagePlan plan;
     try {
-        if (!copy(path, file.get()))
-            convert(path, file.get());
+        plan = planImage(file.get(), m_call.options, m_spool);
     } catch (const ToolError &error) {
         throw ToolError("cannot convert '" + path + "': " + error.what());
     }
+    requireUnchanged(file.get(), path, identity);
+    if (auto *copied = std::get_if<CopiedImage>(&plan))
+        m_parts.push_back({path, std::move(copied->pages), identity});
+    else
+        addRuns(path, std::get<ConvertedImage>(plan),
+                static_cast<unsigned long long>(identity.size));
 }
 
-// Looks also at the files that cannot be copied: those that are not whole are refused here.
-bool Conversion::copy(const std::string &path, int file)
+// Each image of a TIFF file is a run of its own.
+void Conversion::addRuns(const std::string &path, const ConvertedImage &image,
+                         unsigned long long bytes)
 {
-    const ImageKind kind = imageKind(file);
-    if (kind == ImageKind::Gif || kind == ImageKind::Other)
-        return false;
-    std::optional<std::vector<CopyablePage>> pages = pageLibrary().copyablePages(
-        file, m_mayCopy ? askedCompression(m_call.options) : Compression::Other);
-    if (!pages)
-        return false;
-    m_parts.push_back({path, std::move(*pages), fileStamp(file)});
-    return true;
-}
-
-// The images of a TIFF file are runs of their own.
-void Conversion::convert(const std::string &path, int file)
-{
-    const ImageKind kind = imageKind(file);
-    const std::vector<std::string> options = optionsFor(file, kind);
-    const std::string input = m_job.addInput(path, inputName(m_planned, path));
-    const bool several = kind == ImageKind::Tiff || kind == ImageKind::Gif;
-    const size_t images = several ? pageLibrary().imagesIn(file) : 1;
-    const auto bytes = static_cast<unsigned long long>(fileStamp(file).size);
-    if (kind != ImageKind::Tiff || images == 1) {
-        addRun(options, input, {.pages = images, .bytes = bytes});
-        return;
-    }
-    for (size_t first = 0; first < images; first += pagesPerRun(images)) {
-        const size_t count = std::min(pagesPerRun(images), images - first);
-        addRun(options, input + selector(first, count), {.pages = count, .bytes = bytes});
-        m_parts.back().leastPages = count;
+    const bool isSplit = image.kind == ImageKind::Tiff && image.images > 1;
+    const size_t perRun = isSplit ? pagesPerRun(image.images) : image.images;
+    for (size_t first = 0; first < image.images; first += perRun) {
+        const size_t count = std::min(perRun, image.images - first);
+        const size_t part = m_parts.size();
+        m_runs.push_back({path,
+                          image,
+                          isSplit ? selectorOf(first, count) : "",
+                          part,
+                          {.pages = count, .bytes = bytes}});
+        DocumentPart &made = m_parts.emplace_back();
+        made.path = m_output.folder().path() + "/" + runFolder(part) + "/" + pageName;
+        made.minPages = isSplit ? count : 1;
     }
 }
 
-std::vector<std::string> Conversion::optionsFor(int file, ImageKind kind) const
+// Each run has folders of its own, for the page and for its pixels.
+void Conversion::start(const Run &run)
 {
-    const bool resized = !m_call.options.empty() && m_call.options.front() == "-resize";
-    if (kind != ImageKind::Jpeg || !resized)
-        return m_call.options;
-    return shrinkingOptions(m_call.options, pageLibrary().jpegSize(file)).value_or(m_call.options);
+    if (!m_pixels)
+        m_pixels = WorkDirectory::inFirstOf(pixelFolders(folderOf(m_call.output)));
+    const std::string name = runFolder(run.part);
+    const FileDescriptor folder = m_output.folder().addFolder(name);
+    m_pixels->addFolder(name);
+    const std::string input =
+        m_inputs.add(folder.get(), run.path, inputName(run.part + 1, run.path)) + run.selector;
+    Workload work = run.work;
+    const bool alone = m_call.inputs.size() == 1 && m_runs.empty() && m_parts.size() == 1;
+    work.concurrency = alone ? 1 : m_concurrency;
+    ChildSpec spec = magickCommand(pageArguments(m_call.options, run.image, input, pageName),
+                                   limitsFor(work, machineMemory(), freeBytesIn(m_pixels->path())),
+                                   m_pixels->path() + "/" + name);
+    spec.folder = folder.get();
+    m_pool.start(std::move(spec), run.part);
 }
 
-void Conversion::addRun(const std::vector<std::string> &options, const std::string &input,
-                        const Workload &work)
+void Conversion::finish(const ChildPool::Ended &ended)
 {
-    const std::string result = resultName(m_parts.size());
-    m_runs.push_back({pageWords(options, input, result), m_parts.size(), work});
-    m_parts.push_back({.path = m_job.folder().path() + "/" + result});
+    const std::string warnings = m_inputs.requireSuccess(ended.result);
+    requireNoSignal();
+    if (reportsDamage(ended.result.errors))
+        throw ToolError({1, "", warnings + "the image is damaged or not complete\n"});
+    m_warnings += warnings;
+    validatePdf(m_output.folder().descriptor(), runFolder(ended.number) + "/" + pageName);
 }
 
-// The outcome of the whole call, when the end of a run is a failure.
-std::optional<Outcome> Conversion::finish(const ChildPool::Ended &ended)
+void Conversion::join()
 {
-    const Outcome outcome = m_job.outcomeOf(ended.result);
-    if (outcome.status != 0)
-        return outcome;
+    writeDocument(m_output.folder().addFile(OutputTransaction::resultName).get(), m_parts,
+                  m_spool.file(), titleOf(m_call.output), [this] { requireNoSignal(); });
+    requireNoSignal();
+    m_output.commit();
+}
+
+void Conversion::requireNoSignal()
+{
     if (const int signal = m_pool.askedToEnd())
-        return Outcome{1, "", "ended by signal " + std::to_string(signal) + "\n"};
-    if (tellOfDamage(ended.result.errors))
-        return Outcome{1, outcome.output,
-                       outcome.errors + "the image is damaged or not complete\n"};
-    m_warnings += outcome.errors;
-    Outcome failure = m_job.check(resultName(ended.number));
-    return failure.status != 0 ? std::optional(failure) : std::nullopt;
-}
-
-Outcome Conversion::join()
-{
-    {
-        const FileDescriptor file(openat(m_job.folder().descriptor(), Job::resultName,
-                                         O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (!file.valid())
-            throw systemError("cannot write", m_call.output);
-        pageLibrary().writeDocument(file.get(), m_parts, titleOf(m_call.output));
-    }
-    if (const int signal = m_pool.askedToEnd())
-        return {1, "", "ended by signal " + std::to_string(signal) + "\n"};
-    Outcome outcome = m_job.deliver();
-    if (outcome.status == 0)
-        outcome.errors = m_warnings;
-    return outcome;
+        throw ToolError({1, "", "ended by signal " + std::to_string(signal) + "\n"});
 }

@@ -4,31 +4,37 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <charconv>
 #include <string_view>
-
-#include <unistd.h>
 
 namespace {
 
-struct Option
+using Words = std::vector<std::string>;
+
+// The application's words for a compression, and what they are to data that may be copied.
+struct CompressionWord
 {
     std::string_view word;
-    size_t values;
+    Compression compression;
 };
 
-constexpr std::array<Option, 4> knownOptions = {{
-    {"-resize", 1},
-    {"-rotate", 1},
-    {"-compress", 1},
-    {"-monochrome", 0},
+constexpr std::array<CompressionWord, 10> compressionWords = {{
+    {"None", Compression::Other},
+    {"Bzip", Compression::Other},
+    {"Fax", Compression::Other},
+    {"Group4", Compression::Group4},
+    {"JPEG", Compression::Jpeg},
+    {"JPEG2000", Compression::Other},
+    {"Lossless", Compression::Other},
+    {"LZW", Compression::Other},
+    {"RLE", Compression::Other},
+    {"zip", Compression::Zip},
 }};
 
-const Option *optionNamed(const std::string &word)
+const CompressionWord *compressionNamed(std::string_view word)
 {
-    const auto *option = std::find_if(knownOptions.begin(), knownOptions.end(),
-                                      [&word](const Option &known) { return known.word == word; });
-    return option == knownOptions.end() ? nullptr : option;
+    const auto *found = std::ranges::find(compressionWords, word, &CompressionWord::word);
+    return found == compressionWords.end() ? nullptr : found;
 }
 
 // Extensions of formats that the policy lets ImageMagick read (tools/policy/rights.xml).
@@ -48,70 +54,82 @@ std::string lowerCase(std::string word)
     return word;
 }
 
-// The last value given with `option`, or nothing.
-std::optional<std::string> valueOf(const std::vector<std::string> &options, std::string_view option)
+// "595x842" and nothing else.
+bool parseResize(const std::string &word, ConvertOptions &options)
 {
-    std::optional<std::string> value;
-    for (size_t i = 0; i < options.size(); i += 1 + optionNamed(options[i])->values) {
-        if (options[i] == option)
-            value = options[i + 1];
-    }
-    return value;
+    PixelSize &box = options.resize.emplace();
+    const char *end = word.data() + word.size();
+    const auto [middle, widthError] = std::from_chars(word.data(), end, box.width);
+    if (widthError != std::errc() || middle == end || *middle != 'x')
+        return false;
+    const auto [last, heightError] = std::from_chars(middle + 1, end, box.height);
+    return heightError == std::errc() && last == end && box.width > 0 && box.height > 0;
 }
 
-// A word with a leading dash is an option at a place where the application puts none, or the
-// standard input, unless there is a file of that name.
-bool isFileName(const std::string &word)
+// A decimal number, which may have a sign: a person may type it into the application's box.
+bool parseRotate(const std::string &word, ConvertOptions &options)
 {
-    return !word.empty() && (!word.starts_with('-') || access(word.c_str(), F_OK) == 0);
+    const size_t sign = word.starts_with('-') || word.starts_with('+') ? 1 : 0;
+    const char *end = word.data() + word.size();
+    double degrees = 0;
+    const auto [last, error] = std::from_chars(word.data() + sign, end, degrees);
+    options.rotate = word;
+    return error == std::errc() && last == end &&
+           word.find_first_not_of("0123456789.", sign) == std::string::npos;
 }
+
+bool parseCompress(const std::string &word, ConvertOptions &options)
+{
+    options.compress = word;
+    return compressionNamed(word) != nullptr;
+}
+
+// In the order in which the application puts them.
+struct ValueOption
+{
+    std::string_view word;
+    bool (*parse)(const std::string &word, ConvertOptions &options);
+};
+
+constexpr std::array<ValueOption, 3> valueOptions = {{
+    {"-resize", parseResize},
+    {"-rotate", parseRotate},
+    {"-compress", parseCompress},
+}};
 
 } // namespace
 
-std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &arguments)
+bool ConvertOptions::changesPixels() const
 {
-    size_t next = 0;
-    while (next < arguments.size()) {
-        const Option *option = optionNamed(arguments[next]);
-        if (!option)
-            break;
-        next += 1 + option->values;
+    const bool turns = rotate.find_first_of("123456789") != std::string::npos;
+    return resize || turns || monochrome;
+}
+
+bool ConvertOptions::allows(Compression compression) const
+{
+    return compress.empty() || compressionNamed(compress)->compression == compression;
+}
+
+std::optional<ConvertCall> parseConvertCall(const Words &arguments)
+{
+    ConvertCall call;
+    auto word = arguments.begin();
+    for (const ValueOption &option : valueOptions) {
+        if (word == arguments.end() || *word != option.word)
+            continue;
+        if (++word == arguments.end() || !option.parse(*word++, call.options))
+            return std::nullopt;
     }
-    if (next + 2 > arguments.size() || !arguments.back().ends_with(".pdf"))
+    call.options.monochrome = word != arguments.end() && *word == "-monochrome";
+    word += call.options.monochrome ? 1 : 0;
+    if (arguments.end() - word < 2 || !arguments.back().ends_with(".pdf"))
         return std::nullopt;
-    const auto firstInput = arguments.begin() + static_cast<ptrdiff_t>(next);
-    if (!std::all_of(firstInput, arguments.end() - 1, isFileName))
-        return std::nullopt;
-    return ConvertCall{
-        {arguments.begin(), firstInput}, {firstInput, arguments.end() - 1}, arguments.back()};
-}
-
-bool asksToDelete(const std::vector<std::string> &arguments)
-{
-    return std::ranges::any_of(arguments, [](const std::string &word) {
-        return lowerCase(word).find("ephemeral:") != std::string::npos;
-    });
-}
-
-bool changesPixels(const std::vector<std::string> &options)
-{
-    for (size_t i = 0; i < options.size(); i += 1 + optionNamed(options[i])->values) {
-        const bool turnsNothing = options[i] == "-rotate" && options[i + 1] == "0";
-        if (options[i] != "-compress" && !turnsNothing)
-            return true;
-    }
-    return false;
-}
-
-Compression askedCompression(const std::vector<std::string> &options)
-{
-    static const std::map<std::string, Compression> words = {
-        {"jpeg", Compression::Jpeg}, {"zip", Compression::Zip}, {"group4", Compression::Group4}};
-    const std::optional<std::string> value = valueOf(options, "-compress");
-    if (!value)
-        return Compression::Unset;
-    const auto word = words.find(lowerCase(*value));
-    return word == words.end() ? Compression::Other : word->second;
+    call.inputs = {word, arguments.end() - 1};
+    call.output = arguments.back();
+    const auto isPath = [](const std::string &path) {
+        return !path.empty() && !path.starts_with('-');
+    };
+    return std::ranges::all_of(call.inputs, isPath) ? std::optional(call) : std::nullopt;
 }
 
 std::string inputName(size_t number, const std::string &path)

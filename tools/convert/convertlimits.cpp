@@ -18,23 +18,25 @@ constexpr unsigned long long gibibyte = 1024 * mebibyte;
 
 // Two fifths of a 4 GiB machine leave room for the window, the desktop and the PDF being written;
 // on larger ones pixels go to disk as late as the bound of 4 GiB for the whole call lets them.
-constexpr unsigned long long mostPixelMemory = 13 * gibibyte / 4;
-constexpr unsigned long long mostBesidePixels = 5 * gibibyte / 8;
+constexpr unsigned long long maxPixelMemory = 13 * gibibyte / 4;
+constexpr unsigned long long maxBesidePixels = 5 * gibibyte / 8;
 
 // Less for each of several runs, and pages of usual scans and photos would go to disk: 24
 // megapixels take 183 MiB, twice that while they are turned.
-constexpr unsigned long long leastForOneOfSeveral = 768 * mebibyte;
+constexpr unsigned long long minForOneOfSeveral = 768 * mebibyte;
 
 // A4 pages in colour at 300 dots per inch take five seconds at worst (-monochrome).
 constexpr std::chrono::seconds timeForFirst{100};
 constexpr std::chrono::seconds timeForEachFurther{30};
+// A GIF file can claim a frame with twelve bytes; each run of a TIFF file makes few pages.
+constexpr size_t maxFurther = 120;
 
 // Below this size of an input file a second thread costs more to start than it saves.
 constexpr unsigned long long smallInput = 64ULL * 1024;
 
 unsigned long long pixelMemory(unsigned long long ram)
 {
-    return std::min(ram / 5 * 2, mostPixelMemory);
+    return std::min(ram / 5 * 2, maxPixelMemory);
 }
 
 bool isInMemory(const std::string &folder)
@@ -48,26 +50,28 @@ bool isInMemory(const std::string &folder)
 
 ConvertLimits limitsFor(const Workload &work, unsigned long long ram, unsigned long long freeDisk)
 {
-    const unsigned long long share = (pixelMemory(ram) + mostBesidePixels) / work.atOnce;
-    const unsigned long long beside = std::min(mostBesidePixels, share / 2);
-    const auto further = static_cast<int>(work.pages - std::min<size_t>(work.pages, 1));
+    const unsigned long long share = (pixelMemory(ram) + maxBesidePixels) / work.concurrency;
+    const unsigned long long beside = std::min(maxBesidePixels, share / 2);
+    const auto further =
+        static_cast<int>(std::min(work.pages - std::min<size_t>(work.pages, 1), maxFurther));
     // Two runs with two threads each are slower than one after the other.
-    const bool oneThread = work.atOnce > 1 || work.bytes < smallInput;
-    return {share - beside, beside, freeDisk / 4 * 3 / work.atOnce,
+    const bool oneThread = work.concurrency > 1 || work.bytes < smallInput;
+    return {share - beside, beside, freeDisk / 4 * 3 / work.concurrency,
             timeForFirst + further * timeForEachFurther, oneThread ? 1 : 0};
 }
 
-size_t mostAtOnce(size_t cores, unsigned long long ram)
+size_t maxConcurrency(size_t cores, unsigned long long ram)
 {
-    const unsigned long long fitting = (pixelMemory(ram) + mostBesidePixels) / leastForOneOfSeveral;
+    const unsigned long long fitting = (pixelMemory(ram) + maxBesidePixels) / minForOneOfSeveral;
     return std::clamp<size_t>(fitting, 1, std::max<size_t>(cores, 1));
 }
 
-std::vector<std::string> pixelFolders()
+std::vector<std::string> pixelFolders(const std::string &lastResort)
 {
     std::vector<std::string> folders = temporaryFolders();
     std::stable_partition(folders.begin(), folders.end(),
                           [](const std::string &folder) { return !isInMemory(folder); });
+    folders.push_back(lastResort);
     return folders;
 }
 
@@ -107,5 +111,5 @@ std::vector<std::string> limitVariables(const ConvertLimits &limits)
 
 std::vector<ResourceLimit> kernelLimits(const ConvertLimits &limits)
 {
-    return {{RLIMIT_DATA, limits.memory + limits.memoryBesidePixels}, {RLIMIT_CORE, 0}};
+    return {{RLIMIT_DATA, limits.memory + limits.memoryBesidePixels}};
 }

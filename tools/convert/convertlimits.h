@@ -10,7 +10,7 @@
 struct Workload
 {
     /// Runs at the same time.
-    size_t atOnce = 1;
+    size_t concurrency = 1;
     /// Pages that this one makes.
     size_t pages = 1;
     /// Of its image file.
@@ -32,11 +32,11 @@ struct ConvertLimits
 ConvertLimits limitsFor(const Workload &work, unsigned long long ram, unsigned long long freeDisk);
 
 /// How many runs may be at work at the same time on a machine with `cores` and `ram`.
-size_t mostAtOnce(size_t cores, unsigned long long ram);
+size_t maxConcurrency(size_t cores, unsigned long long ram);
 
 /// Folders for pixels that do not fit into memory, the best one first: those for temporary files,
-/// and in front of the others those that are not kept in memory themselves.
-std::vector<std::string> pixelFolders();
+/// and in front of the others those that are not kept in memory themselves; last `lastResort`.
+std::vector<std::string> pixelFolders(const std::string &lastResort);
 
 unsigned long long freeBytesIn(const std::string &folder);
 unsigned long long machineMemory();
@@ -46,5 +46,5 @@ size_t machineCores();
 /// The limits as ImageMagick reads them from its environment.
 std::vector<std::string> limitVariables(const ConvertLimits &limits);
 
-/// What the kernel enforces beside that: the memory that decoders take for themselves.
+/// What the kernel enforces besides: the memory that decoders take for themselves.
 std::vector<ResourceLimit> kernelLimits(const ConvertLimits &limits);

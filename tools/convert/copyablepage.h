@@ -6,19 +6,15 @@
 #include <utility>
 #include <vector>
 
-/// A run of bytes of the image file.
+/// A run of bytes of the image file, or of the spool.
 struct Extent
 {
-    std::uint64_t offset;
-    std::uint64_t length;
-
-    bool operator==(const Extent &other) const
-    {
-        return offset == other.offset && length == other.length;
-    }
+    std::uint64_t offset = 0;
+    std::uint64_t length = 0;
+    bool isSpooled = false;
 };
 
-/// A page whose image goes into the PDF as its compressed data stands.
+/// A page whose image goes into the PDF as compressed data that is not decoded.
 struct CopyablePage
 {
     /// Pixels of the image as stored.
@@ -38,18 +34,11 @@ struct CopyablePage
     std::vector<std::pair<std::string, std::string>> decodeParms;
     /// Whether 0 is white: /Decode [1 0].
     bool inverted = false;
-    /// The profile of /ICCBased, with as many components as the image; "" for none.
-    std::string iccProfile;
-    /// One after the other they are the stream.
+    /// The profile of /ICCBased, with as many components as the image, in the spool.
+    std::optional<Extent> iccProfile;
+    /// One after the other they are the stream. No byte of them is metadata.
     std::vector<Extent> extents;
-    /// The stream itself, used instead of the extents when not empty.
-    std::string data;
 };
 
-/// The compression that the command line asks for.
-enum class Compression { Unset, Jpeg, Zip, Group4, Other };
-
-/// The pages of the image in the descriptor `file`, a regular file, or nothing when ImageMagick has
-/// to convert it. No byte of what is copied is metadata. Moves no file offset. Throws ToolError
-/// when a JPEG, PNG or TIFF file is incomplete or damaged, whatever is asked for.
-std::optional<std::vector<CopyablePage>> copyablePages(int file, Compression asked);
+/// The compressions of pages that are copied, and all others.
+enum class Compression { Jpeg, Zip, Group4, Other };

@@ -13,7 +13,7 @@ struct Density
 };
 
 /// ImageMagick's policy refuses an image with a longer side (tools/policy/limits.xml).
-constexpr std::uint32_t longestSide = 32000;
+constexpr std::uint32_t maxSide = 32000;
 
 /// Sets the page's size to what ImageMagick 6.9.11 and 7.1.1 write for its pixels at this density.
 void setPageSize(CopyablePage &page, const Density &density);

@@ -20,7 +20,7 @@ FileBytes::FileBytes(int file)
 {
     struct stat status = {};
     if (fstat(file, &status) != 0)
-        throw systemError("cannot read", "the picture");
+        throw systemError("cannot read", "the image");
     m_size = static_cast<std::uint64_t>(std::max<off_t>(status.st_size, 0));
     m_block.resize(std::min<std::uint64_t>(blockCapacity, m_size));
 }
@@ -42,7 +42,7 @@ bool FileBytes::load()
         count = pread(m_file, m_block.data(), m_block.size(), static_cast<off_t>(m_offset));
     } while (count < 0 && errno == EINTR);
     if (count < 0)
-        throw systemError("cannot read", "the picture");
+        throw systemError("cannot read", "the image");
     m_blockStart = m_offset;
     m_blockSize = static_cast<std::size_t>(count);
     return count > 0;

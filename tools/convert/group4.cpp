@@ -137,13 +137,13 @@ bool copyRows(TIFF *from, TIFF *to, std::uint32_t height)
     return TIFFFlushData(to) == 1;
 }
 
-std::string onlyStrip(TIFF *tiff, const Source &source)
+std::optional<std::string> onlyStrip(TIFF *tiff, const Source &source)
 {
     const uint64_t *offsets = nullptr;
     const uint64_t *counts = nullptr;
     if (TIFFGetField(tiff, TIFFTAG_STRIPOFFSETS, &offsets) != 1 ||
         TIFFGetField(tiff, TIFFTAG_STRIPBYTECOUNTS, &counts) != 1)
-        return {};
+        return std::nullopt;
     return source.memory.substr(offsets[0], counts[0]);
 }
 

@@ -36,8 +36,8 @@ constexpr std::string_view iccProfile("ICC_PROFILE\0", 12);
 constexpr std::string_view photoshop("Photoshop 3.0\0", 14);
 constexpr std::string_view adobe("Adobe", 5);
 
-// What a progressive image needs is some ten; each takes a viewer as long as the whole picture.
-constexpr int mostScans = 100;
+// What a progressive image needs is some ten; each takes a viewer as long as the whole image.
+constexpr int maxScans = 100;
 
 std::uint8_t byteIn(const std::string &bytes, std::size_t at)
 {
@@ -59,12 +59,13 @@ bool isFactor(int factor)
 class JpegWalk
 {
 public:
-    explicit JpegWalk(FileBytes &file)
+    JpegWalk(FileBytes &file, Spool &spool)
         : m_file(file)
+        , m_spool(spool)
     {
     }
 
-    std::optional<CopyablePage> page();
+    JpegImage image();
 
 private:
     int nextMarker();
@@ -82,7 +83,9 @@ private:
     void keep(std::uint64_t from);
 
     FileBytes &m_file;
+    Spool &m_spool;
     CopyablePage m_page;
+    std::string m_profile;
     // The payloads that state a density.
     std::optional<Density> m_photoshop;
     std::optional<std::string> m_jfif;
@@ -101,7 +104,7 @@ private:
     int m_profilePartsPromised = 0;
 };
 
-std::optional<CopyablePage> JpegWalk::page()
+JpegImage JpegWalk::image()
 {
     nextMarker();
     keep(m_markerStart);
@@ -109,17 +112,16 @@ std::optional<CopyablePage> JpegWalk::page()
     while (marker != endOfImage) {
         // JPEG-LS hides other bytes than JPEG does: its scans cannot be walked over.
         if (marker == losslessLs)
-            return std::nullopt;
+            return {};
         segment(marker);
         marker = marker == startOfScan ? markerAfterScan() : nextMarker();
     }
     if (!m_hasFrame || m_scans == 0)
-        throw ToolError("the picture is damaged: the JPEG file holds no image data");
+        throw ToolError("the image is damaged: the JPEG file holds no image data");
     keep(m_markerStart);
     finish();
-    if (m_doubtful)
-        return std::nullopt;
-    return std::move(m_page);
+    const PixelSize size = {m_page.width, m_page.height};
+    return {size, m_doubtful ? std::nullopt : std::optional(std::move(m_page))};
 }
 
 // Leaves out fill bytes; decoders skip other bytes between segments and warn.
@@ -140,7 +142,7 @@ int JpegWalk::nextMarker()
             return *code;
         expected = m_markerStart;
     }
-    throw ToolError("the picture is incomplete: the JPEG file ends before its end marker");
+    throw ToolError("the image is incomplete: the JPEG file ends before its end marker");
 }
 
 int JpegWalk::markerAfterScan()
@@ -156,7 +158,7 @@ int JpegWalk::markerAfterScan()
             return code;
         }
     }
-    throw ToolError("the picture is incomplete: the JPEG file ends before its end marker");
+    throw ToolError("the image is incomplete: the JPEG file ends before its end marker");
 }
 
 void JpegWalk::segment(int marker)
@@ -170,9 +172,9 @@ void JpegWalk::segment(int marker)
     const std::string length = m_file.read(2);
     const std::size_t size = length.size() == 2 ? bigEndian16(length, 0) : 0;
     if (length.size() == 2 && size < 2)
-        throw ToolError("the picture is damaged: a JPEG segment has no length");
+        throw ToolError("the image is damaged: a JPEG segment has no length");
     if (length.size() < 2 || !m_file.has(size - 2))
-        throw ToolError("the picture is incomplete: the JPEG file ends inside a segment");
+        throw ToolError("the image is incomplete: the JPEG file ends inside a segment");
     const std::uint64_t end = m_file.offset() + size - 2;
     payload(marker, marker == comment ? std::string() : m_file.read(size - 2));
     m_file.seek(end);
@@ -193,7 +195,7 @@ void JpegWalk::payload(int marker, const std::string &bytes)
         m_isProgressive = marker == progressive;
         frame(bytes);
     } else if (marker == startOfScan) {
-        m_doubtful |= !m_hasFrame || ++m_scans > mostScans;
+        m_doubtful |= !m_hasFrame || ++m_scans > maxScans;
         m_scannedComponents += bytes.empty() ? 0 : byteIn(bytes, 0);
     } else if (marker == application0) {
         takeJfif(bytes);
@@ -202,8 +204,9 @@ void JpegWalk::payload(int marker, const std::string &bytes)
     } else if (marker == application2) {
         takeProfilePart(bytes);
     } else if (marker == application13 && bytes.starts_with("Photoshop ")) {
-        m_doubtful |= m_photoshop || !bytes.starts_with(photoshop) ||
-                      !takePhotoshop(bytes.substr(photoshop.size()), m_photoshop.emplace());
+        m_doubtful |= m_photoshop || !bytes.starts_with(photoshop);
+        m_photoshop = readPhotoshopDensity(bytes.substr(std::min(bytes.size(), photoshop.size())));
+        m_doubtful |= !m_photoshop;
     } else if (marker == application14) {
         takeAdobe(bytes);
     } else if (marker == huffmanTables) {
@@ -218,19 +221,21 @@ void JpegWalk::frame(const std::string &bytes)
 {
     constexpr std::size_t header = 6;
     constexpr std::size_t perComponent = 3;
-    constexpr int mostBlocks = 10;
+    constexpr int maxBlocks = 10;
     m_hasFrame = true;
     const std::size_t components = bytes.size() < header ? 0 : byteIn(bytes, 5);
+    if (components > 0) {
+        m_page.height = bigEndian16(bytes, 1);
+        m_page.width = bigEndian16(bytes, 3);
+    }
     if ((components != 1 && components != 3) ||
         bytes.size() != header + components * perComponent || byteIn(bytes, 0) != 8) {
         m_doubtful = true;
         return;
     }
-    m_page.height = bigEndian16(bytes, 1);
-    m_page.width = bigEndian16(bytes, 3);
     m_page.components = static_cast<int>(components);
-    m_doubtful |= m_page.width == 0 || m_page.height == 0 || m_page.width > longestSide ||
-                  m_page.height > longestSide;
+    m_doubtful |= m_page.width == 0 || m_page.height == 0 || m_page.width > maxSide ||
+                  m_page.height > maxSide;
     int blocks = 0;
     for (std::size_t at = header; at < bytes.size(); at += perComponent) {
         const int across = byteIn(bytes, at + 1) >> 4;
@@ -239,13 +244,13 @@ void JpegWalk::frame(const std::string &bytes)
         blocks += across * down;
         m_doubtful |= !isFactor(across) || !isFactor(down);
     }
-    m_doubtful |= components > 1 && blocks > mostBlocks;
+    m_doubtful |= components > 1 && blocks > maxBlocks;
 }
 
 void JpegWalk::takeJfif(const std::string &bytes)
 {
-    constexpr std::size_t leastSize = 14;
-    if (!bytes.starts_with(jfif) || bytes.size() < leastSize)
+    constexpr std::size_t minSize = 14;
+    if (!bytes.starts_with(jfif) || bytes.size() < minSize)
         return;
     m_doubtful |= m_jfif.has_value();
     m_jfif = bytes;
@@ -267,13 +272,10 @@ Density JpegWalk::density()
         if (unit == 2)
             result.unit = Density::Unit::Centimetre;
     }
-    Density stated = {-1, -1};
-    if (m_exif)
-        m_doubtful |= !takeExif(*m_exif, stated);
-    const bool isStated = stated.x >= 0;
+    const ExifFacts facts = m_exif ? readExif(*m_exif) : ExifFacts{};
     // Without EXIF's, each version takes something else from XMP's.
-    m_doubtful |= m_xmpStatesDensity && !isStated;
-    return isStated ? stated : result;
+    m_doubtful |= facts.isDoubtful || (m_xmpStatesDensity && !facts.density);
+    return facts.density.value_or(result);
 }
 
 void JpegWalk::takeApplication1(const std::string &bytes)
@@ -302,7 +304,7 @@ void JpegWalk::takeProfilePart(const std::string &bytes)
     const int parts = byteIn(bytes, iccProfile.size() + 1);
     m_doubtful |= number != ++m_profileParts || (number > 1 && parts != m_profilePartsPromised);
     m_profilePartsPromised = parts;
-    m_page.iccProfile += bytes.substr(iccProfile.size() + 2);
+    m_profile += bytes.substr(iccProfile.size() + 2);
 }
 
 void JpegWalk::takeAdobe(const std::string &bytes)
@@ -333,7 +335,9 @@ void JpegWalk::finish()
     // A progressive image has several scans of each component.
     m_doubtful |= !m_isProgressive && m_scannedComponents != m_page.components;
     m_doubtful |= !coloursAreCertain() || m_profileParts != m_profilePartsPromised;
-    m_doubtful |= !m_page.iccProfile.empty() && !isProfileFor(m_page.iccProfile, m_page.components);
+    m_doubtful |= !m_profile.empty() && !isProfileFor(m_profile, m_page.components);
+    if (!m_doubtful && !m_profile.empty())
+        m_page.iccProfile = m_spool.add(m_profile);
     m_page.filter = "DCTDecode";
     setPageSize(m_page, density());
 }
@@ -350,7 +354,7 @@ void JpegWalk::keep(std::uint64_t from)
 
 } // namespace
 
-std::optional<CopyablePage> jpegPage(FileBytes &file)
+JpegImage readJpegImage(FileBytes &file, Spool &spool)
 {
-    return JpegWalk(file).page();
+    return JpegWalk(file, spool).image();
 }

@@ -1,11 +1,20 @@
 #pragma once
 
+#include "convertcall.h"
 #include "copyablepage.h"
 #include "filebytes.h"
+#include "spool.h"
 
 #include <optional>
 
-/// The page of the JPEG file (ITU-T T.81) that `file` is at the start of, or nothing when
-/// ImageMagick has to convert it. Reads to the end of the image and throws ToolError when it is
-/// incomplete or damaged; what is appended to the image does not count.
-std::optional<CopyablePage> jpegPage(FileBytes &file);
+struct JpegImage
+{
+    /// As stored; zero when the file has no readable header.
+    PixelSize size;
+    /// Nothing when ImageMagick has to convert it.
+    std::optional<CopyablePage> page;
+};
+
+/// Reads the JPEG file (ITU-T T.81) that `file` is at the start of to the end of its image; what is
+/// appended to that does not count. Throws ToolError when it is incomplete or damaged.
+JpegImage readJpegImage(FileBytes &file, Spool &spool);

@@ -1,17 +1,18 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-#include <string>
-#include <vector>
+#include "convertcall.h"
 
-struct PixelSize
+#include <optional>
+
+/// How ImageMagick lets the JPEG decoder make an image smaller while it reads.
+struct JpegScaling
 {
-    std::uint32_t width = 0, height = 0;
+    /// What the decoder is asked for, in the proportions of the image.
+    PixelSize decoded;
+    /// What the image is resized to afterwards.
+    PixelSize result;
 };
 
-/// Options by which ImageMagick lets the JPEG decoder make an image of `size` smaller while it
-/// reads, and makes it as large as `options` say afterwards: never decoded to less than twice that
-/// size. Nothing when it would gain nothing, or when `options` do not begin with the one resizing.
-std::optional<std::vector<std::string>> shrinkingOptions(const std::vector<std::string> &options,
-                                                         PixelSize size);
+/// The scaling that fits an image of `size` into `box`: never decoded to less than twice the
+/// result. Nothing when it would gain nothing or the size is zero.
+std::optional<JpegScaling> jpegScaling(PixelSize box, PixelSize size);

@@ -2,6 +2,7 @@
 
 #include "bundle.h"
 #include "environment.h"
+#include "jpegscaling.h"
 
 namespace {
 
@@ -9,12 +10,17 @@ namespace {
 // does not, and is ended from here.
 constexpr std::chrono::seconds graceBeyondLimit{4};
 
+std::string sizeText(PixelSize size)
+{
+    return std::to_string(size.width) + "x" + std::to_string(size.height);
+}
+
 } // namespace
 
 // Of limits the policy that is read first holds, of rights the last: ImageMagick reads
 // MAGICK_CONFIGURE_PATH, then /etc, then XDG_CONFIG_HOME, then HOME (6.9.11 and 7.1).
-ChildSpec magickRun(const std::vector<std::string> &words, const ConvertLimits &limits,
-                    const std::string &pixels)
+ChildSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
+                        const std::string &pixels)
 {
     const std::string configuration = policyFolder();
     std::vector<std::string> variables = limitVariables(limits);
@@ -25,7 +31,7 @@ ChildSpec magickRun(const std::vector<std::string> &words, const ConvertLimits &
     variables.emplace_back("LC_ALL=C.UTF-8");
     ChildSpec spec;
     spec.command = realCommand("convert");
-    spec.command.insert(spec.command.end(), words.begin(), words.end());
+    spec.command.insert(spec.command.end(), arguments.begin(), arguments.end());
     spec.environment = environmentWith(variables);
     spec.limits = kernelLimits(limits);
     spec.deadline = limits.time + graceBeyondLimit;
@@ -34,15 +40,30 @@ ChildSpec magickRun(const std::vector<std::string> &words, const ConvertLimits &
     return spec;
 }
 
-// Left to itself, ImageMagick (6.9.11 and 7.1) hands EXIF, XMP, IPTC and comments of an image on
-// within the JPEG data of its page, and draws its label on the page.
-std::vector<std::string> pageWords(const std::vector<std::string> &options,
-                                   const std::string &input, const std::string &result)
+// Left to itself, ImageMagick (6.9.11 and 7.1) writes EXIF, XMP, IPTC and comments of an image into
+// the JPEG data of its page, and draws its label on the page.
+std::vector<std::string> pageArguments(const ConvertOptions &options, const ConvertedImage &image,
+                                       const std::string &input, const std::string &result)
 {
-    std::vector<std::string> words = options;
-    for (const char *word :
-         {input.c_str(), "+profile", "!icc,!icm,*", "+set", "comment", "+set", "label"})
-        words.emplace_back(word);
-    words.push_back("pdf:" + result);
-    return words;
+    std::vector<std::string> arguments;
+    const auto add = [&arguments](std::initializer_list<std::string> words) {
+        arguments.insert(arguments.end(), words);
+    };
+    const std::optional<JpegScaling> scaling =
+        options.resize ? jpegScaling(*options.resize, image.size) : std::nullopt;
+    if (scaling)
+        add({"-define", "jpeg:size=" + sizeText(scaling->decoded)});
+    add({input});
+    if (scaling)
+        add({"-resize", sizeText(scaling->result) + "!"});
+    else if (options.resize)
+        add({"-resize", sizeText(*options.resize)});
+    if (!options.rotate.empty())
+        add({"-rotate", options.rotate});
+    if (!options.compress.empty())
+        add({"-compress", options.compress});
+    if (options.monochrome)
+        add({"-monochrome"});
+    add({"+profile", "!icc,!icm,*", "+set", "comment", "+set", "label", "pdf:" + result});
+    return arguments;
 }

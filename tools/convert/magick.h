@@ -1,17 +1,18 @@
 #pragma once
 
 #include "convertlimits.h"
+#include "imageplan.h"
 #include "subprocess.h"
 
 #include <string>
 #include <vector>
 
-/// The real ImageMagick under our policy: where it finds its policy, its bounds, its place for
-/// pixels that do not fit into memory, and `words` as its arguments.
-ChildSpec magickRun(const std::vector<std::string> &words, const ConvertLimits &limits,
-                    const std::string &pixels);
+/// The real ImageMagick under our policy, within `limits`, with `pixels` as the folder for pixels
+/// that do not fit into memory.
+ChildSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
+                        const std::string &pixels);
 
-/// The arguments that make a PDF `result` of the image `input`, with `options`, and nothing in it
-/// that the file tells beside its pixels, but for the colour profile.
-std::vector<std::string> pageWords(const std::vector<std::string> &options,
-                                   const std::string &input, const std::string &result);
+/// The arguments that make the PDF `result` of `image`, which ImageMagick knows as `input`. Of what
+/// the file holds beside its pixels the colour profile alone gets into it.
+std::vector<std::string> pageArguments(const ConvertOptions &options, const ConvertedImage &image,
+                                       const std::string &input, const std::string &result);

@@ -27,7 +27,7 @@ constexpr std::array telling = {
 
 } // namespace
 
-bool tellOfDamage(std::string_view messages)
+bool reportsDamage(std::string_view messages)
 {
     return std::ranges::any_of(telling, [messages](std::string_view phrase) {
         return messages.find(phrase) != std::string_view::npos;

@@ -30,17 +30,11 @@ public:
     {
     }
 
-    bool take(Density &density)
+    ExifFacts read()
     {
-        if (!m_block.starts_with(std::string_view("II*\0", 4)) &&
-            !m_block.starts_with(std::string_view("MM\0*", 4)))
-            return false;
-        if (!has(0, 8) || !readDirectory(number32(4), true))
-            return false;
-        for (std::size_t next = 0; next < m_further.size(); ++next)
-            if (!readDirectory(m_further[next], false))
-                return false;
-        return apply(density);
+        if (!readDirectories())
+            return {std::nullopt, true};
+        return facts();
     }
 
 private:
@@ -65,9 +59,22 @@ private:
         return number16(high) << 16 | number16(low);
     }
 
+    bool readDirectories()
+    {
+        if (!m_block.starts_with(std::string_view("II*\0", 4)) &&
+            !m_block.starts_with(std::string_view("MM\0*", 4)))
+            return false;
+        if (!has(0, 8) || !readDirectory(number32(4), true))
+            return false;
+        for (std::size_t next = 0; next < m_further.size(); ++next)
+            if (!readDirectory(m_further[next], false))
+                return false;
+        return true;
+    }
+
     bool readDirectory(std::size_t at, bool isFirst)
     {
-        constexpr std::size_t mostDirectories = 8;
+        constexpr std::size_t maxDirectories = 8;
         if (!has(at, 2))
             return false;
         const std::size_t count = number16(at);
@@ -79,7 +86,7 @@ private:
                 return false;
         if (has(end, 4) && number32(end) != 0)
             m_further.push_back(number32(end));
-        return m_further.size() <= mostDirectories;
+        return m_further.size() <= maxDirectories;
     }
 
     bool readEntry(std::size_t at, bool isFirst)
@@ -98,10 +105,10 @@ private:
             return true;
         }
         // What stands behind a pointer to another directory is read after that one.
-        return count == 1 && m_further.empty() && takeField(at, tag, type);
+        return count == 1 && m_further.empty() && readField(at, tag, type);
     }
 
-    bool takeField(std::size_t at, std::uint16_t tag, std::uint32_t type)
+    bool readField(std::size_t at, std::uint16_t tag, std::uint32_t type)
     {
         if (tag == tagResolutionUnit) {
             m_unit = number16(at + 8);
@@ -115,16 +122,15 @@ private:
         return true;
     }
 
-    bool apply(Density &density) const
+    ExifFacts facts() const
     {
         constexpr std::array units = {Density::Unit::None, Density::Unit::Inch,
                                       Density::Unit::Centimetre};
         if (!m_x && !m_y && !m_unit)
-            return !m_statedElsewhere;
+            return {std::nullopt, m_statedElsewhere};
         if (!m_x || !m_y || !m_unit || *m_unit < 1 || *m_unit > units.size())
-            return false;
-        density = {*m_x, *m_y, units[*m_unit - 1]};
-        return true;
+            return {std::nullopt, true};
+        return {Density{*m_x, *m_y, units[*m_unit - 1]}, false};
     }
 
     const std::string &m_block;
@@ -158,39 +164,40 @@ Density resolutionResource(const std::string &blocks, std::size_t at)
 
 } // namespace
 
-bool takeExif(const std::string &block, Density &density)
+ExifFacts readExif(const std::string &block)
 {
-    return Exif(block).take(density);
+    return Exif(block).read();
 }
 
-bool takePhotoshop(const std::string &blocks, Density &density)
+std::optional<Density> readPhotoshopDensity(const std::string &blocks)
 {
-    constexpr std::size_t leastBlock = 12;
+    constexpr std::size_t minBlock = 12;
+    Density density;
     std::size_t at = 0;
-    while (at + leastBlock <= blocks.size()) {
+    while (at + minBlock <= blocks.size()) {
         if (blocks.compare(at, 4, "8BIM") != 0)
-            return false;
+            return std::nullopt;
         const std::uint16_t id = bigEndian16(blocks, at + 4);
         // A name that with its length fills an even number of bytes.
         const std::size_t named = static_cast<std::uint8_t>(blocks[at + 6]);
         const std::size_t name = (named + 2) / 2 * 2;
         const std::size_t length = at + 6 + name;
         if (length + 4 > blocks.size())
-            return false;
+            return std::nullopt;
         const std::size_t count = bigEndian32(blocks, length);
         const std::size_t value = length + 4;
         if (count > blocks.size() - value || (id == resourceResolution && count != resolutionSize))
-            return false;
+            return std::nullopt;
         if (id == resourceResolution)
             density = resolutionResource(blocks, value);
         if (std::find(doubtfulResources.begin(), doubtfulResources.end(), id) !=
             doubtfulResources.end())
-            return false;
+            return std::nullopt;
         if (id == resourceXmp && xmpStatesDensity(blocks.substr(value, count)))
-            return false;
+            return std::nullopt;
         at = value + count + count % 2;
     }
-    return true;
+    return density;
 }
 
 bool xmpStatesDensity(const std::string &packet)

@@ -2,17 +2,26 @@
 
 #include "density.h"
 
+#include <optional>
 #include <string>
 
-// What ImageMagick 6.9.11 and 7.1.1 take from a picture's metadata blocks for its page. Each
-// returns false where the two versions differ, or where the block is not of the form that writers
-// give it.
+// What ImageMagick 6.9.11 and 7.1.1 take from the metadata blocks of an image for its page.
 
-/// An EXIF block, from its byte order mark on: its three fields of density override what held.
-bool takeExif(const std::string &block, Density &density);
+struct ExifFacts
+{
+    /// Of the three fields of density, which override what other blocks state.
+    std::optional<Density> density;
+    /// The two versions differ, or the block is not of the form that writers give it.
+    bool isDoubtful = false;
+};
 
-/// Photoshop's resource blocks, from the first "8BIM" on.
-bool takePhotoshop(const std::string &blocks, Density &density);
+/// `block` begins with its byte order mark.
+ExifFacts readExif(const std::string &block);
+
+/// The density in Photoshop's resource blocks, from the first "8BIM" on, or the default one;
+/// nothing when the two versions differ, or when the blocks are not of the form that writers give
+/// them.
+std::optional<Density> readPhotoshopDensity(const std::string &blocks);
 
 /// Whether an XMP packet may state a density: ImageMagick reads it, but not alike in both versions
 /// unless an EXIF block states one too.

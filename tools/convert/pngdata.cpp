@@ -18,7 +18,7 @@ Bytef *input(std::string_view bytes)
 
 [[noreturn]] void damaged()
 {
-    throw ToolError("the picture is damaged: the image data of the PNG file cannot be read");
+    throw ToolError("the image is damaged: the image data of the PNG file cannot be read");
 }
 
 } // namespace
@@ -69,11 +69,11 @@ void PngData::check(std::size_t count)
 bool PngData::isExact() const
 {
     if (m_missing > 0)
-        throw ToolError("the picture is incomplete: rows are missing in the PNG file");
+        throw ToolError("the image is incomplete: rows are missing in the PNG file");
     return m_exact && m_ended;
 }
 
-std::string inflated(std::string_view compressed, std::size_t most)
+std::optional<std::string> inflated(std::string_view compressed, std::size_t max)
 {
     z_stream stream = {};
     if (inflateInit(&stream) != Z_OK)
@@ -82,7 +82,7 @@ std::string inflated(std::string_view compressed, std::size_t most)
     stream.avail_in = static_cast<uInt>(compressed.size());
     std::string result;
     int status = Z_OK;
-    while (status == Z_OK && result.size() <= most) {
+    while (status == Z_OK && result.size() <= max) {
         const std::size_t before = result.size();
         result.resize(before + outputSize);
         stream.next_out = reinterpret_cast<Bytef *>(result.data()) + before;
@@ -91,5 +91,7 @@ std::string inflated(std::string_view compressed, std::size_t most)
         result.resize(result.size() - stream.avail_out);
     }
     inflateEnd(&stream);
-    return status == Z_STREAM_END && result.size() <= most ? result : std::string();
+    if (status != Z_STREAM_END || result.size() > max)
+        return std::nullopt;
+    return result;
 }

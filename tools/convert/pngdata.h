@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,7 +10,7 @@
 #include <zlib.h>
 
 /// Inflates the image data of a PNG file that is not interlaced, piece by piece and without keeping
-/// it, to see whether it is whole. Throws ToolError when it is damaged.
+/// it, to verify that it is whole. Throws ToolError when it is damaged.
 class PngData
 {
 public:
@@ -34,5 +35,5 @@ private:
     bool m_exact = true;
 };
 
-/// What `compressed`, a zlib stream, holds; "" when it is damaged or longer than `most` bytes.
-std::string inflated(std::string_view compressed, std::size_t most);
+/// What `compressed`, a zlib stream, holds; nothing when it is damaged or longer than `max` bytes.
+std::optional<std::string> inflated(std::string_view compressed, std::size_t max);

@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t signatureSize = 8;
 constexpr std::size_t pieceSize = std::size_t{256} * 1024;
 // Larger chunks that are to be read whole are left to ImageMagick.
-constexpr std::uint32_t mostKept = std::uint32_t{4} * 1024 * 1024;
+constexpr std::uint32_t maxKept = std::uint32_t{4} * 1024 * 1024;
 
 enum ColourType : std::uint8_t { grey = 0, trueColour = 2, indexed = 3 };
 
@@ -47,8 +47,9 @@ bool isPlainKeyword(std::string keyword)
 class PngWalk
 {
 public:
-    explicit PngWalk(FileBytes &file)
+    PngWalk(FileBytes &file, Spool &spool)
         : m_file(file)
+        , m_spool(spool)
     {
     }
 
@@ -78,7 +79,9 @@ private:
     void finish();
 
     FileBytes &m_file;
+    Spool &m_spool;
     CopyablePage m_page;
+    std::string m_profile;
     Density m_density;
     std::set<std::string> m_seen;
     std::string m_last;
@@ -116,7 +119,7 @@ std::optional<CopyablePage> PngWalk::page()
     while (m_last != "IEND")
         m_last = nextChunk();
     if (m_seen.count("IDAT") == 0)
-        throw ToolError("the picture is damaged: the PNG file holds no image data");
+        throw ToolError("the image is damaged: the PNG file holds no image data");
     finish();
     if (m_doubtful)
         return std::nullopt;
@@ -127,14 +130,14 @@ std::string PngWalk::nextChunk()
 {
     constexpr std::size_t headSize = 8;
     constexpr std::size_t sumSize = 4;
-    constexpr std::uint32_t longest = 0x7FFFFFFF;
+    constexpr std::uint32_t maxLength = 0x7FFFFFFF;
     const std::string head = m_file.read(headSize);
     const std::uint32_t length = head.size() == headSize ? bigEndian32(head, 0) : 0;
     if (head.size() < headSize || !m_file.has(std::uint64_t{length} + sumSize))
-        throw ToolError("the picture is incomplete: the PNG file ends before its last chunk");
+        throw ToolError("the image is incomplete: the PNG file ends before its last chunk");
     std::string type = head.substr(4);
-    if (length > longest || (m_seen.empty() && type != "IHDR"))
-        throw ToolError("the picture is damaged: the PNG file has no proper header");
+    if (length > maxLength || (m_seen.empty() && type != "IHDR"))
+        throw ToolError("the image is damaged: the PNG file has no proper header");
     unsigned long sum =
         crc32(0, reinterpret_cast<const Bytef *>(type.data()), static_cast<uInt>(type.size()));
     const auto *rule = std::find_if(rules.begin(), rules.end(),
@@ -148,7 +151,7 @@ std::string PngWalk::nextChunk()
         m_doubtful |= isCritical;
     const std::string stored = m_file.read(sumSize);
     if (stored.size() < sumSize || bigEndian32(stored, 0) != sum)
-        throw ToolError("the picture is damaged: a check sum in the PNG file is wrong");
+        throw ToolError("the image is damaged: a check sum in the PNG file is wrong");
     const bool mayRepeat = type == "IDAT" || type.ends_with("Xt") || rule == rules.end();
     m_doubtful |= !m_seen.insert(type).second && !mayRepeat;
     return type;
@@ -187,20 +190,20 @@ std::string PngWalk::content(std::uint32_t length, unsigned long &sum)
             break;
         sum = crc32(sum, reinterpret_cast<const Bytef *>(piece.data()),
                     static_cast<uInt>(piece.size()));
-        if (length <= mostKept)
+        if (length <= maxKept)
             kept += piece;
         left -= static_cast<std::uint32_t>(piece.size());
     }
-    m_doubtful |= length > mostKept;
+    m_doubtful |= length > maxKept;
     return kept;
 }
 
 void PngWalk::header(const std::string &content)
 {
     constexpr std::size_t size = 13;
-    constexpr int deepest = 8;
+    constexpr int maxDepth = 8;
     if (content.size() != size)
-        throw ToolError("the picture is damaged: the PNG file has no proper header");
+        throw ToolError("the image is damaged: the PNG file has no proper header");
     m_page.width = bigEndian32(content, 0);
     m_page.height = bigEndian32(content, 4);
     m_page.bitsPerComponent = byteIn(content, 8);
@@ -208,13 +211,13 @@ void PngWalk::header(const std::string &content)
     m_page.components = m_colourType == trueColour ? 3 : 1;
     const int bits = m_page.bitsPerComponent;
     const bool knownDepth =
-        bits == deepest || (m_colourType != trueColour && (bits == 1 || bits == 2 || bits == 4));
+        bits == maxDepth || (m_colourType != trueColour && (bits == 1 || bits == 2 || bits == 4));
     const bool knownColours =
         m_colourType == grey || m_colourType == trueColour || m_colourType == indexed;
     const bool plain =
         byteIn(content, 10) == 0 && byteIn(content, 11) == 0 && byteIn(content, 12) == 0;
     m_doubtful |= !knownDepth || !knownColours || !plain || m_page.width == 0 ||
-                  m_page.height == 0 || m_page.width > longestSide || m_page.height > longestSide;
+                  m_page.height == 0 || m_page.width > maxSide || m_page.height > maxSide;
 }
 
 void PngWalk::palette(const std::string &content)
@@ -233,7 +236,7 @@ void PngWalk::density(const std::string &content)
 {
     constexpr std::size_t size = 9;
     constexpr double centimetres = 100;
-    constexpr std::uint32_t largest = 0x7FFFFFFF;
+    constexpr std::uint32_t max = 0x7FFFFFFF;
     if (content.size() != size || m_seen.count("IDAT") != 0) {
         m_doubtful = true;
         return;
@@ -241,7 +244,7 @@ void PngWalk::density(const std::string &content)
     const std::uint32_t x = bigEndian32(content, 0);
     const std::uint32_t y = bigEndian32(content, 4);
     const int unit = byteIn(content, 8);
-    m_doubtful |= unit > 1 || x > largest || y > largest;
+    m_doubtful |= unit > 1 || x > max || y > max;
     m_density = unit == 1 ? Density{x / centimetres, y / centimetres, Density::Unit::Centimetre}
                           : Density{double(x), double(y), Density::Unit::None};
 }
@@ -250,10 +253,10 @@ void PngWalk::density(const std::string &content)
 void PngWalk::gamma(const std::string &content)
 {
     constexpr std::size_t size = 4;
-    constexpr std::uint32_t least = 45000;
-    constexpr std::uint32_t most = 46000;
+    constexpr std::uint32_t min = 45000;
+    constexpr std::uint32_t max = 46000;
     const std::uint32_t value = content.size() == size ? bigEndian32(content, 0) : 0;
-    m_doubtful |= value < least || value > most || m_seen.count("IDAT") != 0;
+    m_doubtful |= value < min || value > max || m_seen.count("IDAT") != 0;
 }
 
 void PngWalk::standardColours(const std::string &)
@@ -263,21 +266,21 @@ void PngWalk::standardColours(const std::string &)
 
 void PngWalk::profile(const std::string &content)
 {
-    constexpr std::size_t mostProfile = std::size_t{16} * 1024 * 1024;
+    constexpr std::size_t maxProfile = std::size_t{16} * 1024 * 1024;
     const std::size_t name = content.find('\0');
     if (name == std::string::npos || name + 2 > content.size() || m_seen.count("IDAT") != 0) {
         m_doubtful = true;
         return;
     }
-    m_page.iccProfile = inflated(std::string_view(content).substr(name + 2), mostProfile);
-    m_doubtful |= !isProfileFor(m_page.iccProfile, m_page.components);
+    m_profile = inflated(std::string_view(content).substr(name + 2), maxProfile).value_or("");
+    m_doubtful |= !isProfileFor(m_profile, m_page.components);
 }
 
 // ImageMagick 7.1.1 takes a density from it and 6.9.11 does not.
 void PngWalk::exif(const std::string &content)
 {
-    Density stated = {-1, -1};
-    m_doubtful |= !takeExif(content, stated) || stated.x >= 0;
+    const ExifFacts facts = readExif(content);
+    m_doubtful |= facts.isDoubtful || facts.density;
 }
 
 void PngWalk::text(const std::string &content)
@@ -291,10 +294,12 @@ void PngWalk::finish()
         m_doubtful = true;
         return;
     }
-    const bool hasProfile = !m_page.iccProfile.empty();
+    const bool hasProfile = !m_profile.empty();
     // ImageMagick 6.9.11 writes a profile without components for an image with a palette.
     m_doubtful |= hasProfile && (m_colourType == indexed || m_hasStandardColours);
     m_doubtful |= m_colourType == indexed && m_page.palette.empty();
+    if (hasProfile && !m_doubtful)
+        m_page.iccProfile = m_spool.add(m_profile);
     m_page.filter = "FlateDecode";
     m_page.decodeParms = {{"/Predictor", "15"},
                           {"/Colors", std::to_string(m_page.components)},
@@ -305,7 +310,7 @@ void PngWalk::finish()
 
 } // namespace
 
-std::optional<CopyablePage> pngPage(FileBytes &file)
+std::optional<CopyablePage> pngPage(FileBytes &file, Spool &spool)
 {
-    return PngWalk(file).page();
+    return PngWalk(file, spool).page();
 }

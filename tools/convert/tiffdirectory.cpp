@@ -63,7 +63,7 @@ enum Tag : std::uint64_t {
 
 [[noreturn]] void incomplete(const char *what)
 {
-    throw ToolError(std::string("the picture is incomplete: ") + what +
+    throw ToolError(std::string("the image is incomplete: ") + what +
                     " of the TIFF file lies beyond its end");
 }
 
@@ -132,7 +132,7 @@ std::vector<TiffDirectory> TiffWalk::walk()
         offset = directories.back().next;
     }
     if (directories.empty())
-        throw ToolError("the picture is damaged: the TIFF file holds no page");
+        throw ToolError("the image is damaged: the TIFF file holds no page");
     directories.back().doubtful |= offset != 0;
     return directories;
 }
@@ -148,7 +148,7 @@ TiffDirectory TiffWalk::directory(std::uint64_t offset)
     result.offset = offset;
     const std::uint64_t count = number(at(offset, countSize, what), 0, countSize);
     if (count > mostFields)
-        throw ToolError("the picture is damaged: a directory of the TIFF file is no directory");
+        throw ToolError("the image is damaged: a directory of the TIFF file is no directory");
     const std::string bytes = at(offset + countSize, count * fieldSize + numberSize, what);
     std::uint64_t before = 0;
     for (std::size_t place = 0; place + fieldSize <= bytes.size(); place += fieldSize) {

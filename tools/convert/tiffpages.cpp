@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -18,7 +19,7 @@ constexpr std::uint64_t lowestBitFirst = 2;
 
 bool isSide(std::uint64_t pixels)
 {
-    return pixels > 0 && pixels <= longestSide;
+    return pixels > 0 && pixels <= maxSide;
 }
 
 bool isCopyable(const TiffDirectory &page)
@@ -62,29 +63,29 @@ CopyablePage pageOf(const TiffDirectory &directory)
     return page;
 }
 
-bool takeData(const TiffDirectory &directory, int file, CopyablePage &page)
+std::optional<std::vector<Extent>> dataOf(const TiffDirectory &directory, int file, Spool &spool)
 {
-    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst) {
-        page.extents = {{directory.offsets[0], directory.counts[0]}};
-        return true;
-    }
-    page.data = asOneStrip(file, directory.offset).value_or("");
-    return !page.data.empty();
+    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst)
+        return std::vector<Extent>{{directory.offsets[0], directory.counts[0]}};
+    const std::optional<std::string> strip = asOneStrip(file, directory.offset);
+    return strip ? std::optional(std::vector<Extent>{spool.add(*strip)}) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<std::vector<CopyablePage>> tiffPages(FileBytes &bytes, int file, bool wanted)
+TiffImage readTiffImage(FileBytes &bytes, int file, bool mayCopy, Spool &spool)
 {
     const std::vector<TiffDirectory> directories = tiffDirectories(bytes);
-    if (!wanted || !std::all_of(directories.begin(), directories.end(), isCopyable))
-        return std::nullopt;
-    std::vector<CopyablePage> pages;
+    TiffImage image = {directories.size(), {}};
+    if (!mayCopy || !std::ranges::all_of(directories, isCopyable))
+        return image;
     for (const TiffDirectory &directory : directories) {
         CopyablePage page = pageOf(directory);
-        if (!takeData(directory, file, page))
-            return std::nullopt;
-        pages.push_back(std::move(page));
+        std::optional<std::vector<Extent>> data = dataOf(directory, file, spool);
+        if (!data)
+            return {directories.size(), {}};
+        page.extents = std::move(*data);
+        image.copied.push_back(std::move(page));
     }
-    return pages;
+    return image;
 }

@@ -2,11 +2,20 @@
 
 #include "copyablepage.h"
 #include "filebytes.h"
+#include "spool.h"
 
-#include <optional>
+#include <cstddef>
 #include <vector>
 
-/// The pages of the TIFF file `bytes`, which is also the descriptor `file`, or nothing when
-/// ImageMagick has to convert one of them. They are worked out only if `wanted`, as strips may have
-/// to be decoded for that; throws ToolError when the file is incomplete, in any case.
-std::optional<std::vector<CopyablePage>> tiffPages(FileBytes &bytes, int file, bool wanted);
+struct TiffImage
+{
+    /// Of the file.
+    std::size_t pages = 1;
+    /// All pages, or none when ImageMagick has to convert one of them.
+    std::vector<CopyablePage> copied;
+};
+
+/// Reads the TIFF file `bytes`, which is also the descriptor `file`. Pages are copied only if
+/// `mayCopy`, as strips may have to be decoded for that. Throws ToolError when the file is
+/// incomplete, in any case.
+TiffImage readTiffImage(FileBytes &bytes, int file, bool mayCopy, Spool &spool);

@@ -1,8 +1,9 @@
 #include "bundle.h"
 #include "environment.h"
 #include "error.h"
-#include "job.h"
+#include "inputlinks.h"
 #include "losslessinfo.h"
+#include "outputtransaction.h"
 #include "pdftkcall.h"
 #include "text.h"
 #include "toolmain.h"
@@ -12,6 +13,10 @@
 #include <sys/stat.h>
 
 namespace {
+
+constexpr const char *usage =
+    "usage: pdftk INPUT.pdf [update_info FILE] output OUTPUT.pdf [owner_pw PASSWORD] "
+    "[user_pw PASSWORD] [allow PERMISSION]...";
 
 ChildSpec realTool()
 {
@@ -38,50 +43,53 @@ std::chrono::seconds timeFor(const std::string &pdf)
 
 std::string contentOfInfo(const std::string &path)
 {
-    constexpr unsigned long long mostText = 16ULL * 1024 * 1024;
+    constexpr unsigned long long maxText = 16ULL * 1024 * 1024;
     requireRegularFile(path);
-    std::string content;
-    if (sizeOf(path) > mostText || !readFile(path, content))
+    if (sizeOf(path) > maxText)
         throw ToolError("cannot read '" + path + "': too large for a description");
-    return content;
+    if (std::optional<std::string> content = readFile(path))
+        return std::move(*content);
+    throw systemError("cannot read", path);
 }
 
-// The word for the command line that names the description, in a form that arrives whole.
-std::string infoWord(Job &job, const PdftkCall &call, const std::string &charset)
+// The description as a file in `folder`, in a form that arrives whole.
+void writeInfo(const WorkDirectory &folder, const std::string &content)
 {
-    const std::string content = losslessInfo(contentOfInfo(call.infoFile), charset);
-    return content.empty() ? job.addInput(call.infoFile, "info-1") : job.addFile("info-1", content);
+    if (!writeAll(folder.addFile("info-1").get(), content))
+        throw systemError("cannot write", folder.path() + "/info-1");
 }
 
-Outcome finish(const PdftkCall &call, const std::string &charset)
-{
-    requireRegularFile(call.input);
-    Job job(call.output);
-    ChildSpec spec = realTool();
-    spec.prompts = call.passwords;
-    spec.deadline = timeFor(call.input);
-    std::vector<std::string> &words = spec.command;
-    words.push_back(job.addInput(call.input, "input-1"));
-    if (!call.infoFile.empty())
-        words.insert(words.end(), {"update_info", infoWord(job, call, charset)});
-    words.insert(words.end(), {"output", Job::resultName});
-    words.insert(words.end(), call.tail.begin(), call.tail.end());
-    return job.run(std::move(spec));
-}
-
-Outcome run(const Arguments &arguments)
+std::string run(const Arguments &arguments)
 {
     const std::string charset = localeCharset();
-    if (const std::optional<PdftkCall> call = parsePdftkCall(arguments, charset))
-        return finish(*call, charset);
+    const std::optional<PdftkCall> call = parsePdftkCall(arguments, charset);
+    if (!call)
+        throw usageError(usage);
+    requireRegularFile(call->input);
+    const OutputTransaction output(call->output);
+    InputLinks inputs;
     ChildSpec spec = realTool();
-    spec.command.insert(spec.command.end(), arguments.begin(), arguments.end());
-    return handOver(std::move(spec));
+    spec.prompts = call->passwords;
+    spec.deadline = timeFor(call->input);
+    spec.folder = output.folder().descriptor();
+    std::vector<std::string> &words = spec.command;
+    words.push_back(inputs.add(spec.folder, call->input, "input-1"));
+    if (!call->infoFile.empty()) {
+        words.insert(words.end(), {"update_info", "info-1"});
+        const std::string info = contentOfInfo(call->infoFile);
+        const std::string lossless = losslessInfo(info, charset);
+        writeInfo(output.folder(), lossless.empty() ? info : lossless);
+    }
+    words.insert(words.end(), {"output", OutputTransaction::resultName});
+    words.insert(words.end(), call->tail.begin(), call->tail.end());
+    inputs.requireSuccess(runChild(spec));
+    output.commit();
+    return "";
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    return runProgram({"pdftk", run, maskedPdftkArguments}, argc, argv);
+    return runTool({"pdftk", usage, run, maskedPdftkArguments}, argc, argv);
 }

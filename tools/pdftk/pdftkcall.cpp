@@ -63,23 +63,13 @@ void readTail(const Words &words, const std::string &charset, PdftkCall &call)
     refuseEqualPasswords(call);
 }
 
-void refusePasswordsOf(const Words &words)
-{
-    const std::vector<Role> roles = rolesOf(words);
-    if (std::find(roles.begin(), roles.end(), Role::Keyword) != roles.end())
-        throw ToolError("passwords are taken only behind 'IN [update_info FILE] output OUT', as "
-                        "others could read them");
-}
-
 } // namespace
 
 std::optional<PdftkCall> parsePdftkCall(const Words &arguments, const std::string &charset)
 {
     const size_t before = wordsBeforeTail(arguments);
-    if (before == 0) {
-        refusePasswordsOf(arguments);
+    if (before == 0)
         return std::nullopt;
-    }
     PdftkCall call;
     call.input = arguments[0];
     call.infoFile = before > 3 ? arguments[2] : "";

@@ -24,9 +24,7 @@ std::optional<std::string> wordOf(const std::string &line)
     return counts ? std::optional(line.substr(0, word)) : std::nullopt;
 }
 
-} // namespace
-
-std::string programsFolder()
+std::string programFolder()
 {
     std::string path(PATH_MAX, '\0');
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
@@ -36,14 +34,21 @@ std::string programsFolder()
     return folderOf(path);
 }
 
+} // namespace
+
 std::string resourcesFolder()
 {
-    return folderOf(programsFolder()) + "/Resources";
+    return folderOf(programFolder()) + "/Resources";
 }
 
 std::string policyFolder()
 {
-    std::string folder = resourcesFolder() + "/magick";
+    return resourcesFolder() + "/magick";
+}
+
+void requirePolicy()
+{
+    const std::string folder = policyFolder();
     // ImageMagick takes its folders as a list that colons separate.
     if (folder.find(':') != std::string::npos)
         throw ToolError("cannot work below a folder with a colon in its name, '" + folder + "'");
@@ -54,7 +59,6 @@ std::string policyFolder()
             access(path.c_str(), R_OK) != 0)
             throw ToolError("cannot read '" + path + "'; run packaging/assemble-tools again");
     }
-    return folder;
 }
 
 std::vector<std::string> realCommand(const std::string &name)
@@ -63,9 +67,7 @@ std::vector<std::string> realCommand(const std::string &name)
     const std::string resources = resourcesFolder();
     const std::string file = resources + "/" + name + ".tool";
     std::vector<std::string> words;
-    std::string content;
-    readFile(file, content);
-    for (std::string &line : linesOf(content)) {
+    for (std::string &line : linesOf(readFile(file).value_or(""))) {
         replaceAll(line, placeholder, resources);
         if (std::optional<std::string> word = wordOf(line))
             words.push_back(std::move(*word));

@@ -7,17 +7,15 @@
 /// link to it, or a moved or copied bundle, finds the folder that belongs to the program.
 std::string resourcesFolder();
 
-/// Where this program itself lies, likewise.
-std::string programsFolder();
-
-/// Where the image policy lies, as limits/policy.xml and rights/ImageMagick/policy.xml. Throws
-/// ToolError when a part of it is missing or ImageMagick could not find it: without it everything
-/// would be allowed.
+/// Where the image policy lies, as limits/policy.xml and rights/ImageMagick/policy.xml.
 std::string policyFolder();
+
+/// Throws ToolError when a part of the policy is missing or ImageMagick could not find it: without
+/// it everything would be allowed.
+void requirePolicy();
 
 /// The words that start the real tool `name`, one per line of Resources/<name>.tool, where
 /// "@Resources@" stands for the folder itself. A line of three fields, separated by tabs, holds a
 /// word, a file and a size: the word counts only while the file has that many bytes. Written by
-/// packaging/assemble-tools.
-/// Throws ToolError when the file is missing or empty.
+/// packaging/assemble-tools. Throws ToolError when the file is missing or empty.
 std::vector<std::string> realCommand(const std::string &name);

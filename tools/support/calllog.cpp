@@ -46,10 +46,10 @@ bool isLogging()
 void appendToLog(const CallRecord &record)
 {
     const std::string entry =
-        now() + " " + record.program + " exit status " + std::to_string(record.outcome.status) +
+        now() + " " + record.program + " exit status " + std::to_string(record.result.status) +
         " after " + std::to_string(record.duration.count()) + " ms\n" +
-        listed("argument", record.arguments) + listed("message", linesOf(record.outcome.output)) +
-        listed("message", linesOf(record.outcome.errors));
+        listed("argument", record.arguments) + listed("message", linesOf(record.result.output)) +
+        listed("message", linesOf(record.result.errors));
     const FileDescriptor file(
         open(logPath(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0600));
     // One write, so that calls at work at the same time do not mix their lines.

@@ -11,7 +11,7 @@ struct CallRecord
     std::string program;
     /// As they came, with every secret masked.
     std::vector<std::string> arguments;
-    Outcome outcome;
+    ToolResult result;
     std::chrono::milliseconds duration{0};
 };
 

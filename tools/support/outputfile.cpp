@@ -16,7 +16,7 @@
 namespace {
 
 // As many as Linux itself follows.
-constexpr int mostLinks = 40;
+constexpr int maxLinks = 40;
 
 // The rule by which Linux follows links (fs.protected_symlinks), as it does not ask for a link
 // that is read instead: in a folder such as /tmp anybody can put one.
@@ -41,7 +41,7 @@ std::string contentOfLink(int link, const std::string &path)
 
 std::string followed(std::string path)
 {
-    for (int i = 0; i <= mostLinks; ++i) {
+    for (int i = 0; i <= maxLinks; ++i) {
         const FileDescriptor file(open(path.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
         struct stat status = {};
         if (!file.valid() || fstat(file.get(), &status) != 0 || !S_ISLNK(status.st_mode))
@@ -66,20 +66,20 @@ bool isOnDisk(int file)
 
 } // namespace
 
-Target::Target(const std::string &path)
+OutputFile::OutputFile(const std::string &path)
     : m_path(followed(path))
 {
     requireReplaceable();
 }
 
-void Target::requireReplaceable() const
+void OutputFile::requireReplaceable() const
 {
     struct stat status = {};
     if (lstat(m_path.c_str(), &status) == 0 && !S_ISREG(status.st_mode))
         throw ToolError("cannot replace '" + m_path + "': not a regular file");
 }
 
-void Target::replaceBy(int folder, const std::string &name, int file) const
+void OutputFile::replaceBy(int folder, const std::string &name, int file) const
 {
     requireReplaceable();
     takeOverRights(file, m_path);

@@ -3,12 +3,12 @@
 #include <string>
 
 /// The file that a finished one is to be moved over; it need not be there yet.
-class Target
+class OutputFile
 {
 public:
     /// `path`, or what it leads to if it is a symbolic link. Throws ToolError when something else
     /// than a regular file is there, or a link that another user may have put into a shared folder.
-    explicit Target(const std::string &path);
+    explicit OutputFile(const std::string &path);
 
     /// Where the file is: in the same folder a new one can be moved over it in one step.
     const std::string &path() const { return m_path; }

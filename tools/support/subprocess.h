@@ -21,9 +21,6 @@ struct ResourceLimit
     rlim_t value;
 };
 
-/// Which of the child's streams end here; it keeps the others.
-enum class Capture { Nothing, Errors, Everything };
-
 /// How to start a real tool.
 struct ChildSpec
 {
@@ -40,8 +37,7 @@ struct ChildSpec
     /// The child is ended when it has taken longer; zero is no limit.
     std::chrono::seconds deadline{0};
     std::vector<ResourceLimit> limits;
-    Capture capture = Capture::Everything;
-    /// All that the child can read when everything is captured.
+    /// All that the child can read.
     std::vector<Prompt> prompts;
 };
 

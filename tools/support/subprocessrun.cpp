@@ -61,12 +61,9 @@ void ChildProcess::Stream::readSome()
 
 void ChildProcess::start()
 {
-    if (m_spec.capture == Capture::Everything) {
-        m_inputPipe = makePipe();
-        m_outputPipe = makePipe();
-    }
-    if (m_spec.capture != Capture::Nothing)
-        m_errorPipe = makePipe();
+    m_inputPipe = makePipe();
+    m_outputPipe = makePipe();
+    m_errorPipe = makePipe();
     std::vector<char *> arguments = pointersTo(m_spec.command);
     std::vector<char *> environment = pointersTo(m_spec.environment);
     const pid_t parent = getpid();
@@ -112,7 +109,6 @@ void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environmen
 
 void ChildProcess::connectStreams()
 {
-    // dup2 refuses the -1 of a pipe that was not made, which leaves that stream as it is.
     dup2(m_inputPipe.readEnd.get(), STDIN_FILENO);
     dup2(m_outputPipe.writeEnd.get(), STDOUT_FILENO);
     dup2(m_errorPipe.writeEnd.get(), STDERR_FILENO);

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <climits>
 #include <clocale>
+#include <utility>
 
 #include <fcntl.h>
 #include <iconv.h>
@@ -70,19 +71,40 @@ bool isBeyondUnicode(char32_t code)
     return code > 0x10FFFF;
 }
 
+// Of the words that `text` may begin with, the longest is the last that does not sort behind it;
+// if that one is another word, the next shorter can only be a beginning that both share.
+Replacements::const_iterator longestBeginning(std::string_view text, const Replacements &words)
+{
+    for (auto word = words.upper_bound(text); word != words.begin() && !text.empty();
+         word = words.upper_bound(text)) {
+        --word;
+        if (text.starts_with(word->first))
+            return word;
+        const auto [differs, unused] =
+            std::mismatch(text.begin(), text.end(), word->first.begin(), word->first.end());
+        text = text.substr(0, static_cast<size_t>(differs - text.begin()));
+    }
+    return words.end();
+}
+
 } // namespace
 
-bool readFile(const std::string &path, std::string &content)
+std::optional<std::string> readFile(const std::string &path)
 {
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (!file.valid() || fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return false;
+    if (!file.valid() || fstat(file.get(), &status) != 0)
+        return std::nullopt;
+    if (!S_ISREG(status.st_mode)) {
+        errno = EINVAL;
+        return std::nullopt;
+    }
+    std::string content;
     std::array<char, 16384> buffer{};
     ssize_t count = -1;
     while ((count = read(file.get(), buffer.data(), buffer.size())) > 0)
         content.append(buffer.data(), static_cast<size_t>(count));
-    return count == 0;
+    return count == 0 ? std::optional(std::move(content)) : std::nullopt;
 }
 
 std::vector<std::string> linesOf(const std::string &text)
@@ -102,6 +124,22 @@ void replaceAll(std::string &text, const std::string &from, const std::string &t
         text.replace(at, from.size(), to);
         at += to.size();
     }
+}
+
+std::string replaced(std::string_view text, const Replacements &words)
+{
+    std::string result;
+    while (!text.empty()) {
+        const auto word = longestBeginning(text, words);
+        if (word == words.end()) {
+            result += text.front();
+            text.remove_prefix(1);
+        } else {
+            result += word->second;
+            text.remove_prefix(word->first.size());
+        }
+    }
+    return result;
 }
 
 std::string folderOf(const std::string &path)

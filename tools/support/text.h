@@ -1,16 +1,26 @@
 #pragma once
 
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// The whole regular file at `path` in `content`; false when it cannot be read or is no such file.
-bool readFile(const std::string &path, std::string &content);
+/// The content of the regular file at `path`; nothing, with errno set, when it cannot be read or is
+/// no such file.
+std::optional<std::string> readFile(const std::string &path);
 
 /// The lines of `text` without their line feeds; a last line need not be ended by one.
 std::vector<std::string> linesOf(const std::string &text);
 
 void replaceAll(std::string &text, const std::string &from, const std::string &to);
+
+/// Words to be replaced, and what by.
+using Replacements = std::map<std::string, std::string, std::less<>>;
+
+/// `text` with every one of the words replaced, the longest where several begin at the same place;
+/// what has been put in is not looked at again.
+std::string replaced(std::string_view text, const Replacements &words);
 
 /// The folder part of `path`, "." when it has none, "/" for a name in the root folder.
 std::string folderOf(const std::string &path);

@@ -11,14 +11,12 @@
 #include <cstring>
 #include <exception>
 #include <new>
-#include <utility>
 
 #include <unistd.h>
 
 namespace {
 
-// Arguments are readable by every user of the machine for as long as the process lives, so they
-// are gone as soon as they are read.
+// Every user of the machine can read the arguments for as long as the process lives.
 void wipe(char **words, const Arguments &arguments, const Arguments &masked)
 {
     for (size_t i = 0; i < arguments.size(); ++i) {
@@ -28,69 +26,74 @@ void wipe(char **words, const Arguments &arguments, const Arguments &masked)
 }
 
 // The real tool may repeat a word that it refuses, and that may be a part of a password.
-void maskMessages(Outcome &outcome, const Arguments &arguments, const Arguments &masked)
+void maskMessages(ToolResult &result, const Arguments &arguments, const Arguments &masked)
 {
-    constexpr size_t shortestSecret = 3;
+    constexpr size_t minSecret = 3;
     for (size_t i = 0; i < arguments.size(); ++i) {
-        if (masked[i] == arguments[i] || arguments[i].size() < shortestSecret)
+        if (masked[i] == arguments[i] || arguments[i].size() < minSecret)
             continue;
-        replaceAll(outcome.output, arguments[i], masked[i]);
-        replaceAll(outcome.errors, arguments[i], masked[i]);
+        replaceAll(result.output, arguments[i], masked[i]);
+        replaceAll(result.errors, arguments[i], masked[i]);
     }
 }
 
-Outcome outcomeOf(const Program &program, const Arguments &arguments)
+bool printHelpOrVersion(const Tool &tool, const Arguments &arguments)
+{
+    if (arguments == Arguments{"--help"})
+        writeAll(STDOUT_FILENO, tool.usage + "\n");
+    else if (arguments == Arguments{"--version"})
+        writeAll(STDOUT_FILENO, tool.name + " of " TESSARO_NAME "\n");
+    else
+        return false;
+    return true;
+}
+
+ToolResult resultOf(const Tool &tool, const Arguments &arguments)
 {
     try {
-        return program.run(arguments);
+        return {0, "", tool.run(arguments)};
+    } catch (const ToolError &error) {
+        return error.result(tool.name);
     } catch (const std::bad_alloc &) {
-        return {1, "", program.name + ": not enough memory\n"};
+        return {1, "", tool.name + ": not enough memory\n"};
     } catch (const std::exception &error) {
-        return {1, "", program.name + ": " + error.what() + "\n"};
+        return {1, "", tool.name + ": " + error.what() + "\n"};
     }
 }
 
-int runGuarded(const Program &program, int argc, char **argv)
+int runGuarded(const Tool &tool, int argc, char **argv)
 {
     const auto start = std::chrono::steady_clock::now();
     const Arguments arguments(argv + std::min(argc, 1), argv + argc);
-    const Arguments masked = program.masked(arguments);
+    const Arguments masked = tool.masked(arguments);
     wipe(argv + 1, arguments, masked);
     prepareProcess();
-    Outcome outcome = outcomeOf(program, arguments);
-    if (outcome.status != 0) {
-        writeAll(STDOUT_FILENO, outcome.output);
-        writeAll(STDERR_FILENO, outcome.errors);
+    if (printHelpOrVersion(tool, arguments))
+        return 0;
+    ToolResult result = resultOf(tool, arguments);
+    if (result.status != 0) {
+        writeAll(STDOUT_FILENO, result.output);
+        writeAll(STDERR_FILENO, result.errors);
     }
     if (isLogging()) {
         const auto taken = std::chrono::steady_clock::now() - start;
-        maskMessages(outcome, arguments, masked);
-        appendToLog({program.name, masked, outcome,
+        maskMessages(result, arguments, masked);
+        appendToLog({tool.name, masked, result,
                      std::chrono::duration_cast<std::chrono::milliseconds>(taken)});
     }
-    return outcome.status;
+    return result.status;
 }
 
 } // namespace
 
-int runProgram(const Program &program, int argc, char **argv)
+int runTool(const Tool &tool, int argc, char **argv)
 {
     forbidCoreDumps();
     try {
-        return runGuarded(program, argc, argv);
+        return runGuarded(tool, argc, argv);
     } catch (const std::exception &error) {
-        for (const char *part : {program.name.c_str(), ": ", error.what(), "\n"})
+        for (const char *part : {tool.name.c_str(), ": ", error.what(), "\n"})
             writeAll(STDERR_FILENO, part);
     }
     return 1;
-}
-
-Outcome handOver(ChildSpec spec)
-{
-    spec.capture = isLogging() ? Capture::Errors : Capture::Nothing;
-    spec.mask = userMask();
-    ChildResult result = runChild(spec);
-    if (result.succeeded())
-        writeAll(STDERR_FILENO, result.errors);
-    return {result.exitStatus(), "", std::move(result.errors)};
 }

@@ -1,29 +1,23 @@
 #pragma once
 
-#include "subprocess.h"
-#include "toolresult.h"
-
 #include <string>
 #include <vector>
 
 using Arguments = std::vector<std::string>;
 
 /// One of the two programs beside the executable.
-struct Program
+struct Tool
 {
-    /// Its own name, and that of the real tool's command in the bundle.
     std::string name;
-    /// What a call does. May throw ToolError.
-    Outcome (*run)(const Arguments &);
+    /// The sentence shown for --help and for arguments that are not the application's.
+    std::string usage;
+    /// Runs a call and returns what a log may say of its success. Throws ToolError.
+    std::string (*run)(const Arguments &);
     /// The arguments as they may be logged.
     Arguments (*masked)(const Arguments &);
 };
 
-/// All of main(): runs one call and returns the exit status. Quiet on success, the messages shown
-/// on failure, one sentence for whatever cannot be done, and the whole of it logged when that is
-/// wished. Arguments that `program` masks are wiped from `argv` first of all.
-int runProgram(const Program &program, int argc, char **argv);
-
-/// Hands a call that is not of the application's shape to the real tool: `spec`, with the standard
-/// streams passed through; only the errors take the way round by us, and only for the log.
-Outcome handOver(ChildSpec spec);
+/// All of main(): runs one call and returns the exit status. Quiet on success, except for --help
+/// and --version; on failure the messages are shown. Both are logged on request. Arguments that
+/// `tool` masks are wiped from `argv` before anything else.
+int runTool(const Tool &tool, int argc, char **argv);

@@ -4,7 +4,7 @@
 
 /// How a call of one of the two programs ended: its exit status, and the messages to be shown
 /// when that is not 0.
-struct Outcome
+struct ToolResult
 {
     int status = 0;
     std::string output;

@@ -23,9 +23,9 @@ constexpr std::string_view pattern = "XXXXXX";
 // In every folder of ours, so that one that a user has called like this keeps its files.
 constexpr const char *mark = ".tessaro";
 // Reading so many names takes some milliseconds.
-constexpr int mostNamesSearched = 10'000;
-// A sweep beside us may take a folder away in the moment between its making and its locking.
-constexpr int mostTries = 100;
+constexpr int maxNamesSearched = 10'000;
+// Another call may remove a new folder as stale before it is locked.
+constexpr int maxTries = 100;
 
 struct CloseDirectory
 {
@@ -66,14 +66,26 @@ bool isMarked(int folder)
     return fstatat(folder, mark, &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-void removeFolder(int folder, int parent, const char *name)
+void removeEntries(int folder, bool withFolders)
 {
     const Directory directory = entriesOf(folder);
     while (const dirent *entry = directory ? readdir(directory.get()) : nullptr) {
-        if (entry->d_type != DT_DIR && std::string_view(entry->d_name) != mark)
-            unlinkat(folder, entry->d_name, 0);
+        const std::string_view name = entry->d_name;
+        if (name == "." || name == ".." || name == mark ||
+            unlinkat(folder, entry->d_name, 0) == 0 || !withFolders)
+            continue;
+        const FileDescriptor subfolder(
+            openat(folder, entry->d_name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (subfolder.valid())
+            removeEntries(subfolder.get(), false);
+        unlinkat(folder, entry->d_name, AT_REMOVEDIR);
     }
-    // Last, so that a removal that is cut short can be taken up again.
+}
+
+void removeFolder(int folder, int parent, const char *name)
+{
+    removeEntries(folder, true);
+    // Last, so that another call can take up a removal that was cut short.
     unlinkat(folder, mark, 0);
     unlinkat(parent, name, AT_REMOVEDIR);
 }
@@ -107,59 +119,79 @@ bool isOnlySubfolder(int parent, nlink_t linksBefore)
 
 } // namespace
 
-PrivateFolder::PrivateFolder(const std::string &parent)
+WorkDirectory::WorkDirectory(const std::string &parent)
     : m_parentPath(parent)
     , m_parent(open(parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC))
 {
     struct stat status = {};
     if (!m_parent.valid() || fstat(m_parent.get(), &status) != 0)
         throw systemError("cannot use the folder", parent);
-    for (int i = 0; i < mostTries; ++i) {
-        if (!make())
+    for (int i = 0; i < maxTries; ++i) {
+        if (!create())
             continue;
         if (!isOnlySubfolder(m_parent.get(), status.st_nlink))
-            sweep();
+            removeStale();
         return;
     }
     throw ToolError("cannot keep a folder in '" + parent + "'");
 }
 
-PrivateFolder::~PrivateFolder()
+WorkDirectory::~WorkDirectory()
 {
     removeFolder(m_folder.get(), m_parent.get(), m_name.c_str());
 }
 
-PrivateFolder PrivateFolder::inFirstOf(const std::vector<std::string> &parents)
+std::unique_ptr<WorkDirectory> WorkDirectory::inFirstOf(const std::vector<std::string> &parents)
 {
     for (size_t i = 0; i + 1 < parents.size(); ++i) {
         try {
-            return PrivateFolder(parents[i]);
+            return std::make_unique<WorkDirectory>(parents[i]);
         } catch (const ToolError &) {
             continue;
         }
     }
-    return PrivateFolder(parents.back());
+    return std::make_unique<WorkDirectory>(parents.back());
 }
 
-std::string PrivateFolder::plainPath() const
+std::string WorkDirectory::plainPath() const
 {
     return descriptorPath(m_folder.get());
 }
 
-// False when a sweep beside us has taken the new folder for a leftover.
-bool PrivateFolder::make()
+FileDescriptor WorkDirectory::addFolder(const std::string &name) const
+{
+    FileDescriptor folder;
+    if (mkdirat(m_folder.get(), name.c_str(), 0700) == 0)
+        folder = FileDescriptor(
+            openat(m_folder.get(), name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!folder.valid())
+        throw systemError("cannot create a folder in", path());
+    return folder;
+}
+
+FileDescriptor WorkDirectory::addFile(const std::string &name) const
+{
+    FileDescriptor file(
+        openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!file.valid())
+        throw systemError("cannot write", path() + "/" + name);
+    return file;
+}
+
+// False when another call has removed the new folder as stale.
+bool WorkDirectory::create()
 {
     std::string path = descriptorPath(m_parent.get()) + "/";
     path.append(prefix).append(pattern);
     if (!mkdtemp(path.data()))
-        throw systemError("cannot make a folder in", m_parentPath);
+        throw systemError("cannot create a folder in", m_parentPath);
     m_name = fileNameOf(path);
     // Inherited by the real tool on purpose: the lock lasts while either of them lives.
     m_folder =
         FileDescriptor(openat(m_parent.get(), m_name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW));
     if (!m_folder.valid() && errno != ENOENT)
         giveUp();
-    // A file system without locks does not tell which folders are left over: nobody sweeps there.
+    // A file system without locks cannot say which folders are stale: nobody removes any there.
     if (flock(m_folder.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
     if (!isCurrent(m_folder.get(), m_parent.get(), m_name.c_str()))
@@ -171,18 +203,18 @@ bool PrivateFolder::make()
     return true;
 }
 
-void PrivateFolder::giveUp() const
+void WorkDirectory::giveUp() const
 {
     const int error = errno;
     unlinkat(m_parent.get(), m_name.c_str(), AT_REMOVEDIR);
     errno = error;
-    throw systemError("cannot make a folder in", m_parentPath);
+    throw systemError("cannot create a folder in", m_parentPath);
 }
 
-void PrivateFolder::sweep() const
+void WorkDirectory::removeStale() const
 {
     const Directory directory = entriesOf(m_parent.get());
-    for (int i = 0; directory && i < mostNamesSearched; ++i) {
+    for (int i = 0; directory && i < maxNamesSearched; ++i) {
         const dirent *entry = readdir(directory.get());
         if (!entry)
             return;

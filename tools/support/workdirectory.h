@@ -2,28 +2,30 @@
 
 #include "filedescriptor.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
-/// A folder of one call, mode 0700, with a name that nobody can foresee (".tessaro-" and six
-/// characters) inside a given folder, and removed with all files in it at the end of the call.
+/// A folder of one call, mode 0700, with an unpredictable name (".tessaro-" and six characters)
+/// inside a given folder. It is removed at the end of the call with all files in it and in its
+/// subfolders.
 ///
 /// The folder is locked for as long as this process or a child that inherited descriptor() lives.
-/// Unlocked ones of this user were left by calls that were killed: making a folder clears away
+/// Unlocked ones of this user are left over from calls that were killed: creating a folder removes
 /// those beside it. A parent without other folders in it is not searched, and of one with very
 /// many entries only the first some thousand are looked at.
-class PrivateFolder
+class WorkDirectory
 {
 public:
     /// Throws ToolError when `parent` is no folder that one may write in, and leaves nothing there.
-    explicit PrivateFolder(const std::string &parent);
-    PrivateFolder(const PrivateFolder &) = delete;
-    PrivateFolder &operator=(const PrivateFolder &) = delete;
-    ~PrivateFolder();
+    explicit WorkDirectory(const std::string &parent);
+    WorkDirectory(const WorkDirectory &) = delete;
+    WorkDirectory &operator=(const WorkDirectory &) = delete;
+    ~WorkDirectory();
 
     /// A folder in the first of `parents`, of which there must be one, that takes it; throws the
     /// failure of the last.
-    static PrivateFolder inFirstOf(const std::vector<std::string> &parents);
+    static std::unique_ptr<WorkDirectory> inFirstOf(const std::vector<std::string> &parents);
 
     int descriptor() const { return m_folder.get(); }
     /// As a path below the parent as it was given.
@@ -32,10 +34,15 @@ public:
     /// children that inherit descriptor().
     std::string plainPath() const;
 
+    /// Creates the subfolder `name`, or throws ToolError.
+    FileDescriptor addFolder(const std::string &name) const;
+    /// Creates the file `name`, open for reading and writing, or throws ToolError.
+    FileDescriptor addFile(const std::string &name) const;
+
 private:
-    bool make();
+    bool create();
     [[noreturn]] void giveUp() const;
-    void sweep() const;
+    void removeStale() const;
 
     std::string m_parentPath;
     FileDescriptor m_parent;

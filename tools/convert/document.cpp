@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
+#include <new>
 
 #include <sys/resource.h>
 
@@ -91,12 +92,28 @@ private:
     std::string m_waiting;
 };
 
+// libqpdf calls it some hundred times while it writes.
+class Check : public QPDFWriter::ProgressReporter
+{
+public:
+    explicit Check(const std::function<void()> &check)
+        : m_check(check)
+    {
+    }
+
+    void reportProgress(int) override { m_check(); }
+
+private:
+    const std::function<void()> &m_check;
+};
+
 class Document
 {
 public:
-    Document()
-        : m_pages((m_pdf.emptyPDF(), m_pdf))
-        , m_copied(m_pdf)
+    Document(int spool, const std::function<void()> &check)
+        : m_check(check)
+        , m_pages((m_pdf.emptyPDF(), m_pdf))
+        , m_copied(m_pdf, spool, check)
     {
     }
 
@@ -107,7 +124,8 @@ public:
 private:
     void addPdf(const DocumentPart &part);
 
-    const size_t m_mostOpen = roomForFiles();
+    const std::function<void()> &m_check;
+    const size_t m_maxOpen = roomForFiles();
     QPDF m_pdf;
     // The document reads from them while it is written.
     std::vector<std::unique_ptr<QPDF>> m_sources;
@@ -117,6 +135,7 @@ private:
 
 void Document::add(const DocumentPart &part)
 {
+    m_check();
     if (part.copied.empty()) {
         addPdf(part);
         return;
@@ -130,12 +149,12 @@ void Document::addPdf(const DocumentPart &part)
     auto &source = m_sources.emplace_back(std::make_unique<QPDF>());
     source->setSuppressWarnings(true);
     source->setAttemptRecovery(false);
-    if (m_sources.size() < m_mostOpen)
+    if (m_sources.size() < m_maxOpen)
         source->processFile(part.path.c_str());
     else
         source->processInputSource(std::make_shared<ClosedFileInputSource>(part.path.c_str()));
     std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(*source).getAllPages();
-    if (pages.size() < part.leastPages)
+    if (pages.size() < part.minPages)
         throw ToolError("a page is missing");
     // ImageMagick writes a length of a million points as 1e+06, which is no number of a PDF.
     if (source->anyWarnings())
@@ -168,21 +187,25 @@ void Document::write(int file)
     writer.setStreamDataMode(qpdf_s_preserve);
     // JPEG 2000 came with this version, the last of the other compressions with 1.3.
     writer.setMinimumPDFVersion("1.5");
+    writer.registerProgressReporter(std::make_shared<Check>(m_check));
     writer.write();
     output.requireSuccess();
 }
 
 } // namespace
 
-void writeDocument(int file, const std::vector<DocumentPart> &parts, const std::string &title)
+void writeDocument(int file, const std::vector<DocumentPart> &parts, int spool,
+                   const std::string &title, const std::function<void()> &check)
 {
     try {
-        Document document;
+        Document document(spool, check);
         for (const DocumentPart &part : parts)
             document.add(part);
         document.describe(title);
         document.write(file);
     } catch (const ToolError &) {
+        throw;
+    } catch (const std::bad_alloc &) {
         throw;
     } catch (const std::exception &error) {
         throw ToolError(std::string("cannot join the pages: ") + error.what());

@@ -1,12 +1,12 @@
 #include "copiedpages.h"
 
 #include "error.h"
+#include "filebytes.h"
 #include "filedescriptor.h"
 
 #include <qpdf/Pipeline.hh>
 
 #include <algorithm>
-#include <array>
 #include <memory>
 
 #include <fcntl.h>
@@ -16,14 +16,18 @@ namespace {
 
 using Handle = QPDFObjectHandle;
 
-// The extents of a file, which must be the one that they were found in.
-class FileExtents : public Handle::StreamDataProvider
+// The data of a page's image: from its file, which must be as it was when it was read, and from the
+// spool.
+class ImageData : public Handle::StreamDataProvider
 {
 public:
-    FileExtents(const DocumentPart &part, const std::vector<Extent> &extents)
+    ImageData(const DocumentPart &part, const CopyablePage &page, int spool,
+              const std::function<void()> &check)
         : m_path(part.path)
-        , m_stamp(part.stamp)
-        , m_extents(extents)
+        , m_identity(part.identity)
+        , m_extents(page.extents)
+        , m_spool(spool)
+        , m_check(check)
     {
     }
 
@@ -32,27 +36,22 @@ public:
         const FileDescriptor file(open(m_path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
         if (!file.valid())
             throw systemError("cannot read", m_path);
-        requireUnchanged(file);
+        requireUnchanged(file.get(), m_path, m_identity);
         for (const Extent &extent : m_extents)
-            pass(file, extent, *pipeline);
-        requireUnchanged(file);
+            copy(extent.isSpooled ? m_spool : file.get(), extent, *pipeline);
+        requireUnchanged(file.get(), m_path, m_identity);
         pipeline->finish();
     }
 
 private:
-    void requireUnchanged(const FileDescriptor &file) const
+    void copy(int file, const Extent &extent, Pipeline &pipeline) const
     {
-        if (!(fileStamp(file.get()) == m_stamp))
-            throw ToolError("'" + m_path + "' was changed meanwhile");
-    }
-
-    void pass(const FileDescriptor &file, const Extent &extent, Pipeline &pipeline) const
-    {
-        std::array<unsigned char, 65536> buffer{};
+        std::vector<unsigned char> buffer(std::min<std::uint64_t>(blockSize, extent.length));
         for (std::uint64_t done = 0; done < extent.length;) {
+            m_check();
             const size_t wanted = std::min<std::uint64_t>(buffer.size(), extent.length - done);
             const ssize_t count =
-                pread(file.get(), buffer.data(), wanted, static_cast<off_t>(extent.offset + done));
+                pread(file, buffer.data(), wanted, static_cast<off_t>(extent.offset + done));
             if (count < 0)
                 throw systemError("cannot read", m_path);
             if (count == 0)
@@ -62,9 +61,13 @@ private:
         }
     }
 
+    static constexpr std::uint64_t blockSize = 65536;
+
     std::string m_path;
-    FileStamp m_stamp;
+    FileIdentity m_identity;
     std::vector<Extent> m_extents;
+    int m_spool;
+    const std::function<void()> &m_check;
 };
 
 Handle parmsOf(const CopyablePage &page)
@@ -124,18 +127,15 @@ Handle CopiedPages::imageOf(const DocumentPart &part, const CopyablePage &page)
                       {"/ColorSpace", colorSpaceOf(page)}}));
     if (page.inverted)
         image.getDict().replaceKey("/Decode", Handle::parse("[1 0]"));
-    const Handle filter = Handle::newName("/" + page.filter), parms = parmsOf(page);
-    if (page.data.empty())
-        image.replaceStreamData(std::make_shared<FileExtents>(part, page.extents), filter, parms);
-    else
-        image.replaceStreamData(page.data, filter, parms);
+    image.replaceStreamData(std::make_shared<ImageData>(part, page, m_spool, m_check),
+                            Handle::newName("/" + page.filter), parmsOf(page));
     return image;
 }
 
 Handle CopiedPages::colorSpaceOf(const CopyablePage &page)
 {
     const bool grey = page.components == 1 && page.palette.empty();
-    const Handle base = page.iccProfile.empty()
+    const Handle base = !page.iccProfile
                             ? Handle::newName(grey ? "/DeviceGray" : "/DeviceRGB")
                             : Handle::newArray({Handle::newName("/ICCBased"), profileOf(page)});
     if (page.palette.empty())
@@ -147,12 +147,14 @@ Handle CopiedPages::colorSpaceOf(const CopyablePage &page)
 
 Handle CopiedPages::profileOf(const CopyablePage &page)
 {
-    const auto known = m_profiles.find(page.iccProfile);
+    const auto known = m_profiles.find(page.iccProfile->offset);
     if (known != m_profiles.end())
         return known->second;
-    Handle profile = Handle::newStream(&m_document, page.iccProfile);
+    FileBytes spool(m_spool);
+    spool.seek(page.iccProfile->offset);
+    Handle profile = Handle::newStream(&m_document, spool.read(page.iccProfile->length));
     const int components = page.palette.empty() ? page.components : 3;
     profile.getDict().replaceKey("/N", Handle::newInteger(components));
-    m_profiles.emplace(page.iccProfile, profile);
+    m_profiles.emplace(page.iccProfile->offset, profile);
     return profile;
 }

@@ -1,20 +1,24 @@
 #pragma once
 
-#include "pagelibrary.h"
+#include "document.h"
 
 #include <qpdf/QPDF.hh>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
-/// Makes pages of images whose compressed data stands in their files. It is read when the document
-/// is written.
+/// Makes pages of images whose compressed data is copied from their files, or from the spool, when
+/// the document is written.
 class CopiedPages
 {
 public:
-    explicit CopiedPages(QPDF &document)
+    /// `check` is called again and again while data is copied.
+    CopiedPages(QPDF &document, int spool, std::function<void()> check)
         : m_document(document)
+        , m_spool(spool)
+        , m_check(std::move(check))
     {
     }
 
@@ -28,6 +32,8 @@ private:
     QPDFObjectHandle profileOf(const CopyablePage &page);
 
     QPDF &m_document;
-    // Scans of one scanner share theirs.
-    std::map<std::string, QPDFObjectHandle> m_profiles;
+    int m_spool;
+    std::function<void()> m_check;
+    // By their place in the spool: scans of one scanner share theirs.
+    std::map<std::uint64_t, QPDFObjectHandle> m_profiles;
 };
