@@ -123,7 +123,7 @@ void PdftkRulesTest::passwordsElsewhereAreRefused_data()
 void PdftkRulesTest::passwordsElsewhereAreRefused()
 {
     QFETCH(Words, arguments);
-    QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, "UTF-8"));
+    QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
 }
 
 void PdftkRulesTest::passwordsWithLineBreaksAreRefused_data()

@@ -66,7 +66,7 @@ void ToolFailuresTest::helpAndVersionAreAnswered()
         const RunResult result = runBundled(program, {option}, QDir::tempPath());
         QCOMPARE(result.status, 0);
         QCOMPARE(result.errors, QByteArray());
-        QVERIFY2(result.output.startsWith(answer.replace("PROGRAM", program.toUtf8())),
+        QVERIFY2(result.output.startsWith(QByteArray(answer).replace("PROGRAM", program.toUtf8())),
                  result.output.constData());
         QCOMPARE(result.output.count('\n'), 1);
     }
