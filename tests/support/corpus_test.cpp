@@ -1,8 +1,7 @@
 // Every file that a fuzzer kept, read again without it.
 
-#include "fuzztarget.h"
-
 #include "files.h"
+#include "fuzztarget.h"
 
 #include <QDir>
 #include <QTest>
