@@ -1,6 +1,7 @@
 #pragma once
 
 #include "aboutdialog.h"
+#include "previewpicture.h"
 #include "setdialog.h"
 
 #include <QString>
@@ -146,6 +147,7 @@ private:
     Ui_process *ui = nullptr;
     setDialog setdialog;
     QTimer *previewtimer = nullptr;
+    PreviewPicture preview;
     AboutDialog aboutdialog;
     int pageindex = 0;
 };

@@ -4,7 +4,6 @@
 
 #include "pictures.h"
 #include "previewbox.h"
-#include "previewpicture.h"
 #include "ui_process.h"
 
 #include <QFrame>
@@ -39,16 +38,10 @@ void Process::dopreview()
         const QString path = inputPath(ui->inputfiletableWidget->currentRow());
         if (path.isEmpty())
             return;
-        const QPixmap picture = readPicture(path);
-        if (picture.isNull()) {
-            showPicture(*ui->previewframe, picture); // the frame keeps its size
-            return;
-        }
-        const QSize size = previewSize(picture.size());
-        const QPixmap scaled =
-            scaledPicture(picture, size, Qt::KeepAspectRatio, devicePixelRatioF());
-        resizeFrame(*ui->previewframe, size);
-        showPicture(*ui->previewframe, scaled);
+        const std::optional<Preview> shown = preview.of(path, devicePixelRatioF());
+        if (shown)
+            resizeFrame(*ui->previewframe, shown->size);
+        showPicture(*ui->previewframe, shown ? shown->picture : QPixmap());
     } catch (...) {
         // No image, however broken, may end the program.
     }
@@ -60,6 +53,5 @@ void Process::setdefaultpreview()
     const QPixmap picture =
         crispPixmap(QStringLiteral(":/iconoption/icons/whle.png"), size, devicePixelRatioF());
     resizeFrame(*ui->previewframe, size);
-    showPicture(*ui->previewframe,
-                scaledPicture(picture, size, Qt::IgnoreAspectRatio, devicePixelRatioF()));
+    showPicture(*ui->previewframe, scaledPicture(picture.toImage(), size, devicePixelRatioF()));
 }

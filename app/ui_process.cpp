@@ -175,6 +175,7 @@ void Ui_process::setupAppearancePage()
     label_15 = placeRightLabel(frame_4, "label_15", {120, 50, 81, 21});
     comboBox_rotate = place<QComboBox>(frame_4, "comboBox_rotate", {250, 50, 171, 26});
     comboBox_rotate->setEditable(true);
+    comboBox_rotate->setCompleter(nullptr); // it would make 90 of a typed 9
     label_14 = placeRightLabel(frame_4, "label_14", {140, 110, 62, 21});
     comboBox_pagesize = place<QComboBox>(frame_4, "comboBox_pagesize", {250, 110, 171, 26});
     label_16 = placeRightLabel(frame_4, "label_16", {100, 170, 101, 21});

@@ -52,6 +52,7 @@ class Material:
         self.pixel = self.folder / "pixel.png"
         self.pixel_bmp = self.folder / "pixel.bmp"
         self.photo = self.folder / "photo.jpg"
+        self.large = self.folder / "large.jpg"
         self.photos = self.folder / "photos"
         self.greys = self.folder / "greys"
         self.tiffs = self.folder / "tiffs"
@@ -108,6 +109,10 @@ class Material:
             link_all(small, folder, [f"image-{n:03}.png" for n in range(count)])
         noise = ["-seed", "7", "-size", "1000x750", "plasma:", "-resize", "400%"]
         make_image(self.photo, *noise, "-sampling-factor", "4:2:0", "-quality", "85")
+        subprocess.run(
+            [CONVERT, self.photo, "-resize", "9660x7245", "-quality", "85", self.large],
+            env=self.stock_environment(bounded=False), check=True,
+        )  # fmt: skip
         page = self.folder / "page.jpg"
         paper = ["-seed", "7", "-size", "620x877", "plasma:white-gray70", "-resize", "400%"]
         make_image(page, *paper, "-density", "300", "-quality", "85")

@@ -23,6 +23,8 @@ GROUPS = {
     "lists": lambda bench: bench.lists(9),
     "memory": lambda bench: bench.memory(3),
     "preview": lambda bench: bench.preview(21),
+    "idle": lambda bench: bench.idle(),
+    "wait": lambda bench: bench.wait(5),
     "chain": lambda bench: bench.chains(3),
     "copied-scan": lambda bench: Documents(bench).copied_scan(15),
     "merged-copies": lambda bench: Documents(bench).merged_copies(3),

@@ -154,6 +154,17 @@ class Bench:
         said = self.said("bench_preview", "time", self.material.photo, turns)
         yield Row("preview", said["ours"], said["against"], "ms", 1.05)
 
+    def idle(self):
+        for image, name in ((self.material.photo, "12"), (self.material.large, "70")):
+            said = self.said("bench_preview", "idle", image)
+            name = f"idle window, {name}-megapixel JPEG selected"
+            yield Row(name, said["ours"], said["against"], "%", 1.0, difference=True)
+
+    def wait(self, turns):
+        said = self.said("bench_preview", "wait", self.material.large, turns)
+        name = "longest wait, 70-megapixel JPEG selected"
+        yield Row(name, said["ours"], said["against"], "ms", 250.0, difference=True)
+
     def preview_memory(self):
         said = self.said("bench_preview", "memory", self.material.photo)
         name = "preview, 500th firing's memory over the 20th's"

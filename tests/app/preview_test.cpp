@@ -1,7 +1,7 @@
 // The picture of the current row: its size and shape, when it is drawn, and what is no picture.
 
 #include "previewbox.h"
-#include "windowfixture.h"
+#include "previewprobe.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -20,49 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QFrame *frameOf(WindowFixture &fixture)
-{
-    return fixture.find<QFrame>("previewframe");
-}
-
-QImage pictureOf(WindowFixture &fixture)
-{
-    const QFrame *frame = frameOf(fixture);
-    return frame->palette().brush(frame->backgroundRole()).textureImage();
-}
-
-/// Colour in the middle of the picture shown; invalid when it is blank.
-QColor colourOf(WindowFixture &fixture)
-{
-    const QImage picture = pictureOf(fixture);
-    return picture.isNull() ? QColor() : picture.pixelColor(picture.rect().center());
-}
-
-QString savePicture(WindowFixture &fixture, const QString &name, QSize size, QColor colour)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    if (!image.save(fixture.inputPath(name)))
-        qFatal("cannot save the picture");
-    return fixture.inputPath(name);
-}
-
-/// Adds the file and makes its row the current one, without a selection.
-void makeCurrent(WindowFixture &fixture, const QString &path)
-{
-    fixture.drop({QUrl::fromLocalFile(path)});
-    auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
-    table->selectionModel()->setCurrentIndex(table->model()->index(table->rowCount() - 1, 0),
-                                             QItemSelectionModel::NoUpdate);
-}
-
-/// The preview of the file, drawn at once.
-void preview(WindowFixture &fixture, const QString &path)
-{
-    makeCurrent(fixture, path);
-    fixture.window.dopreview();
-}
 
 using Thrower = std::function<void()>;
 
@@ -247,7 +204,7 @@ void PreviewTest::unreadableFileBlanksThePictureAndKeepsTheSize()
 void PreviewTest::pictureAboveTheAllocationLimitIsUnreadable()
 {
     WindowFixture fixture;
-    const QString path = savePicture(fixture, u"bomb.png"_s, {1000, 1000}, Qt::red);
+    const QString path = savePicture(fixture, u"bomb.bmp"_s, {1000, 1000}, Qt::red);
     const int limit = QImageReader::allocationLimit();
     QImageReader::setAllocationLimit(2); // megabytes; the picture takes four
     preview(fixture, path);

@@ -28,6 +28,8 @@ private slots:
     void windowShowsItsPicture();
     void textsOfTheStepsAreEmptyAndNotNull();
     void tabKeyVisitsThePageInOrder();
+    void typedAngleIsTakenAsTyped_data();
+    void typedAngleIsTakenAsTyped();
     void rotationMayBeTyped();
     void aboutButtonOpensTheAboutBox();
     void optionDialogOpensAndCloses();
@@ -159,6 +161,25 @@ void WindowTest::tabKeyVisitsThePageInOrder()
                                    u"outputfolderEdit"_s, u"outputButton"_s, u"checkBox_joinpdf"_s,
                                    u"pushButton_ImageSetting"_s, u"pushButton_PDFSetting"_s,
                                    u"pushButton_Security"_s, u"runButton"_s}));
+}
+
+void WindowTest::typedAngleIsTakenAsTyped_data()
+{
+    QTest::addColumn<QString>("angle");
+    for (const char *angle : {"9", "1", "18", "2", "27", "90", "-7", "89.5"}) // some begin an item
+        QTest::newRow(angle) << QString::fromLatin1(angle);
+}
+
+void WindowTest::typedAngleIsTakenAsTyped()
+{
+    QFETCH(QString, angle);
+    WindowFixture fixture;
+    fixture.press("pushButton_ImageSetting");
+    auto *box = fixture.find<QComboBox>("comboBox_rotate");
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), angle);
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QCOMPARE(fixture.window.gettheoption(), u" -rotate "_s + angle);
 }
 
 void WindowTest::rotationMayBeTyped()

@@ -68,18 +68,16 @@ void RegularFileTest::regularFilesAloneAreOpened_data()
 void RegularFileTest::regularFilesAloneAreOpened()
 {
     QFETCH(QString, file);
-    QFile opened;
-    QTEST(openRegularFile(opened, file), "opened");
+    RegularFile opened(file);
+    QTEST(opened.isOpen(), "opened");
     QTEST(opened.isOpen() ? opened.readAll() : QByteArray(), "content");
 }
 
 void RegularFileTest::refusedFileLeavesNoDescriptorOpen()
 {
     const QStringList before = openDescriptors();
-    for (const char *name : {"fifo", "folder", "nothing", "file"}) {
-        QFile file;
-        openRegularFile(file, path(name));
-    }
+    for (const char *name : {"fifo", "folder", "nothing", "file"})
+        RegularFile file(path(name));
     QCOMPARE(openDescriptors(), before);
 }
 

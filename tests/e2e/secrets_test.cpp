@@ -144,8 +144,10 @@ void SecretsTest::inspectOpenFiles(const QString &process)
         const QString flags = QString::fromLatin1(
             contentOf(process + u"/fdinfo/"_s + files.fileName()).split('\n').value(1));
         const bool writable = flags.section(u'\t', 1).toInt(nullptr, 8) & O_ACCMODE;
-        QFile opened;
-        if (writable && openRegularFile(opened, file) && holdsSecret(opened.readAll()))
+        if (!writable)
+            continue;
+        RegularFile opened(file);
+        if (opened.isOpen() && holdsSecret(opened.readAll()))
             finds << QFile::symLinkTarget(file);
     }
 }
