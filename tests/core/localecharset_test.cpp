@@ -18,6 +18,7 @@ private slots:
     void charsetIsThatOfTheLocale_data();
     void charsetIsThatOfTheLocale();
     void narrowerVariablesCountWhenTheWiderAreUnset();
+    void missingLocaleOfAnotherCategoryDoesNotCount();
     void textIsWrittenInTheCharset_data();
     void textIsWrittenInTheCharset();
     void whatTheCharsetLacksBecomesAQuestionMark_data();
@@ -63,6 +64,15 @@ void LocaleCharsetTest::narrowerVariablesCountWhenTheWiderAreUnset()
     m_locales.use("");
     qputenv("LANG", "C.UTF-8");
     qputenv("LC_CTYPE", "en_US.ISO-8859-1");
+    QCOMPARE(localeCharset(), QByteArray("ISO-8859-1"));
+}
+
+void LocaleCharsetTest::missingLocaleOfAnotherCategoryDoesNotCount()
+{
+    m_locales.use("");
+    qputenv("LANG", "C.UTF-8");
+    qputenv("LC_CTYPE", "en_US.ISO-8859-1");
+    qputenv("LC_TIME", "xx_XX.KOI8-R");
     QCOMPARE(localeCharset(), QByteArray("ISO-8859-1"));
 }
 
