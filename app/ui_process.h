@@ -91,7 +91,7 @@ public:
     /// that are named after an object and its signal.
     void setupUi(QWidget *process);
 
-    /// Sets every visible text. The combo boxes are emptied and filled anew, which puts each back
+    /// Sets every visible text. The combo boxes are emptied and filled again, which puts each back
     /// to its first item.
     void retranslateUi(QWidget *process);
 

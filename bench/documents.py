@@ -1,4 +1,4 @@
-"""The rows about documents: images copied or converted by our convert, held against img2pdf, which
+"""The rows about documents: images copied or converted by our convert, compared with img2pdf, which
 copies as well, and against the real convert with no limits."""
 
 from material import CONVERT

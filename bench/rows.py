@@ -1,4 +1,4 @@
-"""The rows of the table: what each runs, what it is held against, and what it has to reach."""
+"""The rows of the table: what each runs, what it is compared with, and what it has to reach."""
 
 import json
 import subprocess

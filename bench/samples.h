@@ -14,7 +14,7 @@ inline double millisecondsOf(const std::function<void()> &work)
         .count();
 }
 
-/// What one row of the table measures: ours, and what it is held against.
+/// What one row of the table measures: ours, and what it is compared with.
 struct Samples
 {
     std::vector<double> ours;

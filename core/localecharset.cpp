@@ -63,7 +63,7 @@ QByteArray converted(QByteArray utf8, iconv_t converter)
 
 QByteArray localeCharset()
 {
-    // Qt (6.4) moves the process itself to a UTF-8 locale, so the environment is asked anew.
+    // Qt (6.4) moves the process itself to a UTF-8 locale, so the environment is read again.
     const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
     if (locale == nullptr)
         return QByteArrayLiteral("UTF-8");

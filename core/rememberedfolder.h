@@ -4,7 +4,7 @@
 #include <QString>
 
 /// A folder remembered between runs in setting.ini in the current directory. The file is opened
-/// anew by each object and written before write() returns; a failure to write it is not told.
+/// by each object again and written before write() returns; a failed write is not reported.
 class RememberedFolder
 {
 public:

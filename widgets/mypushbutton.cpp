@@ -11,7 +11,7 @@ namespace {
 
 constexpr int pressedDarkness = 250; // per cent
 
-/// The picture in the file at exactly `path`, told by its content; null when there is none, as
+/// The picture in the file at exactly `path`, detected by its content; null when there is none, as
 /// for an empty path.
 QPixmap pixmapFromFile(const QString &path)
 {

@@ -32,8 +32,8 @@ QImage::Format formatOf(const pcx::Header &header)
     return header.planes == 4 ? QImage::Format_ARGB32 : QImage::Format_RGB32;
 }
 
-/// Told before any memory is taken: a file too short for its picture. Only a device that knows its
-/// size can say so.
+/// Checked before any memory is allocated: a file too short for its picture. Only a device that
+/// knows its size can say so.
 bool isTooShort(const pcx::Header &header, const QIODevice &device)
 {
     return !device.isSequential() &&

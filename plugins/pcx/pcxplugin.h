@@ -2,7 +2,7 @@
 
 #include <QImageIOPlugin>
 
-/// Makes PCX pictures readable through QImageReader, told by their header.
+/// Makes PCX images readable through QImageReader, which recognises them by their header.
 class PcxPlugin : public QImageIOPlugin
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// What a screen reader is told, and the whole job by keyboard alone.
+// What a screen reader reads, and the whole job by keyboard alone.
 
 #include "windowfixture.h"
 

@@ -32,7 +32,7 @@ QStringList shortCalls(const WindowFixture &fixture)
     return result;
 }
 
-/// Meets each child process as soon as Qt tells it of something.
+/// Meets each child process as soon as Qt reports an event of it.
 class ProcessesMet : public QObject
 {
 public:
@@ -193,7 +193,7 @@ void ConversionTest::laterRunsDeleteTheLastFinishedPdfAgain()
     fixture.fill("lineEdit_title", u""_s);
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
-    QCOMPARE(fixture.calls().size(), 3); // a.pdf was written anew, and deleted at the run's end
+    QCOMPARE(fixture.calls().size(), 3); // a.pdf was written again, and deleted at the run's end
     QCOMPARE(fixture.outputFiles(), QStringList());
 }
 

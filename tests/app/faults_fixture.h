@@ -58,7 +58,7 @@ struct Outcome
     QStringList summary() const;
 };
 
-/// What is expected of one fault in the four kinds of run; description and security are told
+/// What is expected of one fault in the four kinds of run; description and security are named
 /// apart by no fault of a tool.
 struct ExpectedOutcomes
 {

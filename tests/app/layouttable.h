@@ -3,7 +3,7 @@
 #include <QRect>
 
 /// What the layout says of one object. `settings` are "property=value" words, separated by
-/// semicolons; an icon or pixmap is told by its picture's name.
+/// semicolons; an icon or pixmap is named by its image.
 struct LayoutRow
 {
     const char *name;

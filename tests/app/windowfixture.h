@@ -12,7 +12,7 @@
 #include <functional>
 #include <memory>
 
-/// The fields of the window that its behaviour is told by.
+/// The fields of the window that show its behaviour.
 struct ProcessProbe
 {
     static int &fileIndex(Process &window) { return window.fileindex; }
@@ -56,7 +56,7 @@ public:
     QStringList addImages(const QStringList &names);
     void setOutputFolder();
 
-    /// What the fake tools are told, see faketool.cpp; "" for good behaviour.
+    /// How the fake tools behave, see faketool.cpp; "" for good behaviour.
     void tellConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
     void tellPdftk(const QString &words) { qputenv("TESSARO_FAKE_PDFTK", words.toUtf8()); }
 

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int runTimeout = 120000; // ms
-// Made anew, so that no file of the build holds one.
+// Random in each run, so that no file of the build holds one.
 const QString ownerPassword = u"Zebra-%1-owner"_s.arg(QRandomGenerator::global()->generate());
 const QString userPassword = u"Okapi-%1-user"_s.arg(QRandomGenerator::global()->generate());
 const auto allFiles = QDir::Files | QDir::Hidden | QDir::System;

@@ -29,7 +29,7 @@ Sizes squares(const QList<int> &sides)
     return sizes;
 }
 
-/// The sizes of all images in a file, in its order; as a side effect proves that each decodes.
+/// The sizes of all images in a file, in its order; as a side effect verifies that each decodes.
 Sizes imageSizes(const QString &file)
 {
     Sizes sizes;

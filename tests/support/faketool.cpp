@@ -1,5 +1,6 @@
-// Stands in for `convert` and `pdftk` in tests of the window: told apart by the name it is started
-// under, it records how it was called and then behaves, or misbehaves, as the environment says.
+// Stands in for `convert` and `pdftk` in tests of the window: distinguished by the name it is
+// started under, it records how it was called and then behaves, or misbehaves, as the environment
+// says.
 //
 // TESSARO_FAKE_LOG      file that gets a line for each call: name, pid and arguments, tab-separated
 // TESSARO_FAKE_CONVERT  blank-separated words for calls as `convert`, TESSARO_FAKE_PDFTK as

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Hands and eyes for tests of an installed program on an X display of their own, to be sourced:
+# Drives an installed program and reads what it made, for tests on an X display of their own, to be sourced:
 # the window is worked by clicks and keys, and PDFs are read back.
 
 fail() {
@@ -49,7 +49,7 @@ no_window() {
     ! xdotool search --onlyvisible --name "Tessaro Image to PDF Converter"
 }
 
-# pdf_says FILE PASSWORD LINE...: poppler opens it so and tells each line of pdfinfo, blanks squeezed.
+# pdf_says FILE PASSWORD LINE...: poppler opens it with PASSWORD and pdfinfo prints each LINE, blanks squeezed.
 pdf_says() {
     local facts line
     facts=$(pdfinfo -upw "$2" "$1" 2>/dev/null | tr -s ' ') || return 1

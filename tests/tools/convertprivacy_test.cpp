@@ -1,4 +1,4 @@
-// What a file tells beside its pixels stays behind, whichever way its pages go into the PDF.
+// What a file holds besides its pixels stays behind, whichever way its pages go into the PDF.
 
 #include "toolbench.h"
 

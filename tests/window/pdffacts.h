@@ -10,7 +10,7 @@ struct PdfFacts
 {
     /// False when poppler finds no PDF there; everything below is then as initialised here.
     bool readable = false;
-    /// -1 while the document is locked: poppler 22.12 tells nothing but `encrypted` of it.
+    /// -1 while the document is locked: poppler 22.12 reports nothing but `encrypted`.
     int pages = -1;
     /// In points (1/72 inch), one for each page, as shown (a page's own rotation is applied).
     QList<QSizeF> pageSizes;
