@@ -148,8 +148,9 @@ void PreviewFilesTest::changedFileShowsAtTheNextFiring_data()
     const QByteArray blue = encoded("bmp", {20, 20}, Qt::blue);
     const auto rewrite = [blue](const QString &path) { write(path, blue); };
     QTest::newRow("rewritten at the same size") << Change(rewrite);
-    QTest::newRow("rewritten at another size") << Change(
-        [](const QString &path) { write(path, encoded("bmp", {30, 30}, Qt::blue)); });
+    QTest::newRow("rewritten at another size") << Change([](const QString &path) {
+        write(path, encoded("bmp", {30, 30}, Qt::blue));
+    });
     QTest::newRow("replaced by another file") << Change([blue](const QString &path) {
         write(path + u".new"_s, blue);
         if (rename(QFile::encodeName(path + u".new"_s).constData(),
@@ -266,7 +267,8 @@ void PreviewFilesTest::formatsThatTheImageToolRefusesShowNothing()
 {
     QFETCH(QByteArray, content);
     WindowFixture fixture;
-    for (const QString &name : {u"p.png"_s, u"p.svg"_s, u"p."_s + QLatin1String(QTest::currentDataTag())}) {
+    for (const QString &name :
+         {u"p.png"_s, u"p.svg"_s, u"p."_s + QLatin1String(QTest::currentDataTag())}) {
         const QString path = fixture.makeFile(name, content);
         preview(fixture, path);
         QVERIFY(pictureOf(fixture).isNull());
@@ -325,8 +327,8 @@ void PreviewFilesTest::decodersPrintNothing()
 
 void PreviewFilesTest::everythingElseIsPrinted()
 {
-    const QtMessageHandler usual = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &text) {
+    const QtMessageHandler usual =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
             std::fprintf(stderr, "%s\n", qPrintable(text));
         });
     CapturedErrors errors;

@@ -81,9 +81,9 @@ QByteArray webpWith(const QByteArray &exif)
     };
     constexpr quint32 hasExif = 8;
     const QImage image = quarters();
-    const QByteArray extended =
-        little(hasExif, 4) + little(static_cast<quint32>(image.width()) - 1, 3) +
-        little(static_cast<quint32>(image.height()) - 1, 3);
+    const QByteArray extended = little(hasExif, 4) +
+                                little(static_cast<quint32>(image.width()) - 1, 3) +
+                                little(static_cast<quint32>(image.height()) - 1, 3);
     constexpr qsizetype imageStart = 12;
     return chunk("RIFF", "WEBP" + chunk("VP8X", extended) + encoded("webp").mid(imageStart) +
                              chunk("EXIF", exif));
@@ -154,7 +154,8 @@ void UprightPreviewTest::everyOrientationStandsUpright_data()
     for (const auto &[number, colours] : orientations) {
         for (const auto &[name, withExif] : carriers) {
             for (const bool bigEndian : {false, true})
-                QTest::addRow("%s, %d, %s", name, number, bigEndian ? "big endian" : "little endian")
+                QTest::addRow("%s, %d, %s", name, number,
+                              bigEndian ? "big endian" : "little endian")
                     << withExif(exifBlock(number, bigEndian)) << QByteArray(colours);
         }
         QTest::addRow("TIFF, %d", number) << tiffWith(number) << QByteArray(colours);
@@ -176,8 +177,8 @@ void UprightPreviewTest::everyOrientationStandsUpright()
                                                    static_cast<int>(y * picture.height())));
     }
     QTEST(colours, "colours");
-    const bool isStoredWide = colours == "RGBY" || colours == "GRYB" || colours == "YBGR" ||
-                              colours == "BYRG";
+    const bool isStoredWide =
+        colours == "RGBY" || colours == "GRYB" || colours == "YBGR" || colours == "BYRG";
     QCOMPARE(frameOf(fixture)->size(), isStoredWide ? QSize(151, 75) : QSize(93, 187));
 }
 

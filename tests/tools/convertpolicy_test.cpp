@@ -21,6 +21,8 @@ private slots:
     void usersOwnPolicyChangesNothing();
     void plainFormatsAreConverted_data();
     void plainFormatsAreConverted();
+    void rareFormatsAreRefused_data();
+    void rareFormatsAreRefused();
     void everyCompressionIsWritten_data();
     void everyCompressionIsWritten();
     void onlyPdfIsWritten_data();
@@ -174,9 +176,8 @@ void ConvertPolicyTest::plainFormatsAreConverted_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
-         {"x.bmp", "x.gif",  "x.jpg",  "x.jpeg", "x.pbm", "x.pcx", "x.png", "x.ppm",
-          "x.tif", "x.tiff", "x.webp", "x.jp2",  "x.pnm", "x.pgm", "x.tga", "x.xbm",
-          "x.xpm", "x.psd",  "x.ico",  "x.sgi",  "x.sun", "x.JPG"})
+         {"x.bmp", "x.gif", "x.jpg", "x.jpeg", "x.pbm", "x.pcx", "x.png", "x.ppm", "x.tif",
+          "x.tiff", "x.webp", "x.jp2", "x.pnm", "x.pgm", "x.JPG"})
         QTest::newRow(name) << name;
 }
 
@@ -193,6 +194,30 @@ void ConvertPolicyTest::plainFormatsAreConverted()
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.status, 0);
     QVERIFY(contentOf(folder.filePath(u"o.pdf"_s)).startsWith("%PDF-"));
+}
+
+void ConvertPolicyTest::rareFormatsAreRefused_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const char *format : {"cur", "dcx", "dib", "ico", "jng", "mng", "pam", "pfm", "psb", "psd",
+                               "sgi", "sun", "tga", "xbm", "xpm"})
+        QTest::newRow(format) << format;
+}
+
+void ConvertPolicyTest::rareFormatsAreRefused()
+{
+    QFETCH(QString, format);
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"source.png"_s), {40, 30});
+    const QString realTool =
+        QString::fromUtf8(contentOf(bundleContents() + u"/Resources/convert.tool"_s)).trimmed();
+    QCOMPARE(runProgram(realTool, {u"source.png"_s, format + u":x.png"_s}, folder.path()).status,
+             0);
+    QVERIFY(QFile::copy(folder.filePath(u"x.png"_s), folder.filePath(u"x."_s + format)));
+    const QStringList names = namesIn(folder.path());
+    for (const QString &name : {u"x.png"_s, u"x."_s + format})
+        QVERIFY(runBundled(u"convert"_s, {name, u"o.pdf"_s}, folder.path()).status != 0);
+    QCOMPARE(namesIn(folder.path()), names);
 }
 
 void ConvertPolicyTest::everyCompressionIsWritten_data()
