@@ -44,8 +44,12 @@ RunResult assembleTools(const QString &contents, const Variables &variables = {}
 std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList &arguments,
                                        const QString &folder, const Variables &variables = {});
 
+/// The processes whose arguments contain `word`, zombies (which have none) left out.
+QList<pid_t> processesWith(const QByteArray &word);
+
 /// A bundle of its own in a temporary folder: the two programs, and as their real tools what
-/// `convertTool` and `pdftkTool` say (words, one per line).
+/// `convertTool` and `pdftkTool` say (words, one per line). A script starts other programs, which
+/// no sandbox lets it do: in front of one `convert` runs without.
 class ToolBundle
 {
 public:
@@ -57,6 +61,8 @@ public:
     }
 
 private:
+    void liftSandbox(const QString &name) const;
+
     QTemporaryDir m_folder;
 };
 

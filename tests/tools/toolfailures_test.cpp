@@ -233,13 +233,14 @@ void ToolFailuresTest::realToolSeesACleanEnvironment()
                                  {u"_JAVA_OPTIONS"_s, u"-evil"_s},
                                  {u"JAVA_TOOL_OPTIONS"_s, u"-evil"_s},
                                  {u"HOME"_s, u"/evil"_s},
-                                 {u"KEPT"_s, u"this"_s}};
+                                 {u"SSH_AUTH_SOCK"_s, u"/evil"_s},
+                                 {u"TMPDIR"_s, folder.path()}};
     for (const QString &program : {u"convert"_s, u"pdftk"_s}) {
         const QByteArray environment =
             runProgram(bundle.tool(program), callOf(program), folder.path(), variables).errors;
         QVERIFY(!environment.contains("evil"));
         QVERIFY(!environment.contains("de_DE"));
-        QVERIFY(environment.contains("KEPT=this\n"));
+        QVERIFY(environment.contains("TMPDIR=" + folder.path().toUtf8() + "\n"));
         QVERIFY(environment.contains("LC_ALL=C.UTF-8\n"));
     }
 }

@@ -50,17 +50,6 @@ namespace {
 
 const QStringList finishing = {u"in.pdf"_s, u"output"_s, u"o.pdf"_s};
 
-// The processes whose arguments contain `word`, zombies (which have none) left out.
-QList<pid_t> processesWith(const QByteArray &word)
-{
-    QList<pid_t> found;
-    for (const QString &process : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
-        if (process.toInt() > 0 && contentOf(u"/proc/"_s + process + u"/cmdline"_s).contains(word))
-            found.append(process.toInt());
-    }
-    return found;
-}
-
 pid_t pidOf(const QProcess &process)
 {
     return static_cast<pid_t>(process.processId());

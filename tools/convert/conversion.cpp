@@ -135,6 +135,9 @@ void Conversion::start(const Run &run)
                                    limitsFor(work, machineMemory(), freeBytesIn(m_pixels->path())),
                                    m_pixels->path() + "/" + name);
     spec.folder = folder.get();
+    spec.sandbox = magickSandbox(
+        spec.command.front(), absolutePath(run.path),
+        {m_output.folder().plainPath() + "/" + name, m_pixels->plainPath() + "/" + name});
     m_pool.start(std::move(spec), run.part);
 }
 

@@ -40,6 +40,17 @@ ChildSpec magickCommand(const std::vector<std::string> &arguments, const Convert
     return spec;
 }
 
+Sandbox magickSandbox(const std::string &program, const std::string &image,
+                      const std::vector<std::string> &folders)
+{
+    Sandbox sandbox = {.files = rulesToRun(program)};
+    sandbox.files.push_back({policyFolder(), Access::Read});
+    sandbox.files.push_back({image, Access::Read});
+    for (const std::string &folder : folders)
+        sandbox.files.push_back({folder, Access::Write});
+    return sandbox;
+}
+
 // Left to itself, ImageMagick (6.9.11 and 7.1) writes EXIF, XMP, IPTC and comments of an image into
 // the JPEG data of its page, and draws its label on the page.
 std::vector<std::string> pageArguments(const ConvertOptions &options, const ConvertedImage &image,

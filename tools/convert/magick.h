@@ -12,6 +12,11 @@
 ChildSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
                         const std::string &pixels);
 
+/// What a run of `program`, the real ImageMagick, may do that reads `image` and writes into
+/// `folders`.
+Sandbox magickSandbox(const std::string &program, const std::string &image,
+                      const std::vector<std::string> &folders);
+
 /// The arguments that make the PDF `result` of `image`, which ImageMagick knows as `input`. Of what
 /// the file holds beside its pixels the colour profile alone gets into it.
 std::vector<std::string> pageArguments(const ConvertOptions &options, const ConvertedImage &image,

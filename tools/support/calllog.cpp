@@ -1,6 +1,7 @@
 #include "calllog.h"
 
 #include "filedescriptor.h"
+#include "sandboxsupport.h"
 #include "text.h"
 
 #include <array>
@@ -48,6 +49,7 @@ void appendToLog(const CallRecord &record)
     const std::string entry =
         now() + " " + record.program + " exit status " + std::to_string(record.result.status) +
         " after " + std::to_string(record.duration.count()) + " ms\n" +
+        (isSandboxComplete() ? "" : "  sandbox: " + describeSandbox() + "\n") +
         listed("argument", record.arguments) + listed("message", linesOf(record.result.output)) +
         listed("message", linesOf(record.result.errors));
     const FileDescriptor file(

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// This process's environment as "NAME=value", without the variables that would change what the
-/// real tools do (locale, home and configuration folders, ImageMagick's and the JVM's own), and
-/// with `additions` after it.
+/// The environment of a real tool, as "NAME=value": those variables of this process that say where
+/// temporary files and libraries are and which time zone it is in, and `additions`. Nothing else
+/// is passed on: tokens, agents, the session bus, or what would change what a tool does.
 std::vector<std::string> environmentWith(const std::vector<std::string> &additions);

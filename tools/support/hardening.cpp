@@ -40,7 +40,9 @@ void forbidCoreDumps()
 
 void prepareProcess()
 {
+    close_range(STDERR_FILENO + 1, ~0U, 0);
     openStandardStreams();
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
     maskAtStart = umask(forUserAlone);
     holdSignals();
 }

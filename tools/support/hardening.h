@@ -6,8 +6,9 @@
 /// passwords, and no core dump of it or of its children is made.
 void forbidCoreDumps();
 
-/// The standard streams are open from now on (on /dev/null if need be, so that no file of ours
-/// takes their place), new files are for the user alone, and signals wait for runChild(). Throws
+/// Of the caller's descriptors only the standard streams stay, and these are open from now on (on
+/// /dev/null if need be, so that no file of ours takes their place). New files are for the user
+/// alone, signals wait for runChild(), and processes that a child leaves behind become ours. Throws
 /// ToolError.
 void prepareProcess();
 

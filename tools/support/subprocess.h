@@ -1,7 +1,10 @@
 #pragma once
 
+#include "sandbox.h"
+
 #include <chrono>
 #include <csignal>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,6 +40,7 @@ struct ChildSpec
     /// The child is ended when it has taken longer; zero is no limit.
     std::chrono::seconds deadline{0};
     std::vector<ResourceLimit> limits;
+    std::optional<Sandbox> sandbox;
     /// All that the child can read.
     std::vector<Prompt> prompts;
 };

@@ -2,11 +2,13 @@
 
 #include "error.h"
 #include "subprocessrun.h"
+#include "text.h"
 
 #include <algorithm>
 
 #include <poll.h>
 #include <sys/signalfd.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -15,6 +17,22 @@ bool isIgnored(int signal)
 {
     struct sigaction action = {};
     return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+// Ends what children have left behind; a sandbox refuses that, and leaves it to the process
+// outside.
+void endOrphans()
+{
+    const std::string list = "/proc/self/task/" + std::to_string(getpid()) + "/children";
+    while (std::optional<std::string> orphans = readFile(list)) {
+        replaceAll(*orphans, " ", "\n");
+        for (const std::string &orphan : linesOf(*orphans)) {
+            if (kill(std::stoi(orphan), SIGKILL) != 0)
+                return;
+        }
+        if (waitpid(-1, nullptr, 0) < 0)
+            return;
+    }
 }
 
 } // namespace
@@ -32,6 +50,7 @@ ChildPool::~ChildPool()
     endAll(SIGTERM);
     while (!m_children.empty())
         wait();
+    endOrphans();
 }
 
 sigset_t ChildPool::heldSignals()

@@ -21,7 +21,8 @@ public:
     ChildPool();
     ChildPool(const ChildPool &) = delete;
     ChildPool &operator=(const ChildPool &) = delete;
-    /// Ends those at work, by SIGTERM first and SIGKILL some seconds later.
+    /// Ends those at work, by SIGTERM first and SIGKILL some seconds later, and then at once what
+    /// any of them has left behind.
     ~ChildPool();
 
     /// Throws ToolError when the child cannot be started.

@@ -6,8 +6,10 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -26,6 +28,14 @@ std::vector<char *> pointersTo(const std::vector<std::string> &words)
         pointers.push_back(const_cast<char *>(word.c_str()));
     pointers.push_back(nullptr);
     return pointers;
+}
+
+// fork() that also makes a descriptor of the child, -1 before Linux 5.2: in a sandbox only one's
+// own children can be signalled, by that.
+pid_t forkWithDescriptor(int &descriptor)
+{
+    return static_cast<pid_t>(
+        syscall(SYS_clone, CLONE_PIDFD | SIGCHLD, nullptr, &descriptor, 0, 0));
 }
 
 } // namespace
@@ -67,11 +77,13 @@ void ChildProcess::start()
     std::vector<char *> arguments = pointersTo(m_spec.command);
     std::vector<char *> environment = pointersTo(m_spec.environment);
     const pid_t parent = getpid();
-    m_child = fork();
+    int descriptor = -1;
+    m_child = forkWithDescriptor(descriptor);
     if (m_child < 0)
         throw systemError("cannot start", m_spec.command.front());
     if (m_child == 0)
         becomeChild(parent, arguments.data(), environment.data());
+    m_descriptor = FileDescriptor(descriptor);
     m_inputPipe.readEnd.close();
     m_outputPipe.writeEnd.close();
     m_errorPipe.writeEnd.close();
@@ -99,11 +111,16 @@ void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environmen
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
-    if (m_spec.folder < 0 || fchdir(m_spec.folder) == 0)
+    try {
+        if (m_spec.folder >= 0 && fchdir(m_spec.folder) != 0)
+            throw systemError("cannot start", arguments[0]);
+        if (m_spec.sandbox)
+            enterSandbox(*m_spec.sandbox);
         execve(arguments[0], arguments, environment);
-    const std::string message =
-        systemError("cannot start", arguments[0]).what() + std::string("\n");
-    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, message.data(), message.size());
+        throw systemError("cannot start", arguments[0]);
+    } catch (const ToolError &error) {
+        writeAll(STDERR_FILENO, error.what() + std::string("\n"));
+    }
     _exit(cannotExecute);
 }
 
@@ -150,9 +167,15 @@ void ChildProcess::answer()
     m_inputPipe.writeEnd.close();
 }
 
+void ChildProcess::send(int signal) const
+{
+    if (syscall(SYS_pidfd_send_signal, m_descriptor.get(), signal, nullptr, 0) != 0)
+        kill(m_child, signal);
+}
+
 void ChildProcess::endAfter(int signal)
 {
-    kill(m_child, signal);
+    send(signal);
     if (!m_killAt)
         m_killAt = Clock::now() + graceAfterSignal;
 }
@@ -169,7 +192,7 @@ void ChildProcess::enforceTime()
 {
     const Clock::time_point now = Clock::now();
     if (m_killAt && now >= *m_killAt) {
-        kill(m_child, SIGKILL);
+        send(SIGKILL);
         m_killAt = now + graceAfterSignal;
     }
     if (!m_killAt && m_deadline && now >= *m_deadline) {
@@ -180,9 +203,12 @@ void ChildProcess::enforceTime()
 
 void ChildProcess::drain()
 {
+    // What fits into a pipe (64 KiB on Linux) four times over: a process that the child has left
+    // behind could write for ever.
+    constexpr int maxReads = 16;
     for (Stream *stream : {&m_output, &m_errors}) {
         pollfd watched = {stream->end.get(), POLLIN, 0};
-        while (stream->end.valid() && poll(&watched, 1, 0) > 0)
+        for (int i = 0; i < maxReads && stream->end.valid() && poll(&watched, 1, 0) > 0; ++i)
             stream->readSome();
     }
 }

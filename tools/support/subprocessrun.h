@@ -52,6 +52,7 @@ private:
     void start();
     [[noreturn]] void becomeChild(pid_t parent, char **arguments, char **environment);
     void connectStreams();
+    void send(int signal) const;
     void answer();
     void enforceTime();
     void drain();
@@ -64,5 +65,6 @@ private:
     std::vector<Prompt> m_unanswered;
     size_t m_searched = 0;
     pid_t m_child = -1;
+    FileDescriptor m_descriptor;
     std::optional<Clock::time_point> m_deadline, m_killAt;
 };

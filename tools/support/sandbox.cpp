@@ -1,0 +1,423 @@
+#include "sandbox.h"
+
+#include "error.h"
+#include "filedescriptor.h"
+#include "sandboxsupport.h"
+#include "text.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+
+#include <fcntl.h>
+#include <gnu/lib-names.h>
+#include <linux/fs.h>
+#include <linux/landlock.h>
+#include <linux/sockios.h>
+#include <sched.h>
+#include <seccomp.h>
+#include <sys/ioctl.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+// What every process inside may use: the C library, its loader and locales, and what decoders look
+// for (ImageMagick's configuration, the number of cores).
+const std::vector<FileRule> systemFiles = {
+    {"/lib", Access::Read},
+    {"/lib64", Access::Read},
+    {"/lib/" LD_SO, Access::Execute},
+    {"/lib64/" LD_SO, Access::Execute},
+    {"/usr/lib", Access::Read},
+    {"/usr/lib64", Access::Read},
+    {"/usr/local/lib", Access::Read},
+    {"/usr/share", Access::Read},
+    {"/etc/ld.so.cache", Access::Read},
+    {"/etc/localtime", Access::Read},
+    {"/etc/ImageMagick-6", Access::Read},
+    {"/etc/ImageMagick-7", Access::Read},
+    {"/proc/self", Access::Read},
+    {"/sys/devices/system/cpu", Access::Read},
+    {"/sys/devices/system/node", Access::Read},
+    {"/dev/null", Access::Write},
+    {"/dev/urandom", Access::Read},
+};
+
+// System calls that nobody inside needs, by what they would reach.
+constexpr auto refusedCalls = std::to_array<const char *>({
+    // Networks, the desktop, other programs' sockets.
+    "socket",
+    "socketpair",
+    "connect",
+    "bind",
+    "listen",
+    "accept",
+    "accept4",
+    "sendto",
+    "sendmsg",
+    "sendmmsg",
+    "recvfrom",
+    "recvmsg",
+    "recvmmsg",
+    // Other processes.
+    "ptrace",
+    "process_vm_readv",
+    "process_vm_writev",
+    "process_madvise",
+    "process_mrelease",
+    "kcmp",
+    "pidfd_open",
+    "pidfd_getfd",
+    "rt_sigqueueinfo",
+    "rt_tgsigqueueinfo",
+    "perf_event_open",
+    "setpriority",
+    "ioprio_set",
+    "sched_setaffinity",
+    "sched_setattr",
+    "sched_setparam",
+    "sched_setscheduler",
+    "migrate_pages",
+    "move_pages",
+    // Memory and messages shared with other processes.
+    "shmget",
+    "shmat",
+    "shmctl",
+    "semget",
+    "semop",
+    "semtimedop",
+    "semctl",
+    "msgget",
+    "msgsnd",
+    "msgrcv",
+    "msgctl",
+    "mq_open",
+    "mq_unlink",
+    // Programs that no file holds.
+    "memfd_create",
+    "memfd_secret",
+    "execveat",
+    // Attributes of files, and watching them: Landlock leaves them open.
+    "chmod",
+    "fchmod",
+    "fchmodat",
+    "chown",
+    "fchown",
+    "lchown",
+    "fchownat",
+    "utime",
+    "utimes",
+    "futimesat",
+    "utimensat",
+    "setxattr",
+    "lsetxattr",
+    "fsetxattr",
+    "removexattr",
+    "lremovexattr",
+    "fremovexattr",
+    "truncate",
+    "inotify_init",
+    "inotify_init1",
+    "inotify_add_watch",
+    "fanotify_init",
+    "fanotify_mark",
+    // Mounts and namespaces.
+    "mount",
+    "umount",
+    "umount2",
+    "pivot_root",
+    "chroot",
+    "move_mount",
+    "open_tree",
+    "fsopen",
+    "fsconfig",
+    "fsmount",
+    "fspick",
+    "mount_setattr",
+    "unshare",
+    "setns",
+    "open_by_handle_at",
+    // Wide doors into the kernel.
+    "io_uring_setup",
+    "io_uring_enter",
+    "io_uring_register",
+    "bpf",
+    "userfaultfd",
+    "keyctl",
+    "add_key",
+    "request_key",
+    "init_module",
+    "finit_module",
+    "delete_module",
+    "kexec_load",
+    "kexec_file_load",
+    "iopl",
+    "ioperm",
+    "reboot",
+    "swapon",
+    "swapoff",
+    "acct",
+    "quotactl",
+    "syslog",
+    "settimeofday",
+    "clock_settime",
+    "clock_adjtime",
+    "adjtimex",
+    "sethostname",
+    "setdomainname",
+});
+
+// The same, known to Linux by numbers only where libseccomp is 2.5 (Debian 12): fchmodat2,
+// setxattrat, removexattrat, open_tree_attr, file_setattr.
+constexpr auto refusedNumbers = std::to_array<int>({452, 463, 466, 467, 469});
+
+// Their arguments lie in memory, where no filter sees them. Callers use older calls instead.
+constexpr auto unseenCalls = std::to_array<const char *>({"clone3", "openat2"});
+
+// What only those need that start other processes.
+constexpr auto startingCalls = std::to_array<const char *>({"fork", "vfork", "pidfd_send_signal"});
+
+struct RefusedArgument
+{
+    const char *call;
+    scmp_arg_cmp argument;
+};
+
+// An argument of which the bits in `mask` are `value`.
+constexpr scmp_arg_cmp bits(unsigned argument, scmp_datum_t mask, scmp_datum_t value)
+{
+    return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
+constexpr scmp_arg_cmp number(unsigned argument, scmp_datum_t value)
+{
+    return bits(argument, 0xFFFF'FFFF, value);
+}
+
+constexpr scmp_datum_t newTimeNamespace = 0x80;
+
+const auto refusedArguments = std::to_array<RefusedArgument>({
+    // Reading rights suffice for these to cut a file off (Landlock before ABI 3) or to reach a
+    // device.
+    {"open", bits(1, O_ACCMODE | O_TRUNC, O_TRUNC)},
+    {"open", bits(1, O_ACCMODE, O_ACCMODE)},
+    {"openat", bits(2, O_ACCMODE | O_TRUNC, O_TRUNC)},
+    {"openat", bits(2, O_ACCMODE, O_ACCMODE)},
+    // Typing into a terminal.
+    {"ioctl", number(1, TIOCSTI)},
+    {"ioctl", number(1, TIOCLINUX)},
+    // Attributes of files.
+    {"ioctl", number(1, FS_IOC_SETFLAGS)},
+    {"ioctl", number(1, FS_IOC_FSSETXATTR)},
+    // Signals by way of a file.
+    {"ioctl", number(1, FIOSETOWN)},
+    {"fcntl", number(1, F_SETOWN)},
+    {"fcntl", number(1, F_SETOWN_EX)},
+    // Limits of other processes.
+    {"prlimit64", {0, SCMP_CMP_NE, 0, 0}},
+    {"clone", bits(0, CLONE_NEWUSER, CLONE_NEWUSER)},
+    {"clone", bits(0, CLONE_NEWNS, CLONE_NEWNS)},
+    {"clone", bits(0, CLONE_NEWPID, CLONE_NEWPID)},
+    {"clone", bits(0, CLONE_NEWNET, CLONE_NEWNET)},
+    {"clone", bits(0, CLONE_NEWIPC, CLONE_NEWIPC)},
+    {"clone", bits(0, CLONE_NEWUTS, CLONE_NEWUTS)},
+    {"clone", bits(0, CLONE_NEWCGROUP, CLONE_NEWCGROUP)},
+    {"clone", bits(0, newTimeNamespace, newTimeNamespace)},
+});
+
+// Rights and scopes by the version ("ABI") of Landlock that brought them; Debian 12's header ends
+// at 2.
+struct LandlockStep
+{
+    int abi;
+    std::uint64_t files, network, scopes;
+};
+
+constexpr std::uint64_t truncateRight = 1U << 14U;
+constexpr std::uint64_t deviceIoctlRight = 1U << 15U;
+
+constexpr auto landlockSteps = std::to_array<LandlockStep>({
+    {1, LANDLOCK_ACCESS_FS_REFER - 1, 0, 0},
+    {2, LANDLOCK_ACCESS_FS_REFER, 0, 0},
+    {3, truncateRight, 0, 0},
+    // TCP: binding and connecting.
+    {4, 0, 3, 0},
+    {5, deviceIoctlRight, 0, 0},
+    // Abstract Unix sockets, and signals.
+    {6, 0, 0, 3},
+});
+
+constexpr std::uint64_t readRights = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
+constexpr std::uint64_t writeRights =
+    readRights | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateRight | LANDLOCK_ACCESS_FS_MAKE_REG |
+    LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR;
+constexpr std::uint64_t rightsOnOneFile = LANDLOCK_ACCESS_FS_EXECUTE |
+                                          LANDLOCK_ACCESS_FS_READ_FILE |
+                                          LANDLOCK_ACCESS_FS_WRITE_FILE | truncateRight;
+
+std::uint64_t rightsFor(Access access)
+{
+    switch (access) {
+    case Access::Read:
+        return readRights;
+    case Access::Execute:
+        return readRights | LANDLOCK_ACCESS_FS_EXECUTE;
+    case Access::Write:
+        break;
+    }
+    return writeRights;
+}
+
+// As Linux declares it from 6.12 on; older ones take it as long as what they do not know is 0.
+struct RulesetAttributes
+{
+    std::uint64_t files, network, scopes;
+};
+
+class Ruleset
+{
+public:
+    explicit Ruleset(int abi)
+    {
+        for (const LandlockStep &step : landlockSteps) {
+            if (step.abi <= abi) {
+                m_handled.files |= step.files;
+                m_handled.network |= step.network;
+                m_handled.scopes |= step.scopes;
+            }
+        }
+        m_ruleset = FileDescriptor(static_cast<int>(
+            syscall(SYS_landlock_create_ruleset, &m_handled, sizeof m_handled, 0)));
+        require(m_ruleset.valid());
+    }
+
+    void allow(const FileRule &rule, std::uint64_t moreRights = 0)
+    {
+        const FileDescriptor file(open(rule.path.c_str(), O_PATH | O_CLOEXEC));
+        struct stat status = {};
+        if (!file.valid() || fstat(file.get(), &status) != 0)
+            return;
+        landlock_path_beneath_attr attributes = {};
+        attributes.parent_fd = file.get();
+        attributes.allowed_access = (rightsFor(rule.access) | moreRights) & m_handled.files;
+        if (!S_ISDIR(status.st_mode))
+            attributes.allowed_access &= rightsOnOneFile;
+        require(syscall(SYS_landlock_add_rule, m_ruleset.get(), LANDLOCK_RULE_PATH_BENEATH,
+                        &attributes, 0) == 0);
+    }
+
+    void enforce() const { require(syscall(SYS_landlock_restrict_self, m_ruleset.get(), 0) == 0); }
+
+private:
+    static void require(bool done)
+    {
+        if (!done)
+            throw systemError("cannot set up", "the sandbox");
+    }
+
+    RulesetAttributes m_handled = {};
+    FileDescriptor m_ruleset;
+};
+
+void restrictFiles(const Sandbox &sandbox, int abi)
+{
+    Ruleset ruleset(abi);
+    for (const FileRule &rule : systemFiles)
+        ruleset.allow(rule);
+    for (const FileRule &rule : sandbox.files) {
+        const bool links = sandbox.startsProcesses && rule.access == Access::Write;
+        ruleset.allow(rule, links ? LANDLOCK_ACCESS_FS_MAKE_SYM : 0);
+    }
+    ruleset.enforce();
+}
+
+/// A filter of system calls: all are allowed that are not refused.
+class CallFilter
+{
+public:
+    CallFilter()
+        : m_filter(seccomp_init(SCMP_ACT_ALLOW))
+    {
+        require(m_filter ? 0 : -ENOMEM);
+    }
+
+    // A call that this machine's kind does not have needs no refusal.
+    void refuse(const char *call, int error = EPERM)
+    {
+        if (const int number = seccomp_syscall_resolve_name(call); number != __NR_SCMP_ERROR)
+            refuse(number, error);
+    }
+    void refuse(int number, int error)
+    {
+        require(seccomp_rule_add(m_filter.get(), SCMP_ACT_ERRNO(static_cast<unsigned>(error)),
+                                 number, 0));
+    }
+    void refuse(const RefusedArgument &refused)
+    {
+        require(seccomp_rule_add_array(m_filter.get(), SCMP_ACT_ERRNO(EPERM),
+                                       seccomp_syscall_resolve_name(refused.call), 1,
+                                       &refused.argument));
+    }
+
+    void enforce() { require(seccomp_load(m_filter.get())); }
+
+private:
+    struct Release
+    {
+        void operator()(void *filter) const { seccomp_release(filter); }
+    };
+
+    static void require(int result)
+    {
+        errno = -result;
+        if (result < 0)
+            throw systemError("cannot set up", "the sandbox");
+    }
+
+    std::unique_ptr<void, Release> m_filter;
+};
+
+void restrictCalls(const Sandbox &sandbox)
+{
+    CallFilter filter;
+    for (const char *call : refusedCalls)
+        filter.refuse(call);
+    for (const int number : refusedNumbers)
+        filter.refuse(number, ENOSYS);
+    for (const char *call : unseenCalls)
+        filter.refuse(call, ENOSYS);
+    for (const RefusedArgument &refused : refusedArguments)
+        filter.refuse(refused);
+    if (!sandbox.startsProcesses) {
+        for (const char *call : startingCalls)
+            filter.refuse(call);
+        // Threads are all that is left.
+        filter.refuse({"clone", bits(0, CLONE_THREAD, 0)});
+    }
+    filter.enforce();
+}
+
+} // namespace
+
+std::vector<FileRule> rulesToRun(const std::string &program)
+{
+    std::vector<FileRule> rules = {{program, Access::Execute}};
+    for (const char *beside : {"/lib", "/etc", "/share"})
+        rules.push_back({folderOf(folderOf(program)) + beside, Access::Read});
+    return rules;
+}
+
+void enterSandbox(const Sandbox &sandbox)
+{
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
+        throw systemError("cannot set up", "the sandbox");
+    if (const int abi = landlockAbi(); abi > 0)
+        restrictFiles(sandbox, abi);
+    if (hasSeccomp())
+        restrictCalls(sandbox);
+}
