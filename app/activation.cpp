@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
 #include <QWindow>
 
 namespace {
@@ -19,13 +22,41 @@ public:
     }
 
 private:
-    static void activate(QWindow *window, bool isShown)
+    void activate(QWindow *window, bool isShown)
     {
         // Menus, lists of combo boxes and tool tips are neither, and take no keyboard of their own.
         if (!window || (window->type() != Qt::Window && window->type() != Qt::Dialog))
             return;
-        if (QWindow *next = isShown ? window : window->transientParent())
-            next->requestActivate();
+        m_shown.removeIf([window](const auto &other) { return !other || other == window; });
+        if (isShown)
+            m_shown.append(window);
+        if (!m_shown.isEmpty())
+            m_shown.last()->requestActivate();
+    }
+
+    QList<QPointer<QWindow>> m_shown; // the one that was shown last is the last
+};
+
+class PopupParents : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            attach(qobject_cast<QWidget *>(watched));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static void attach(const QWidget *popup)
+    {
+        // The list of a completer has no parent but passes its keys on to the field.
+        if (!popup || popup->windowType() != Qt::Popup || !popup->focusProxy())
+            return;
+        if (QWindow *window = popup->windowHandle(); !window->transientParent())
+            window->setTransientParent(popup->focusProxy()->window()->windowHandle());
     }
 };
 
@@ -35,4 +66,9 @@ void activateWindows(QApplication &application)
 {
     if (QGuiApplication::platformName() == QStringLiteral("xcb"))
         application.installEventFilter(new Activation(&application));
+}
+
+void attachPopups(QApplication &application)
+{
+    application.installEventFilter(new PopupParents(&application));
 }

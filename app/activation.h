@@ -2,8 +2,13 @@
 
 class QApplication;
 
-/// Gives the keyboard to each window of `application` that appears, and back to the window below a
-/// dialog that goes, where no window manager does so: X servers without one leave it to the window
-/// under the mouse. With a window manager it is a request that the manager decides on. Does nothing
-/// on platforms other than X.
+/// Gives the keyboard to each window of `application` that appears, and back to the one shown
+/// before it when it closes, where no window manager does so: X servers without one leave it to the
+/// window under the mouse. With a window manager it is a request that the manager decides on. Does
+/// nothing on platforms other than X.
 void activateWindows(QApplication &application);
+
+/// Tells the window system of `application` which window the list of a completer belongs to. Qt 6.8
+/// on Wayland otherwise opens that list as an independent window, which takes the keyboard: what is
+/// typed next replaces what the field holds.
+void attachPopups(QApplication &application);

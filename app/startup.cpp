@@ -33,6 +33,7 @@ void prepare(QApplication &application)
     limitDecodedPictures();
     applyLook(application);
     activateWindows(application);
+    attachPopups(application);
     if (const QString language = wantedLanguage(); !language.isEmpty())
         speak(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));

@@ -4,11 +4,15 @@
 
 #include "process.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QDir>
 #include <QImageReader>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -29,6 +33,8 @@ private slots:
     void coloursAreLightOnADarkDesktop_data();
     void coloursAreLightOnADarkDesktop();
     void argumentLimitIsRaised();
+    void desktopFileIsNamed();
+    void listOfACompleterBelongsToItsWindow();
 
 private:
     QDir bundle;
@@ -93,6 +99,23 @@ void StartupTest::argumentLimitIsRaised()
     raiseArgumentLimit();
     QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
     QCOMPARE(stack.rlim_cur, most);
+}
+
+void StartupTest::desktopFileIsNamed()
+{
+    QCOMPARE(QGuiApplication::desktopFileName(), u"org.example.tessaro"_s);
+}
+
+void StartupTest::listOfACompleterBelongsToItsWindow()
+{
+    QLineEdit field;
+    field.setCompleter(new QCompleter({u"one"_s, u"other"_s}, &field));
+    field.show();
+    QVERIFY(QTest::qWaitForWindowActive(&field));
+    QTest::keyClick(&field, Qt::Key_O);
+    const QWidget *list = field.completer()->popup();
+    QTRY_VERIFY(list->isVisible());
+    QCOMPARE(list->windowHandle()->transientParent(), field.windowHandle());
 }
 
 QTEST_MAIN(StartupTest)
