@@ -69,13 +69,15 @@ QString startFile(const QString &argument, const QString &folder)
 {
     const bool isUrl = argument.startsWith(QLatin1String("file:"), Qt::CaseInsensitive);
     QString path = isUrl ? localPath(QUrl(argument)) : argument;
-    if (path.isEmpty() || QDir::isAbsolutePath(path))
+    // Not by QDir, to which ":x" is absolute, as the name of a resource.
+    if (path.isEmpty() || path.startsWith(QLatin1Char('/')))
         return path;
     QString start = folder;
     while (path.startsWith(QLatin1String("./")) || path.startsWith(QLatin1String("../"))) {
-        const qsizetype slash = path.indexOf(QLatin1Char('/'));
-        start = QDir::cleanPath(start + QLatin1Char('/') + path.left(slash));
-        path.remove(0, slash + 1);
+        start = QDir::cleanPath(start + QLatin1Char('/') + path.section(QLatin1Char('/'), 0, 0));
+        path.remove(0, path.indexOf(QLatin1Char('/')));
+        while (path.startsWith(QLatin1Char('/')))
+            path.remove(0, 1);
     }
-    return QDir(start).filePath(path);
+    return start + (start.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/")) + path;
 }

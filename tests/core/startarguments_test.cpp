@@ -83,6 +83,10 @@ void StartArgumentsTest::namesAreSeenFromTheFolder_data()
     row("this folder", "./a.png", "/home/u/a.png");
     row("the folder above", "../a.png", "/home/a.png");
     row("this folder and the one above", "./../v/a.png", "/home/v/a.png");
+    row("this folder with two slashes", ".//a.png", "/home/u/a.png");
+    row("the folder above with three slashes", "..///v//a.png", "/home/v//a.png");
+    row("a name with a colon before it", ":a.png", "/home/u/:a.png");
+    row("a name like a resource's", ":/iconoption/a.png", "/home/u/:/iconoption/a.png");
     row("above a folder that may be a link", "in/../a.png", "/home/u/in/../a.png");
     row("a name with a blank and an umlaut", "a \xc3\xa4.png", "/home/u/a \xc3\xa4.png");
     row("a name that looks like a URL's", "a%20b#c?.png", "/home/u/a%20b#c?.png");
