@@ -1,19 +1,24 @@
-// The command `tessaro`: readies the user's own bundle of what is installed, and becomes the
+// The command `tessaro`: sets up a bundle of the user's own of what is installed, and becomes the
 // program in it.
 
 #include "userbundle.h"
 
+#include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 #include <string>
 #include <system_error>
 
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
+
+const fs::path program = "Contents/MacOS/tessaro";
 
 /// The bundle of the installation that this command belongs to.
 fs::path installedBundle()
@@ -22,40 +27,50 @@ fs::path installedBundle()
            "lib/tessaro/Tessaro.app";
 }
 
-// Written by packaging/setup-tools where the tools could not be readied: nothing would be
-// converted.
-void complainAboutTools(const fs::path &bundle)
+// Written by packaging/setup-tools where the tools could not be set up: nothing would be converted.
+void checkTools(const fs::path &bundle)
 {
     std::ifstream failure(bundle / "Contents/Resources/failure");
     if (std::string sentence; std::getline(failure, sentence))
         throw std::runtime_error(sentence);
 }
 
-void run(char **arguments)
+// The program reports to a person without a terminal too, and still answers --help and --version.
+[[noreturn]] void reportFailure(const char *kind, const std::string &failure, char **arguments)
+{
+    setenv(kind, failure.c_str(), 1);
+    execv((installedBundle() / program).c_str(), arguments);
+    std::fprintf(stderr, "tessaro: %s\n", failure.c_str());
+    std::exit(1);
+}
+
+void becomeProgram(char **arguments)
 {
     const fs::path installed = installedBundle();
-    complainAboutTools(installed);
-    const fs::path own = dataFolder() / "tessaro/Tessaro.app";
-    readyBundle(installed, own);
-    const fs::path program = own / "Contents/MacOS/tessaro";
-    execv(program.c_str(), arguments);
-    throw fs::filesystem_error("execv", program, {errno, std::generic_category()});
+    checkTools(installed);
+    const fs::path own = takeBundle(installed, dataFolder() / "tessaro");
+    execv((own / program).c_str(), arguments);
+    const int error = errno;
+    struct statvfs system = {};
+    if (statvfs(own.c_str(), &system) == 0 && (system.f_flag & ST_NOEXEC) != 0)
+        reportFailure("TESSARO_PLACE_FAILURE", own.string() + ": noexec", arguments);
+    throw fs::filesystem_error("execv", own / program, {error, std::generic_category()});
 }
 
 } // namespace
 
 int main(int, char **argv)
 {
+    // The system's errors in the user's language, and in UTF-8, as the program reads them.
+    std::setlocale(LC_MESSAGES, "");
+    std::setlocale(LC_CTYPE, "C.UTF-8");
     try {
-        run(argv);
+        becomeProgram(argv);
     } catch (const fs::filesystem_error &error) {
-        std::fprintf(
-            stderr,
-            "tessaro: cannot ready the program for this user: %s: %s. It needs a folder of "
-            "its own in XDG_DATA_HOME or ~/.local/share.\n",
-            error.path1().c_str(), error.code().message().c_str());
+        // Of two paths, the second is the one that was to be made.
+        const fs::path &path = error.path2().empty() ? error.path1() : error.path2();
+        reportFailure("TESSARO_PLACE_FAILURE", path.string() + ": " + error.code().message(), argv);
     } catch (const std::exception &error) {
-        std::fprintf(stderr, "tessaro: %s\n", error.what());
+        reportFailure("TESSARO_TOOLS_FAILURE", error.what(), argv);
     }
-    return 1;
 }

@@ -1,13 +1,15 @@
 #include "userbundle.h"
 
+#include "firstsettings.h"
+
 #include <algorithm>
-#include <cstdlib>
+#include <cerrno>
 #include <fstream>
-#include <functional>
-#include <stdexcept>
+#include <string>
 #include <system_error>
 #include <vector>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -51,69 +53,96 @@ bool haveSameContent(const fs::path &one, const fs::path &other)
     return first.eof() && second.eof();
 }
 
-/// Puts what `make` makes at a free name into the place of `target`.
-void replace(const fs::path &target, const std::function<void(const fs::path &)> &make)
-{
-    std::string folder = (target.parent_path() / ".new-XXXXXX").string();
-    check(mkdtemp(folder.data()) != nullptr, "mkdtemp", target);
-    const fs::path made = fs::path(folder) / target.filename();
-    try {
-        make(made);
-        fs::rename(made, target);
-    } catch (...) {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-        throw;
-    }
-    fs::remove(folder);
-}
-
-void readyCopy(const fs::path &original, const fs::path &copy)
+void updateCopy(const fs::path &original, const fs::path &copy)
 {
     // A link would lead the program to the folder that the original is in.
-    if (fs::is_regular_file(fs::symlink_status(copy)) && haveSameContent(original, copy))
+    const fs::file_status status = fs::symlink_status(copy);
+    const fs::perms rights = fs::perms::owner_all;
+    if (fs::is_regular_file(status) && (status.permissions() & rights) == rights &&
+        haveSameContent(original, copy))
         return;
-    replace(copy, [&original](const fs::path &made) {
-        fs::copy_file(original, made);
-        fs::permissions(made, fs::perms::owner_all);
-    });
+    fs::remove_all(copy);
+    fs::copy_file(original, copy);
+    fs::permissions(copy, rights);
 }
 
-void readyLink(const fs::path &target, const fs::path &link)
+void updateLink(const fs::path &target, const fs::path &link)
 {
     std::error_code none;
     if (fs::read_symlink(link, none) == target)
         return;
-    replace(link, [&target](const fs::path &made) { fs::create_symlink(target, made); });
+    fs::remove_all(link);
+    fs::create_symlink(target, link);
+}
+
+void updateBundle(const fs::path &shared, const fs::path &own)
+{
+    for (const fs::path &folder : {fs::path("Contents"), programs}) {
+        for (const fs::directory_entry &entry : fs::directory_iterator(shared / folder)) {
+            const fs::path name = folder / entry.path().filename();
+            if (name == executable)
+                updateCopy(entry.path(), own / name);
+            else if (name != programs)
+                updateLink(entry.path(), own / name);
+        }
+    }
+}
+
+// The lock belongs to the process: it outlives execve(2), tools do not inherit it, and it ends with
+// the process however that ends. Where a file system has no locks, no bundle counts as used.
+bool isUsed(const fs::path &bundle)
+{
+    const fs::path path = bundle / "lock";
+    const int file = open(path.c_str(), O_RDWR | O_CREAT, S_IRUSR | S_IWUSR);
+    check(file >= 0, "open", path);
+    struct flock whole = {};
+    whole.l_type = F_WRLCK;
+    if (fcntl(file, F_SETLK, &whole) == 0 || (errno != EAGAIN && errno != EACCES))
+        return false;
+    close(file);
+    return true;
+}
+
+/// Whether a bundle in `folder` is now this process's, and set up.
+bool take(const fs::path &shared, const fs::path &folder)
+{
+    const fs::path bundle = folder / "Tessaro.app";
+    const bool isNew = !fs::exists(bundle);
+    try {
+        makePrivateFolders(bundle / programs);
+        if (isUsed(bundle))
+            return false;
+        updateBundle(shared, bundle);
+    } catch (...) {
+        std::error_code ignored;
+        if (isNew)
+            fs::remove_all(bundle, ignored);
+        throw;
+    }
+    return true;
 }
 
 } // namespace
 
 fs::path dataFolder()
 {
-    const auto absolute = [](const char *variable) {
-        const char *value = std::getenv(variable);
-        const fs::path path = value ? value : "";
-        return path.is_absolute() ? path : fs::path();
-    };
-    if (fs::path data = absolute("XDG_DATA_HOME"); !data.empty())
+    if (fs::path data = absolutePathIn("XDG_DATA_HOME"); !data.empty())
         return data;
-    const fs::path home = absolute("HOME");
+    const fs::path home = absolutePathIn("HOME");
     if (home.empty())
-        throw std::runtime_error("there is no home folder: HOME is not set to an absolute path.");
+        throw fs::filesystem_error("getenv", "HOME",
+                                   std::make_error_code(std::errc::no_such_file_or_directory));
     return home / ".local/share";
 }
 
-void readyBundle(const fs::path &shared, const fs::path &own)
+fs::path takeBundle(const fs::path &shared, const fs::path &own)
 {
-    makePrivateFolders(own / programs);
-    for (const fs::path &folder : {fs::path("Contents"), programs}) {
-        for (const fs::directory_entry &entry : fs::directory_iterator(shared / folder)) {
-            const fs::path name = folder / entry.path().filename();
-            if (name == executable)
-                readyCopy(entry.path(), own / name);
-            else if (name != programs)
-                readyLink(entry.path(), own / name);
-        }
-    }
+    fs::path folder = own;
+    for (int window = 2; !take(shared, folder); ++window)
+        folder = own / ("window-" + std::to_string(window));
+    if (folder == own)
+        writeFirstSettings(own / "setting.ini");
+    else
+        updateLink("../setting.ini", folder / "setting.ini");
+    return folder / "Tessaro.app";
 }

@@ -1,17 +1,20 @@
-// The command of an installation: the bundle that it readies for a user, and what it becomes.
+// The command of an installation: the bundle that it sets up for each window, and what it becomes.
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -22,8 +25,15 @@ using Variables = QStringList;
 /// What is installed says how it was started; a change of `version` keeps its size.
 QByteArray programText(char version)
 {
-    return QByteArray("#!/bin/sh\necho \"") + version + "|$PWD|$*\"\nexit 7\n";
+    return QByteArray("#!/bin/sh\necho \"") + version + R"(|$PWD|$*"
+[ -z "$TESSARO_PLACE_FAILURE$TESSARO_TOOLS_FAILURE" ] && exit 7
+echo "place: $TESSARO_PLACE_FAILURE, tools: $TESSARO_TOOLS_FAILURE" >&2
+exit 1
+)";
 }
+
+/// Says where it runs, until its standard input ends.
+const QByteArray windowText = "#!/bin/sh\necho \"$0\"\nread -r line\n";
 
 struct Ended
 {
@@ -66,9 +76,16 @@ private slots:
     void changesAreTakenOver();
     void anotherPlaceIsTakenOver();
     void startsAtOnceAllSucceed();
-    void noPlaceIsOneSentence_data();
-    void noPlaceIsOneSentence();
-    void toolsThatAreNotReadyAreTold();
+    void eachWindowHasAFolderOfItsOwn();
+    void foldersOfClosedWindowsAreUsedAgain();
+    void firstSettingsNameTheUsersFolders_data();
+    void firstSettingsNameTheUsersFolders();
+    void settingsAreKept();
+    void failuresArePassedOn_data();
+    void failuresArePassedOn();
+    void failureLeavesNoBundle();
+    void noexecIsNamed();
+    void toolsThatAreNotSetUpArePassedOn();
 
 private:
     void write(const QString &name, const QByteArray &content) const;
@@ -81,6 +98,8 @@ private:
         return path(u"home/.local/share/tessaro/Tessaro.app/Contents/"_s + name);
     }
     Variables home() const { return {u"HOME="_s + path(u"home"_s)}; }
+    /// A program that runs on, and the folder that holds its bundle, below that of the data.
+    std::pair<std::unique_ptr<QProcess>, QString> openWindow() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_prefix;
@@ -199,6 +218,9 @@ void LauncherTest::changesAreTakenOver_data()
     QTest::newRow("a damaged copy") << u"write own"_s;
     QTest::newRow("a copy that is cut off") << u"cut own"_s;
     QTest::newRow("a link in the copy's place") << u"link own"_s;
+    QTest::newRow("a copy that cannot be executed") << u"rw-------"_s;
+    QTest::newRow("a copy that cannot be read") << u"-wx------"_s;
+    QTest::newRow("a folder in a link's place") << u"folder"_s;
 }
 
 void LauncherTest::changesAreTakenOver()
@@ -212,12 +234,19 @@ void LauncherTest::changesAreTakenOver()
         QVERIFY(QFile::remove(copy) && QFile::copy(u"/bin/true"_s, copy));
     else if (change == u"cut own"_s)
         QVERIFY(QFile::resize(copy, 10));
+    else if (change == u"rw-------"_s)
+        QVERIFY(QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner));
+    else if (change == u"-wx------"_s)
+        QVERIFY(QFile::setPermissions(copy, QFile::WriteOwner | QFile::ExeOwner));
+    else if (change == u"folder"_s)
+        QVERIFY(QFile::remove(own(u"Plugins"_s)) && QDir().mkpath(own(u"Plugins/platforms"_s)));
     else
         QVERIFY(QFile::remove(copy) &&
                 QFile::link(m_prefix + u"/lib/tessaro/Tessaro.app/Contents/MacOS/tessaro"_s, copy));
     const char *version = change == u"write installed"_s ? "2|" : "1|";
     QVERIFY(run(home()).output.startsWith(version));
-    QVERIFY(S_ISREG(statusOf(copy).st_mode));
+    QCOMPARE(statusOf(copy).st_mode, mode_t(S_IFREG | S_IRWXU));
+    QVERIFY(S_ISLNK(statusOf(own(u"Plugins"_s)).st_mode));
 }
 
 void LauncherTest::anotherPlaceIsTakenOver()
@@ -248,39 +277,164 @@ void LauncherTest::startsAtOnceAllSucceed()
         QStringList({u"convert"_s, u"tessaro"_s}));
 }
 
-void LauncherTest::noPlaceIsOneSentence_data()
+std::pair<std::unique_ptr<QProcess>, QString> LauncherTest::openWindow() const
+{
+    std::unique_ptr<QProcess> window = start(home());
+    window->waitForReadyRead();
+    const QString executable = QString::fromUtf8(window->readLine());
+    return {std::move(window),
+            executable.section(u"/share/tessaro/"_s, 1, 1).section(u"Tessaro.app"_s, 0, 0)};
+}
+
+void LauncherTest::eachWindowHasAFolderOfItsOwn()
+{
+    write(u"MacOS/tessaro"_s, windowText);
+    std::vector<std::unique_ptr<QProcess>> windows;
+    QStringList folders;
+    for (int i = 0; i < 3; ++i) {
+        auto [window, folder] = openWindow();
+        windows.push_back(std::move(window));
+        folders << folder;
+    }
+    QCOMPARE(folders, QStringList({u""_s, u"window-2/"_s, u"window-3/"_s}));
+    // What one remembers, the others find.
+    const auto settingsIn = [this](const QString &folder) {
+        return path(u"home/.local/share/tessaro/"_s + folder + u"setting.ini"_s);
+    };
+    QSettings(settingsIn(u"window-3/"_s), QSettings::IniFormat).setValue(u"dir/input"_s, u"/a"_s);
+    for (const QString &folder : folders) {
+        const QSettings settings(settingsIn(folder), QSettings::IniFormat);
+        QCOMPARE(settings.value(u"dir/input"_s).toString(), u"/a"_s);
+    }
+    for (const auto &window : windows) {
+        window->closeWriteChannel();
+        QVERIFY(window->waitForFinished());
+    }
+}
+
+void LauncherTest::foldersOfClosedWindowsAreUsedAgain()
+{
+    write(u"MacOS/tessaro"_s, windowText);
+    const auto first = openWindow(), second = openWindow();
+    first.first->kill(); // whatever ends a program
+    QVERIFY(first.first->waitForFinished());
+    const auto third = openWindow(), fourth = openWindow();
+    QCOMPARE(third.second, u""_s);
+    QCOMPARE(fourth.second, u"window-3/"_s);
+    second.first->closeWriteChannel();
+    QVERIFY(second.first->waitForFinished());
+    QCOMPARE(openWindow().second, u"window-2/"_s);
+}
+
+void LauncherTest::firstSettingsNameTheUsersFolders_data()
+{
+    QTest::addColumn<QByteArray>("configured");
+    QTest::addColumn<QStringList>("folders");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("output");
+    const QStringList usual = {u"Pictures"_s, u"Documents"_s};
+    QTest::newRow("the usual folders")
+        << QByteArray() << usual << u"/Pictures"_s << u"/Documents"_s;
+    QTest::newRow("no such folders") << QByteArray() << QStringList() << u""_s << u""_s;
+    QTest::newRow("folders of another language")
+        << QByteArray("# made by hand\nXDG_PICTURES_DIR=\"$HOME/Bilder & \xc3\x84hnliches\"\n"
+                      "XDG_DOCUMENTS_DIR=\"$HOME/a \\\"b\\\" \\\\c, d;e\"\n")
+        << usual + QStringList{u"Bilder & \u00c4hnliches"_s, u"a \"b\" \\c, d;e"_s}
+        << u"/Bilder & \u00c4hnliches"_s << u"/a \"b\" \\c, d;e"_s;
+    QTest::newRow("a configured folder that is gone")
+        << QByteArray("XDG_PICTURES_DIR=\"$HOME/gone\"\n") << usual << u""_s << u"/Documents"_s;
+    QTest::newRow("nonsense") << QByteArray("XDG_PICTURES_DIR=\nXDG_DOCUMENTS_DIR=\"here\"\n")
+                              << usual << u"/Pictures"_s << u"/Documents"_s;
+}
+
+void LauncherTest::firstSettingsNameTheUsersFolders()
+{
+    QFETCH(QByteArray, configured);
+    QFETCH(QStringList, folders);
+    const QString home = path(u"home"_s);
+    for (const QString &folder : folders)
+        QVERIFY(QDir(home).mkpath(folder));
+    QVERIFY(QDir(home).mkpath(u".config"_s));
+    QFile file(home + u"/.config/user-dirs.dirs"_s);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(configured) == configured.size());
+    file.close();
+    QCOMPARE(run(this->home()).status, 7);
+    const QSettings settings(home + u"/.local/share/tessaro/setting.ini"_s, QSettings::IniFormat);
+    QFETCH(QString, input);
+    QFETCH(QString, output);
+    QCOMPARE(settings.value(u"dir/input"_s).toString(), home + input);
+    QCOMPARE(settings.value(u"dir/output"_s).toString(), home + output);
+}
+
+void LauncherTest::settingsAreKept()
+{
+    run(home());
+    QFile settings(path(u"home/.local/share/tessaro/setting.ini"_s));
+    QVERIFY(settings.open(QIODevice::WriteOnly) && settings.write("[dir]\n") > 0);
+    settings.close();
+    run(home());
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    QCOMPARE(settings.readAll(), QByteArray("[dir]\n"));
+}
+
+void LauncherTest::failuresArePassedOn_data()
 {
     QTest::addColumn<Variables>("variables");
-    QTest::addColumn<QString>("sentence");
-    const QString needs = u" It needs a folder of its own in XDG_DATA_HOME or ~/.local/share.\n"_s;
-    const QString cannot = u"tessaro: cannot ready the program for this user: "_s;
-    QTest::newRow("no home") << Variables()
-                             << u"tessaro: there is no home folder: HOME is not set to an "_s
-                                u"absolute path.\n"_s;
+    QTest::addColumn<QString>("failure");
+    QTest::newRow("no home") << Variables() << u"HOME: No such file or directory"_s;
     QTest::newRow("a home that is a file")
-        << Variables{u"HOME=/bin/true"_s}
-        << cannot + u"/bin/true/.local: Not a directory."_s + needs;
+        << Variables{u"HOME=/bin/true"_s} << u"/bin/true/.local: Not a directory"_s;
     QTest::newRow("a home that cannot be written")
-        << Variables{u"HOME=/proc"_s}
-        << cannot + u"/proc/.local: No such file or directory."_s + needs;
+        << Variables{u"HOME=/proc"_s} << u"/proc/.local: No such file or directory"_s;
 }
 
-void LauncherTest::noPlaceIsOneSentence()
+void LauncherTest::failuresArePassedOn()
 {
     QFETCH(Variables, variables);
-    const Ended result = run(variables);
+    QFETCH(QString, failure);
+    const Ended result = run(variables, {u"--help"_s});
     QCOMPARE(result.status, 1);
-    QTEST(QString::fromUtf8(result.errors), "sentence");
-    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(QString::fromUtf8(result.errors), u"place: %1, tools: \n"_s.arg(failure));
+    QVERIFY(result.output.endsWith("|--help\n")); // which the program answers
 }
 
-void LauncherTest::toolsThatAreNotReadyAreTold()
+void LauncherTest::failureLeavesNoBundle()
+{
+    QProcess process;
+    process.setEnvironment(home());
+    process.start(QStringLiteral(TESSARO_WITHOUTCALLS),
+                  {u"symlinks"_s, m_prefix + u"/bin/tessaro"_s});
+    const Ended result = ended(process);
+    QCOMPARE(result.status, 1);
+    const QString folder = path(u"home/.local/share/tessaro"_s);
+    QVERIFY2(result.errors.startsWith("place: " + folder.toUtf8() + "/Tessaro.app/Contents/"),
+             result.errors.constData());
+    QVERIFY(result.errors.contains(": Operation not permitted"));
+    QVERIFY(!QFile::exists(folder + u"/Tessaro.app"_s));
+}
+
+void LauncherTest::noexecIsNamed()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can mount a file system");
+    QProcess process;
+    process.setEnvironment(home() + QProcess::systemEnvironment().filter(u"PATH="_s));
+    process.start(QStringLiteral(TESSARO_ON_IMAGE),
+                  {u"tmpfs"_s, u"16,noexec"_s, path(u"home"_s), m_prefix + u"/bin/tessaro"_s});
+    const Ended result = ended(process);
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors, "place: " + path(u"home/.local/share/tessaro/Tessaro.app"_s).toUtf8() +
+                                ": noexec, tools: \n");
+}
+
+void LauncherTest::toolsThatAreNotSetUpArePassedOn()
 {
     write(u"Resources/failure"_s, "there is no program convert: install the package.\n");
-    const Ended result = run(home());
+    const Ended result = run(home(), {u"--version"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
-             QByteArray("tessaro: there is no program convert: install the package.\n"));
+             QByteArray("place: , tools: there is no program convert: install the package.\n"));
+    QVERIFY(result.output.endsWith("|--version\n"));
 }
 
 QTEST_GUILESS_MAIN(LauncherTest)

@@ -28,11 +28,17 @@ constexpr sock_filter unlessCall(unsigned number)
     return {BPF_JMP | BPF_JEQ | BPF_K, 0, 1, number};
 }
 
+#ifdef SYS_symlink
+constexpr unsigned oldSymlink = SYS_symlink;
+#else // newer architectures have the other call alone
+constexpr unsigned oldSymlink = SYS_symlinkat;
+#endif
+
 // Nothing for an unknown word.
 std::vector<unsigned> callsNamed(std::string_view word)
 {
     if (word == "symlinks")
-        return {SYS_symlinkat};
+        return {SYS_symlinkat, oldSymlink};
     if (word == "links")
         return {SYS_symlinkat, SYS_linkat};
     if (word == "sandbox")
