@@ -5,14 +5,17 @@
 #include <QApplication>
 #include <QDir>
 
+#include <memory>
+
 int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     if (answerQuestion(argc, argv))
         return 0;
-    QApplication application(argc, argv);
-    const QString startFolder = QDir::currentPath(); // preparing changes it
-    prepare(application);
+    if (reportStartFailure(argc, argv))
+        return notStarted;
+    const QString startFolder = QDir::currentPath(); // start-up changes it
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
     const std::optional<QStringList> files = startFiles(QCoreApplication::arguments(), startFolder);
     if (!files)
         return wrongUsage;

@@ -1,12 +1,17 @@
 #include "startcommand.h"
 
 #include "startarguments.h"
+#include "startup.h"
 #include "translation.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
+#include <QMessageBox>
 
 #include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
 
 namespace {
 
@@ -18,6 +23,56 @@ void complain(QString message)
             letter = QLatin1Char('?');
     }
     std::fprintf(stderr, "tessaro: %s\n", message.toLocal8Bit().constData());
+}
+
+// What the launcher puts into the environment, and the sentence about it.
+struct StartFailure
+{
+    const char *variable;
+    const char *sentence;
+};
+
+constexpr StartFailure startFailures[] = {
+    {"TESSARO_PLACE_FAILURE",
+     QT_TRANSLATE_NOOP("CommandLine",
+                       "The program cannot start: %1. It needs a folder of its own, in "
+                       "XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run "
+                       "programs.")},
+    {"TESSARO_TOOLS_FAILURE", QT_TRANSLATE_NOOP("CommandLine", "The program cannot start: %1")},
+};
+
+// Qt ends a program without a display by a core dump and the advice to install it again.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
+{
+    if (type != QtFatalMsg)
+        return;
+    speak(*QCoreApplication::instance(), wantedLanguage());
+    complain(
+        QCoreApplication::translate("CommandLine", "There is no display to show the window on."));
+    std::_Exit(notStarted);
+}
+
+bool isDisplayNamed()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+QString startFailureSentence(const StartFailure &failure, int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    speak(application, wantedLanguage());
+    return QCoreApplication::translate("CommandLine", failure.sentence)
+        .arg(qEnvironmentVariable(failure.variable));
+}
+
+void report(const StartFailure &failure, int argc, char **argv)
+{
+    const QString sentence = startFailureSentence(failure, argc, argv);
+    complain(sentence);
+    if (isatty(STDERR_FILENO) != 0 || !isDisplayNamed())
+        return;
+    const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
+    QMessageBox::critical(nullptr, QStringLiteral("Tessaro Image to PDF Converter"), sentence);
 }
 
 } // namespace
@@ -37,6 +92,26 @@ bool answerQuestion(int argc, char **argv)
                         : QStringLiteral("Tessaro Image to PDF Converter " TESSARO_VERSION "\n");
     std::fputs(answer.toLocal8Bit().constData(), stdout);
     return true;
+}
+
+bool reportStartFailure(int argc, char **argv)
+{
+    for (const StartFailure &failure : startFailures) {
+        if (qEnvironmentVariableIsSet(failure.variable)) {
+            report(failure, argc, argv);
+            return true;
+        }
+    }
+    return false;
+}
+
+std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
+{
+    qInstallMessageHandler(endWithoutDisplay);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(nullptr);
+    prepare(*application);
+    return application;
 }
 
 std::optional<QStringList> startFiles(const QStringList &arguments, const QString &folder)

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>تعذر بدء البرنامج: %1. يحتاج إلى مجلد خاص به في XDG_DATA_HOME أو ‎~/.local/share يستطيع الكتابة فيه وإنشاء الروابط وتشغيل البرامج.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>تعذر بدء البرنامج: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>لا توجد شاشة لعرض النافذة عليها.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>لا يوجد خيار %1؛ انظر --help.</translation>
     </message>

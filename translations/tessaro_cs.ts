@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Program nelze spustit: %1. Potřebuje vlastní složku v XDG_DATA_HOME nebo ~/.local/share, do které může zapisovat, vytvářet v ní odkazy a spouštět programy.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Program nelze spustit: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Není k dispozici displej, na kterém by se okno zobrazilo.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Volba %1 neexistuje; viz --help.</translation>
     </message>

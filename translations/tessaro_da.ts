@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Programmet kan ikke starte: %1. Det skal bruge sin egen mappe i XDG_DATA_HOME eller ~/.local/share, hvor det kan skrive, oprette henvisninger og køre programmer.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Programmet kan ikke starte: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Der er ingen skærm at vise vinduet på.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Der er ingen indstilling %1; se --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Das Programm kann nicht starten: %1. Es braucht einen eigenen Ordner in XDG_DATA_HOME oder ~/.local/share, in dem es schreiben, Verknüpfungen anlegen und Programme ausführen kann.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Das Programm kann nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Es gibt keine Anzeige für das Fenster.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Es gibt keine Option %1; siehe --help.</translation>
     </message>

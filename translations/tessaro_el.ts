@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Το πρόγραμμα δεν μπορεί να ξεκινήσει: %1. Χρειάζεται δικό του φάκελο, στο XDG_DATA_HOME ή στο ~/.local/share, όπου να μπορεί να γράφει, να δημιουργεί συνδέσμους και να εκτελεί προγράμματα.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Το πρόγραμμα δεν μπορεί να ξεκινήσει: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Δεν υπάρχει οθόνη για να εμφανιστεί το παράθυρο.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Δεν υπάρχει επιλογή %1· δείτε το --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>El programa no puede iniciarse: %1. Necesita una carpeta propia, en XDG_DATA_HOME o ~/.local/share, en la que pueda escribir, crear enlaces y ejecutar programas.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>El programa no puede iniciarse: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>No hay ninguna pantalla en la que mostrar la ventana.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>No existe la opción %1; véase --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Ohjelmaa ei voi käynnistää: %1. Se tarvitsee oman kansion hakemistossa XDG_DATA_HOME tai ~/.local/share, johon se voi kirjoittaa, luoda linkkejä ja jossa se voi suorittaa ohjelmia.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Ohjelmaa ei voi käynnistää: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Ikkunalle ei ole näyttöä.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Valitsinta %1 ei ole; katso --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Le programme ne peut pas démarrer : %1. Il lui faut un dossier à lui, dans XDG_DATA_HOME ou ~/.local/share, où il puisse écrire, créer des liens et exécuter des programmes.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Le programme ne peut pas démarrer : %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Il n’y a pas d’écran sur lequel afficher la fenêtre.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Il n’y a pas d’option %1&#xa0;; voir --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>לא ניתן להפעיל את התוכנית: %1. היא צריכה תיקייה משלה, ב־XDG_DATA_HOME או ב־~/.local/share, שבה תוכל לכתוב, ליצור קישורים ולהריץ תוכניות.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>לא ניתן להפעיל את התוכנית: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>אין צג שאפשר להציג בו את החלון.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>אין אפשרות בשם %1; ראו --help.</translation>
     </message>

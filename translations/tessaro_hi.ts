@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>प्रोग्राम शुरू नहीं हो सकता: %1। इसे XDG_DATA_HOME या ~/.local/share में अपना फ़ोल्डर चाहिए, जिसमें यह लिख सके, लिंक बना सके और प्रोग्राम चला सके।</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>प्रोग्राम शुरू नहीं हो सकता: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>विंडो दिखाने के लिए कोई डिस्प्ले नहीं है।</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>%1 नाम का कोई विकल्प नहीं है; --help देखें।</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>A program nem indítható: %1. Saját mappára van szüksége az XDG_DATA_HOME vagy a ~/.local/share alatt, amelybe írhat, hivatkozásokat hozhat létre, és ahonnan programokat futtathat.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>A program nem indítható: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Nincs kijelző, amelyen az ablak megjelenhetne.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Nincs %1 kapcsoló; lásd: --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Program tidak dapat dimulai: %1. Program memerlukan folder sendiri, di XDG_DATA_HOME atau ~/.local/share, tempat ia dapat menulis, membuat tautan, dan menjalankan program.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Program tidak dapat dimulai: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Tidak ada layar untuk menampilkan jendela.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Tidak ada opsi %1; lihat --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Il programma non può essere avviato: %1. Ha bisogno di una cartella propria, in XDG_DATA_HOME o ~/.local/share, in cui possa scrivere, creare collegamenti ed eseguire programmi.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Il programma non può essere avviato: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Non c’è uno schermo su cui mostrare la finestra.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Non esiste l’opzione %1; vedere --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>プログラムを起動できません: %1。XDG_DATA_HOME または ~/.local/share に、書き込み、リンクの作成、プログラムの実行ができる専用のフォルダーが必要です。</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>プログラムを起動できません: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>ウィンドウを表示するディスプレイがありません。</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>オプション %1 はありません。--help をご覧ください。</translation>
     </message>

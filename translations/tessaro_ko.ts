@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>프로그램을 시작할 수 없습니다: %1. XDG_DATA_HOME 또는 ~/.local/share에 쓰기, 링크 만들기, 프로그램 실행이 가능한 전용 폴더가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>프로그램을 시작할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>창을 표시할 디스플레이가 없습니다.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>%1 옵션이 없습니다. --help를 참고하세요.</translation>
     </message>

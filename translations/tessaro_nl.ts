@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Het programma kan niet starten: %1. Het heeft een eigen map nodig, in XDG_DATA_HOME of ~/.local/share, waarin het kan schrijven, koppelingen kan maken en programma’s kan uitvoeren.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Het programma kan niet starten: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Er is geen beeldscherm om het venster op te tonen.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Er is geen optie %1; zie --help.</translation>
     </message>

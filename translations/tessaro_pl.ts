@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Nie można uruchomić programu: %1. Potrzebuje własnego katalogu w XDG_DATA_HOME lub ~/.local/share, w którym może zapisywać, tworzyć dowiązania i uruchamiać programy.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Nie można uruchomić programu: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Nie ma ekranu, na którym można wyświetlić okno.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Nie ma opcji %1; zobacz --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>O programa não pode ser iniciado: %1. Ele precisa de uma pasta própria, em XDG_DATA_HOME ou ~/.local/share, na qual possa gravar, criar links e executar programas.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>O programa não pode ser iniciado: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Não há uma tela na qual mostrar a janela.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Não existe a opção %1; veja --help.</translation>
     </message>

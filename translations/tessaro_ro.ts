@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Programul nu poate porni: %1. Are nevoie de un dosar propriu, în XDG_DATA_HOME sau ~/.local/share, în care să poată scrie, crea legături și rula programe.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Programul nu poate porni: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Nu există un ecran pe care să fie afișată fereastra.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Nu există opțiunea %1; vedeți --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Не удаётся запустить программу: %1. Ей нужна собственная папка в XDG_DATA_HOME или ~/.local/share, где она может записывать файлы, создавать ссылки и запускать программы.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Не удаётся запустить программу: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Нет дисплея, на котором можно показать окно.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Параметра %1 нет; см. --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Programmet kan inte starta: %1. Det behöver en egen mapp, i XDG_DATA_HOME eller ~/.local/share, där det kan skriva, skapa länkar och köra program.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Programmet kan inte starta: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Det finns ingen skärm att visa fönstret på.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Flaggan %1 finns inte; se --help.</translation>
     </message>

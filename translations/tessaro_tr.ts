@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Program başlatılamıyor: %1. XDG_DATA_HOME ya da ~/.local/share içinde yazabileceği, bağlantı oluşturabileceği ve program çalıştırabileceği kendine ait bir klasöre gereksinimi var.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Program başlatılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Pencerenin gösterileceği bir ekran yok.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>%1 seçeneği yok; --help ile bakın.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Не вдається запустити програму: %1. Їй потрібна власна тека в XDG_DATA_HOME або ~/.local/share, де вона може записувати файли, створювати посилання та запускати програми.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Не вдається запустити програму: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Немає дисплея, на якому можна показати вікно.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Параметра %1 немає; див. --help.</translation>
     </message>

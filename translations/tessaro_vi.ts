@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>Không thể khởi động chương trình: %1. Chương trình cần một thư mục riêng trong XDG_DATA_HOME hoặc ~/.local/share, nơi có thể ghi, tạo liên kết và chạy chương trình.</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Không thể khởi động chương trình: %1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>Không có màn hình để hiển thị cửa sổ.</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>Không có tùy chọn %1; xem --help.</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>程序无法启动：%1。它需要在 XDG_DATA_HOME 或 ~/.local/share 中有自己的文件夹，可以在其中写入、创建链接并运行程序。</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>程序无法启动：%1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>没有可显示窗口的显示器。</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>没有选项 %1；请参阅 --help。</translation>
     </message>

@@ -15,6 +15,18 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>The program cannot start: %1. It needs a folder of its own, in XDG_DATA_HOME or ~/.local/share, in which it can write, make links and run programs.</source>
+        <translation>程式無法啟動：%1。它需要在 XDG_DATA_HOME 或 ~/.local/share 中有自己的資料夾，可以在其中寫入、建立連結並執行程式。</translation>
+    </message>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>程式無法啟動：%1</translation>
+    </message>
+    <message>
+        <source>There is no display to show the window on.</source>
+        <translation>沒有可顯示視窗的顯示器。</translation>
+    </message>
+    <message>
         <source>There is no option %1; see --help.</source>
         <translation>沒有選項 %1；請參閱 --help。</translation>
     </message>

@@ -18,7 +18,25 @@ class ProgramE2eTest : public QObject
 
 private slots:
     void shippedProgramConvertsAnImage();
+    void keyboardReturnsFromTheAboutBox();
+    void noDisplayIsOneSentence();
+    void startFailureIsReportedInABox();
+    void questionsAreAnsweredInSpiteOfAStartFailure();
 };
+
+namespace {
+
+const QString program = QStringLiteral(BUNDLE "/Contents/MacOS/tessaro");
+const QString title = u"Tessaro Image to PDF Converter"_s;
+
+QProcessEnvironment environmentWith(const QString &name, const QString &value)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(name, value);
+    return environment;
+}
+
+} // namespace
 
 void ProgramE2eTest::shippedProgramConvertsAnImage()
 {
@@ -34,7 +52,7 @@ void ProgramE2eTest::shippedProgramConvertsAnImage()
     program.setWorkingDirectory(u"/"_s);
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.start(place + u"/Tessaro.app/Contents/MacOS/tessaro"_s, QStringList());
-    QVERIFY(waitForKeyboard(u"Tessaro Image to PDF Converter"_s));
+    QVERIFY(waitForKeyboard(title));
     QCOMPARE(QFile::symLinkTarget(u"/proc/%1/cwd"_s.arg(program.processId())), place);
 
     clickAt(70, 282); // Open
@@ -60,6 +78,60 @@ void ProgramE2eTest::shippedProgramConvertsAnImage()
     const QByteArray messages = program.readAll();
     QVERIFY2(messages.isEmpty() || messages.startsWith("QStandardPaths: XDG_RUNTIME_DIR"),
              messages.constData());
+}
+
+// There is no window manager that would do it.
+void ProgramE2eTest::keyboardReturnsFromTheAboutBox()
+{
+    QProcess process;
+    process.start(program, QStringList());
+    QVERIFY(waitForKeyboard(title));
+    clickAt(500, 420); // about
+    QVERIFY(waitForKeyboard(u"About"_s));
+    press(u"Escape"_s);
+    QVERIFY(waitForKeyboard(title));
+    process.terminate();
+    QVERIFY(process.waitForFinished(stepTimeout));
+}
+
+void ProgramE2eTest::noDisplayIsOneSentence()
+{
+    QProcess process;
+    process.setProcessEnvironment(environmentWith(u"DISPLAY"_s, u":9999"_s));
+    process.start(program, QStringList());
+    QVERIFY(process.waitForFinished(stepTimeout));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(),
+             QByteArray("tessaro: There is no display to show the window on.\n"));
+}
+
+void ProgramE2eTest::startFailureIsReportedInABox()
+{
+    QProcess process;
+    QProcessEnvironment environment = environmentWith(u"TESSARO_PLACE_FAILURE"_s, u"/a: noexec"_s);
+    environment.insert(u"LANGUAGE"_s, u"de"_s);
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process.setProcessEnvironment(environment);
+    process.start(program, QStringList());
+    QVERIFY(waitForKeyboard(title));
+    press(u"Return"_s);
+    QVERIFY(process.waitForFinished(stepTimeout));
+    QCOMPARE(process.exitCode(), 1);
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(errors.contains("tessaro: Das Programm kann nicht starten: /a: noexec."),
+             errors.constData());
+}
+
+void ProgramE2eTest::questionsAreAnsweredInSpiteOfAStartFailure()
+{
+    QProcess process;
+    process.setProcessEnvironment(environmentWith(u"TESSARO_TOOLS_FAILURE"_s, u"none"_s));
+    process.start(program, {u"--version"_s});
+    QVERIFY(process.waitForFinished(stepTimeout));
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(process.readAllStandardOutput().startsWith(title.toUtf8()));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
 }
 
 QTEST_GUILESS_MAIN(ProgramE2eTest)
