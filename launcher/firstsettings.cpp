@@ -25,7 +25,8 @@ fs::path folderIn(const std::string &line, const std::string &variable, const fs
                                                       : fs::path(value);
 }
 
-/// The folder that the user has for `variable`, `usual` in the home folder if nothing is configured.
+/// The folder that the user has for `variable`, `usual` in the home folder if nothing is
+/// configured.
 fs::path userFolder(const std::string &variable, const char *usual)
 {
     const fs::path home = absolutePathIn("HOME");
