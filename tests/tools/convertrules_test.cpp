@@ -220,10 +220,17 @@ void ConvertRulesTest::messagesReportDamage_data()
     row("Corrupt JPEG data: bad Huffman code `a' @ warning/jpeg.c/", true);
     row("Read error at scanline 5; got 3 bytes `TIFFFillStrip' @ error/tiff.c/TIFFErrors/603.",
         true);
+    row("convert: no room `a' @ fatal/cache.c/AcquirePixelCache/223.", true);
     row("Premature EOF at line 7 of strip 0 `Fax4Decode' @ warning/tiff.c/TIFFWarnings/", true);
     row("", false);
     row("Unknown field with tag 40000 `TIFFReadDirectory' @ warning/tiff.c/TIFFWarnings/", false);
     row("Corrupt JPEG data: 5 extraneous bytes before marker 0xd9 `a' @ warning/jpeg.c/", false);
+    row("Corrupt JPEG data: 256 extraneous bytes before marker 0xd9 `a' @ warning/jpeg.c/", false);
+    row("Corrupt JPEG data: 257 extraneous bytes before marker 0xd9 `a' @ warning/jpeg.c/", true);
+    row("Corrupt JPEG data: 900 extraneous bytes before marker 0xfe `a' @ warning/jpeg.c/", false);
+    row("Corrupt JPEG data: 200 extraneous bytes before marker 0xda `a' @ warning/jpeg.c/\n"
+        "Corrupt JPEG data: 200 extraneous bytes before marker 0xc4 `a' @ warning/jpeg.c/",
+        true);
     row("iCCP: known incorrect sRGB profile `a' @ warning/png.c/MagickPNGWarningHandler/", false);
 }
 

@@ -141,8 +141,9 @@ void Conversion::start(const Run &run)
     m_pool.start(std::move(spec), run.part);
 }
 
-void Conversion::finish(const ChildPool::Ended &ended)
+void Conversion::finish(ChildPool::Ended ended)
 {
+    forgiveWrongFileSize(ended.result);
     const std::string warnings = m_inputs.requireSuccess(ended.result);
     requireNoSignal();
     if (reportsDamage(ended.result.errors))

@@ -40,7 +40,7 @@ private:
     void plan(const std::string &path);
     void addRuns(const std::string &path, const ConvertedImage &image, unsigned long long bytes);
     void start(const Run &run);
-    void finish(const ChildPool::Ended &ended);
+    void finish(ChildPool::Ended ended);
     void join();
     void requireNoSignal();
 

@@ -137,6 +137,52 @@ bool copyRows(TIFF *from, TIFF *to, std::uint32_t height)
     return TIFFFlushData(to) == 1;
 }
 
+bool isBlank(const std::vector<unsigned char> &row)
+{
+    return std::all_of(row.begin(), row.end(), [](unsigned char byte) { return byte == 0; });
+}
+
+// The rows of a strip of a fax, as libtiff reads them.
+struct StripRows
+{
+    std::uint32_t count = 0;
+    std::uint32_t faulty = 0;
+    // Faulty and blank ones at the end of the strip.
+    std::uint32_t missing = 0;
+
+    // A bad row may swallow the next one; neither can be told from damage of that size.
+    bool isWhole() const
+    {
+        const std::uint32_t bad = faulty - missing;
+        return missing <= 1 + bad + count / 100 && bad <= count / 4;
+    }
+};
+
+void readRow(TIFF *tiff, std::uint32_t y, std::vector<unsigned char> &row, StripRows &strip)
+{
+    complained = false;
+    const bool isRead = TIFFReadScanline(tiff, row.data(), y, 0) == 1;
+    const bool isFaulty = !isRead || complained;
+    strip.count += 1;
+    strip.faulty += isFaulty ? 1 : 0;
+    strip.missing = isFaulty && (!isRead || isBlank(row)) ? strip.missing + 1 : 0;
+}
+
+// Whether libtiff finds nothing wrong with one row more than the image has. Nothing in Group 4
+// leads back from damaged data to the rows.
+bool isRowLeft(TIFF *tiff, std::uint32_t height, std::vector<unsigned char> &row)
+{
+    std::uint16_t compression = 0;
+    TIFFGetField(tiff, TIFFTAG_COMPRESSION, &compression);
+    if (compression != COMPRESSION_CCITTFAX4)
+        return false;
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, height + 1);
+    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, height + 1);
+    StripRows beyond;
+    readRow(tiff, height, row, beyond);
+    return beyond.faulty == 0;
+}
+
 std::optional<std::string> onlyStrip(TIFF *tiff, const Source &source)
 {
     const uint64_t *offsets = nullptr;
@@ -167,4 +213,30 @@ std::optional<std::string> asOneStrip(int file, std::uint64_t directory)
     if (!to || !copyRows(from.get(), to.get(), height) || complained)
         return std::nullopt;
     return onlyStrip(to.get(), result);
+}
+
+bool isWholeFax(int file, std::uint64_t directory)
+{
+    listenToLibtiff();
+    Source source;
+    source.file = file;
+    const TiffPointer tiff = openFile(source);
+    std::uint32_t height = 0;
+    std::uint32_t rowsPerStrip = 0;
+    if (!tiff || TIFFSetSubDirectory(tiff.get(), directory) != 1 ||
+        TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &height) != 1 ||
+        TIFFGetFieldDefaulted(tiff.get(), TIFFTAG_ROWSPERSTRIP, &rowsPerStrip) != 1 ||
+        rowsPerStrip == 0)
+        return true;
+    std::vector<unsigned char> row(static_cast<std::size_t>(TIFFScanlineSize(tiff.get())));
+    StripRows strip;
+    for (std::uint32_t y = 0; y < height; ++y) {
+        if (y % rowsPerStrip == 0) {
+            if (!strip.isWhole())
+                return false;
+            strip = {};
+        }
+        readRow(tiff.get(), y, row, strip);
+    }
+    return strip.isWhole() && (strip.count < height || !isRowLeft(tiff.get(), height, row));
 }

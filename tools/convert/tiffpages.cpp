@@ -1,11 +1,13 @@
 #include "tiffpages.h"
 
 #include "density.h"
+#include "error.h"
 #include "group4.h"
 #include "tiffdirectory.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <optional>
 #include <utility>
 
@@ -63,12 +65,59 @@ CopyablePage pageOf(const TiffDirectory &directory)
     return page;
 }
 
-std::optional<std::vector<Extent>> dataOf(const TiffDirectory &directory, int file, Spool &spool)
+constexpr std::array<std::uint64_t, 3> faxCompressions = {2, 3, group4};
+
+bool isFax(const TiffDirectory &page)
 {
-    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst)
-        return std::vector<Extent>{{directory.offsets[0], directory.counts[0]}};
+    return std::ranges::find(faxCompressions, page.compression) != faxCompressions.end() &&
+           !page.tiled && isSide(page.width) && isSide(page.height) && page.bits == 1 &&
+           page.samples == 1;
+}
+
+// Group 4 data that ends as it has to is not decoded.
+bool endsWithMark(FileBytes &bytes, const Extent &strip)
+{
+    constexpr std::uint64_t mark = 0x001001;
+    std::uint64_t end = 0;
+    bytes.seek(strip.offset + strip.length - std::min<std::uint64_t>(strip.length, sizeof end));
+    for (const char byte : bytes.read(sizeof end))
+        end = end << 8U | static_cast<unsigned char>(byte);
+    return end != 0 && (end >> std::countr_zero(end) & 0xFFFFFFU) == mark;
+}
+
+void requireWhole(const TiffDirectory &page, int file)
+{
+    if (isFax(page) && !isWholeFax(file, page.offset))
+        throw ToolError("the picture is damaged: rows of a fax are missing");
+}
+
+std::optional<std::vector<Extent>> dataOf(const TiffDirectory &directory, FileBytes &bytes,
+                                          int file, Spool &spool)
+{
+    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst) {
+        const Extent strip = {directory.offsets[0], directory.counts[0]};
+        if (!endsWithMark(bytes, strip))
+            requireWhole(directory, file);
+        return std::vector<Extent>{strip};
+    }
     const std::optional<std::string> strip = asOneStrip(file, directory.offset);
     return strip ? std::optional(std::vector<Extent>{spool.add(*strip)}) : std::nullopt;
+}
+
+// Empty when libtiff finds fault with a page.
+std::vector<CopyablePage> copiedPages(const std::vector<TiffDirectory> &directories,
+                                      FileBytes &bytes, int file, Spool &spool)
+{
+    std::vector<CopyablePage> pages;
+    for (const TiffDirectory &directory : directories) {
+        CopyablePage page = pageOf(directory);
+        std::optional<std::vector<Extent>> data = dataOf(directory, bytes, file, spool);
+        if (!data)
+            return {};
+        page.extents = std::move(*data);
+        pages.push_back(std::move(page));
+    }
+    return pages;
 }
 
 } // namespace
@@ -77,15 +126,11 @@ TiffImage readTiffImage(FileBytes &bytes, int file, bool mayCopy, Spool &spool)
 {
     const std::vector<TiffDirectory> directories = tiffDirectories(bytes);
     TiffImage image = {directories.size(), {}};
-    if (!mayCopy || !std::ranges::all_of(directories, isCopyable))
-        return image;
-    for (const TiffDirectory &directory : directories) {
-        CopyablePage page = pageOf(directory);
-        std::optional<std::vector<Extent>> data = dataOf(directory, file, spool);
-        if (!data)
-            return {directories.size(), {}};
-        page.extents = std::move(*data);
-        image.copied.push_back(std::move(page));
+    if (mayCopy && std::ranges::all_of(directories, isCopyable))
+        image.copied = copiedPages(directories, bytes, file, spool);
+    if (image.copied.empty()) {
+        for (const TiffDirectory &directory : directories)
+            requireWhole(directory, file);
     }
     return image;
 }

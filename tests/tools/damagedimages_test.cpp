@@ -1,0 +1,368 @@
+// Images that are damaged become no PDF, and those that are only odd do.
+
+#include "pdffacts.h"
+#include "toolbench.h"
+
+#include <QImage>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QtEndian>
+
+#include <cstdio>
+
+#include <jpeglib.h>
+#include <tiffio.h>
+
+using namespace Qt::StringLiterals;
+
+class DamagedImagesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void damageThatImageMagickReportsIsRefused_data();
+    void damageThatImageMagickReportsIsRefused();
+    void faxWithMissingRowsIsRefused_data();
+    void faxWithMissingRowsIsRefused();
+    void oddImageIsConverted_data();
+    void oddImageIsConverted();
+};
+
+namespace {
+
+const QStringList turned = {u"-rotate"_s, u"90"_s};
+
+struct JpegForm
+{
+    bool isArithmetic = false;
+    unsigned restartRows = 0;
+    /// What stands before the first table, besides the start.
+    QByteArray segments = {};
+};
+
+QByteArray jpegFile(const JpegForm &form = {})
+{
+    constexpr JDIMENSION side = 128;
+    jpeg_error_mgr errors = {};
+    jpeg_compress_struct info = {};
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&info);
+    unsigned char *data = nullptr;
+    unsigned long size = 0;
+    jpeg_mem_dest(&info, &data, &size);
+    info.image_width = info.image_height = side;
+    info.input_components = 1;
+    info.in_color_space = JCS_GRAYSCALE;
+    jpeg_set_defaults(&info);
+    info.arith_code = form.isArithmetic ? TRUE : FALSE;
+    info.restart_in_rows = static_cast<int>(form.restartRows);
+    jpeg_start_compress(&info, TRUE);
+    for (JDIMENSION y = 0; y < side; ++y) {
+        std::array<unsigned char, side> row{};
+        for (JDIMENSION x = 0; x < side; ++x)
+            row[x] = static_cast<unsigned char>(x * x * (y + 3) / 7);
+        unsigned char *rows = row.data();
+        jpeg_write_scanlines(&info, &rows, 1);
+    }
+    jpeg_finish_compress(&info);
+    jpeg_destroy_compress(&info);
+    const QByteArray file(reinterpret_cast<const char *>(data), qsizetype(size));
+    free(data);
+    return file.left(2) + form.segments + file.mid(2);
+}
+
+// With other bytes in the scan, but for the last ones.
+QByteArray withScan(const QByteArray &jpeg, const QByteArray &bytes)
+{
+    constexpr qsizetype behind = 100;
+    return QByteArray(jpeg).replace(jpeg.size() - behind - bytes.size(), bytes.size(), bytes);
+}
+
+QByteArray cutInScan(const QByteArray &jpeg)
+{
+    const qsizetype scan = jpeg.indexOf("\xFF\xDA");
+    return jpeg.left((scan + jpeg.size()) / 2) + "\xFF\xD9";
+}
+
+// A comment and stray bytes behind it, again and again, so that no two warnings are alike.
+QByteArray strayBytes(int comments)
+{
+    QByteArray segments;
+    for (int i = 1; i <= comments; ++i)
+        segments += QByteArray("\xFF\xFE\0\4ab", 6) + QByteArray(i, 'x');
+    return segments;
+}
+
+struct TiffForm
+{
+    int compression = COMPRESSION_CCITTFAX3;
+    uint32_t options = 0;
+    uint32_t rowsPerStrip = 200;
+    int pages = 1;
+    bool isBilevel = true;
+};
+
+constexpr uint32_t tiffWidth = 200;
+constexpr uint32_t tiffHeight = 200;
+
+QByteArray tiffFile(const TiffForm &form)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("no temporary file");
+    TIFF *tiff = TIFFOpen(file.fileName().toLocal8Bit().constData(), "wl");
+    for (int page = 0; page < form.pages; ++page) {
+        TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, tiffWidth);
+        TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, tiffHeight);
+        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, form.rowsPerStrip);
+        TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, form.isBilevel ? 1 : 8);
+        TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+        TIFFSetField(tiff, TIFFTAG_COMPRESSION, form.compression);
+        TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC,
+                     form.isBilevel ? PHOTOMETRIC_MINISWHITE : PHOTOMETRIC_MINISBLACK);
+        if (form.compression == COMPRESSION_CCITTFAX3)
+            TIFFSetField(tiff, TIFFTAG_GROUP3OPTIONS, form.options);
+        std::array<unsigned char, tiffWidth> row{};
+        for (uint32_t y = 0; y < tiffHeight; ++y) {
+            for (uint32_t x = 0; x < tiffWidth; ++x)
+                row[x] = static_cast<unsigned char>((x * 31 + y * 7 / 3) & 0xFCU);
+            TIFFWriteScanline(tiff, row.data(), y, 0);
+        }
+        TIFFWriteDirectory(tiff);
+    }
+    TIFFClose(tiff);
+    return file.readAll();
+}
+
+// Where the field `tag` of the page stands.
+qsizetype placeOf(const QByteArray &tiff, quint16 tag, int page = 0)
+{
+    quint32 directory = qFromLittleEndian<quint32>(tiff.constData() + 4);
+    for (;; --page) {
+        const auto entries = qFromLittleEndian<quint16>(tiff.constData() + directory);
+        for (qsizetype place = directory + 2; place < directory + 2 + 12 * entries; place += 12) {
+            if (page == 0 && qFromLittleEndian<quint16>(tiff.constData() + place) == tag)
+                return place;
+        }
+        directory = qFromLittleEndian<quint32>(tiff.constData() + directory + 2 + 12 * entries);
+    }
+}
+
+QByteArray patched(QByteArray file, qsizetype place, quint32 number)
+{
+    qToLittleEndian(number, file.data() + place);
+    return file;
+}
+
+quint32 numberAt(const QByteArray &file, qsizetype place)
+{
+    return qFromLittleEndian<quint32>(file.constData() + place);
+}
+
+// With another number in the field, which holds just one.
+QByteArray withField(const QByteArray &tiff, quint16 tag, quint32 number, int page = 0)
+{
+    return patched(tiff, placeOf(tiff, tag, page) + 8, number);
+}
+
+quint32 fieldOf(const QByteArray &tiff, quint16 tag, int page = 0)
+{
+    return numberAt(tiff, placeOf(tiff, tag, page) + 8);
+}
+
+QByteArray withHalfOfItsData(const QByteArray &tiff, int page = 0)
+{
+    return withField(tiff, TIFFTAG_STRIPBYTECOUNTS,
+                     fieldOf(tiff, TIFFTAG_STRIPBYTECOUNTS, page) / 2, page);
+}
+
+// The second half of its only strip is overwritten.
+QByteArray withHalfOverwritten(const QByteArray &tiff, char byte)
+{
+    const auto size = qsizetype(fieldOf(tiff, TIFFTAG_STRIPBYTECOUNTS));
+    const auto start = qsizetype(fieldOf(tiff, TIFFTAG_STRIPOFFSETS));
+    return QByteArray(tiff).replace(start + size / 2, size - size / 2,
+                                    QByteArray(size - size / 2, byte));
+}
+
+QByteArray bmp(QImage::Format format = QImage::Format_Indexed8)
+{
+    QImage image(40, 30, QImage::Format_Indexed8);
+    for (int i = 0; i < 256; ++i)
+        image.setColor(i, qRgb(i, 255 - i, i / 2));
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, uint(x * 6 + y) % 256);
+    }
+    QTemporaryFile file;
+    if (!file.open() || !image.convertToFormat(format).save(&file, "bmp"))
+        qFatal("no temporary file");
+    file.seek(0);
+    return file.readAll();
+}
+
+RunResult convert(const QByteArray &image, const QString &name, const QStringList &options,
+                  const QTemporaryDir &folder)
+{
+    writeContent(folder.filePath(name), image);
+    return runBundled(u"convert"_s, options + QStringList{name, u"o.pdf"_s}, folder.path());
+}
+
+} // namespace
+
+// ImageMagick reports success for each of them.
+void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("warning");
+    const QByteArray endOfStrip = tiffFile({.compression = COMPRESSION_CCITTFAX4});
+    const quint32 bytes = fieldOf(endOfStrip, TIFFTAG_STRIPBYTECOUNTS);
+    const QByteArray strips =
+        tiffFile({.compression = COMPRESSION_NONE, .rowsPerStrip = 50, .isBilevel = false});
+    const QByteArray runs = tiffFile({.compression = COMPRESSION_PACKBITS, .isBilevel = false});
+    const QByteArray inTiff = tiffFile({.compression = COMPRESSION_JPEG, .isBilevel = false});
+    const QByteArray restarting = jpegFile({.restartRows = 2});
+
+    QTest::newRow("JPEG data in a TIFF file that ends early")
+        << "x.tif" << withHalfOfItsData(inTiff) << QStringList{}
+        << QByteArray("Premature end of JPEG file");
+    QTest::newRow("JPEG scan that ends early") << "x.jpg" << cutInScan(jpegFile()) << turned
+                                               << QByteArray("premature end of data segment");
+    QTest::newRow("JPEG scan with no such codes")
+        << "x.jpg" << withScan(jpegFile(), QByteArray("\xFF\0", 2).repeated(9)) << turned
+        << QByteArray("bad Huffman code");
+    QTest::newRow("arithmetic JPEG scan with other data")
+        << "x.jpg" << withScan(jpegFile({.isArithmetic = true}), QByteArray(20, '\x11'))
+        << QStringList{} << QByteArray("bad arithmetic code");
+    QTest::newRow("JPEG scan with another restart marker")
+        << "x.jpg" << QByteArray(restarting).replace("\xFF\xD3", "\xFF\xD5") << turned
+        << QByteArray("instead of RST");
+    QTest::newRow("JPEG scan of which a part is zeros")
+        << "x.jpg" << withScan(jpegFile(), QByteArray(1500, '\0')) << turned
+        << QByteArray("extraneous bytes before marker");
+    QTest::newRow("JPEG file with so many warnings that others are dropped")
+        << "x.jpg" << cutInScan(jpegFile({.segments = strayBytes(64)})) << turned
+        << QByteArray("exception processing is suspended");
+    QTest::newRow("Group 4 without its last row")
+        << "x.tif" << withField(endOfStrip, TIFFTAG_STRIPBYTECOUNTS, bytes - 9)
+        << QStringList{u"-compress"_s, u"JPEG"_s} << QByteArray("Premature EOF");
+    for (const quint16 tag : {quint16(TIFFTAG_STRIPOFFSETS), quint16(TIFFTAG_STRIPBYTECOUNTS)})
+        QTest::addRow("TIFF file with half of its field %d", tag)
+            << "x.tif" << patched(strips, placeOf(strips, tag) + 4, 2) << QStringList{}
+            << QByteArray("Incorrect count for \"Strip");
+    QTest::newRow("run of bytes longer than its strip")
+        << "x.tif" << withHalfOverwritten(runs, '\x81') << QStringList{}
+        << QByteArray("to avoid buffer overrun");
+    QTest::newRow("JPEG data in a TIFF file of another width")
+        << "x.tif" << withField(inTiff, TIFFTAG_IMAGEWIDTH, 2 * tiffWidth) << QStringList{}
+        << QByteArray("Improper JPEG strip/tile size");
+    QTest::newRow("BMP with indices beyond its palette")
+        << "x.bmp" << patched(bmp(QImage::Format_Mono), 46, 1) << QStringList{}
+        << QByteArray("InvalidColormapIndex");
+}
+
+void DamagedImagesTest::damageThatImageMagickReportsIsRefused()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, warning);
+    const QTemporaryDir folder;
+    const RunResult result = convert(file, name, options, folder);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(warning), result.errors.constData());
+    QVERIFY2(result.errors.endsWith("the image is damaged or not complete\n"),
+             result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{name});
+}
+
+void DamagedImagesTest::faxWithMissingRowsIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("options");
+    const QStringList asJpeg = {u"-compress"_s, u"JPEG"_s};
+    const auto row = [](const char *name, const QByteArray &file, const QStringList &options) {
+        QTest::newRow(name) << file << options;
+    };
+    const QByteArray group3 = tiffFile({});
+    const QByteArray group4 = tiffFile({.compression = COMPRESSION_CCITTFAX4});
+    row("half of the bytes", withHalfOfItsData(group3), {});
+    row("half of the bytes, turned", withHalfOfItsData(group3), turned);
+    row("zeros in the second half", withHalfOverwritten(group3, '\0'), {});
+    row("ones in the second half", withHalfOverwritten(group3, '\xFF'), {});
+    row("in two dimensions", withHalfOfItsData(tiffFile({.options = GROUP3OPT_2DENCODING})), {});
+    row("with fill bits", withHalfOfItsData(tiffFile({.options = GROUP3OPT_FILLBITS})), {});
+    row("the second page of three", withHalfOfItsData(tiffFile({.pages = 3}), 1), {});
+    row("without marks", withHalfOfItsData(tiffFile({.compression = COMPRESSION_CCITTRLE})), {});
+    row("more rows in a strip than there are",
+        withField(tiffFile({.rowsPerStrip = 50}), TIFFTAG_ROWSPERSTRIP, 100), {});
+    row("another width", withField(group3, TIFFTAG_IMAGEWIDTH, 2 * tiffWidth), {});
+    row("Group 4, half of the bytes", withHalfOfItsData(group4), asJpeg);
+    row("Group 4, zeros in the second half", withHalfOverwritten(group4, '\0'), asJpeg);
+    row("Group 4, ones in the second half", withHalfOverwritten(group4, '\xFF'), asJpeg);
+    row("Group 4, half of the bytes, copied", withHalfOfItsData(group4), {});
+    row("Group 4, zeros in the second half, copied", withHalfOverwritten(group4, '\0'), {});
+    row("Group 4, ones in the second half, copied", withHalfOverwritten(group4, '\xFF'), {});
+}
+
+void DamagedImagesTest::faxWithMissingRowsIsRefused()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, options);
+    const QTemporaryDir folder;
+    const RunResult result = convert(file, u"x.tif"_s, options, folder);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains("rows of a fax are missing"), result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{u"x.tif"_s});
+}
+
+void DamagedImagesTest::oddImageIsConverted_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("options");
+    // Pages in Group 3 take ImageMagick a second each to write.
+    const QStringList turnedAsZip = turned + QStringList{u"-compress"_s, u"zip"_s};
+    const auto row = [&](const char *name, const char *file, const QByteArray &content,
+                         bool onlyTurned = false) {
+        if (!onlyTurned)
+            QTest::newRow(name) << file << content << QStringList{};
+        QTest::addRow("%s, turned", name) << file << content << turnedAsZip;
+    };
+    const QByteArray picture = bmp();
+    const auto size = quint32(picture.size());
+    row("BMP of size 0", "x.bmp", patched(picture, 2, 0));
+    row("BMP of the size of its pixels", "x.bmp",
+        patched(picture, 2, size - numberAt(picture, 10)));
+    row("BMP of a size too small", "x.bmp", patched(picture, 2, size - 2));
+    row("BMP with bytes behind it", "x.bmp", picture + QByteArray(37, '\0'));
+    row("JPEG with bytes behind its scan", "x.jpg", jpegFile().replace("\xFF\xD9", "xyz\xFF\xD9"));
+    row("JPEG with bytes behind comments", "x.jpg", jpegFile({.segments = strayBytes(9)}));
+    for (const int options : {0, GROUP3OPT_2DENCODING, GROUP3OPT_FILLBITS}) {
+        const QByteArray fax = tiffFile({.options = uint32_t(options)});
+        const qsizetype middle = fieldOf(fax, TIFFTAG_STRIPBYTECOUNTS) / 2;
+        const QByteArray title = "fax with options " + QByteArray::number(options);
+        row(title.constData(), "x.tif", fax, true);
+        row((title + " and a bad row").constData(), "x.tif",
+            QByteArray(fax).replace(middle, 2, "\x5A\x5A"), true);
+    }
+    const QByteArray group4 = tiffFile({.compression = COMPRESSION_CCITTFAX4});
+    const quint32 bytes = fieldOf(group4, TIFFTAG_STRIPBYTECOUNTS);
+    row("Group 4 without an end mark", "x.tif",
+        withField(group4, TIFFTAG_STRIPBYTECOUNTS, bytes - 3));
+}
+
+void DamagedImagesTest::oddImageIsConverted()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, options);
+    const QTemporaryDir folder;
+    QCOMPARE(convert(file, name, options, folder).errors, QByteArray());
+    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
+}
+
+QTEST_GUILESS_MAIN(DamagedImagesTest)
+#include "damagedimages_test.moc"
