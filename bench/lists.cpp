@@ -1,11 +1,13 @@
-// 10,000 files dropped on the list and taken off it, beside a bare table with the same texts.
+// 10,000 files dropped on the list and taken off it, beside a bare table with the same texts; and
+// put into another order, beside the drop.
 //
-//   bench_lists add|add-sorted|add-asked|remove FOLDER TURNS
+//   bench_lists add|add-sorted|add-asked|remove|move|sort FOLDER TURNS
 //
 // FOLDER holds the files. With "add-asked" the bare table's filler asks for the sizes, too. Prints
 // the samples in milliseconds, each from the drop or the click to the painted list.
 
 #include "filesin.h"
+#include "filetable.h"
 #include "samples.h"
 #include "startup.h"
 #include "windowcontrols.h"
@@ -62,9 +64,31 @@ public:
         return measured([button] { button->click(); });
     }
 
+    /// Moves every other row to the top.
+    double moveHalf()
+    {
+        FileTable &list = this->list();
+        QItemSelection everyOther;
+        for (int row = 1; row < list.rowCount(); row += 2)
+            everyOther.select(list.model()->index(row, 0), list.model()->index(row, 1));
+        list.selectionModel()->select(everyOther, QItemSelectionModel::ClearAndSelect);
+        QApplication::processEvents();
+        return measured([&list] { list.order().move(RowMove::ToTop); });
+    }
+
+    double sortByName()
+    {
+        return measured([this] { list().order().sortByName(); });
+    }
+
     QList<ListedFile> rows() const { return controls.listedFiles(); }
 
 private:
+    FileTable &list() const
+    {
+        return dynamic_cast<FileTable &>(*controls.find<QTableWidget>("inputfiletableWidget"));
+    }
+
     WindowControls controls;
 };
 
@@ -151,6 +175,32 @@ Samples removing(const QList<QUrl> &urls, int turns)
     return samples;
 }
 
+/// Rows put into another order, beside the drop of the same files.
+Samples reordering(const QList<QUrl> &urls, double (Ours::*reorder)(), int turns)
+{
+    Samples samples;
+    samples.takeInTurn(
+        turns,
+        [&] {
+            Ours ours(false);
+            ours.add(urls);
+            return (ours.*reorder)();
+        },
+        [&] { return Ours(false).add(urls); });
+    return samples;
+}
+
+Samples samplesOf(const QByteArray &mode, const QList<QUrl> &urls, int turns)
+{
+    if (mode == "remove")
+        return removing(urls, turns);
+    if (mode == "move")
+        return reordering(urls, &Ours::moveHalf, turns);
+    if (mode == "sort")
+        return reordering(urls, &Ours::sortByName, turns);
+    return adding(urls, mode == "add-sorted", mode == "add-asked", turns);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -164,9 +214,6 @@ int main(int argc, char *argv[])
     const int turns = std::atoi(argv[3]);
     if (urls.isEmpty() || turns < 1)
         return 2;
-    const Samples samples = mode == "remove"
-                                ? removing(urls, turns)
-                                : adding(urls, mode == "add-sorted", mode == "add-asked", turns);
-    samples.print();
+    samplesOf(mode, urls, turns).print();
     return 0;
 }

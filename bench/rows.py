@@ -132,6 +132,8 @@ class Bench:
             ("add-asked", "  the same, sizes asked for by both", None),
             ("add-sorted", "add files, header sorted", 1.2),
             ("remove", "remove all", 1.5),
+            ("move", "5,000 of 10,000 rows to the top", 1.0),
+            ("sort", "10,000 rows by name, 2 before 10", 1.0),
         ):
             said = self.said("bench_lists", mode, self.material.files, turns)
             yield Row(name, said["ours"], said["against"], "ms", limit)
