@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QFrame>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -111,4 +112,12 @@ void describeControls(const Ui_process &ui)
     };
     for (const ControlText &row : texts)
         setTexts(row);
+    const auto keyName = [](Qt::Key key) {
+        return QKeySequence(Qt::ALT | key).toString(QKeySequence::NativeText);
+    };
+    ui.inputfiletableWidget->setToolTip(
+        ui.inputfiletableWidget->toolTip() + QLatin1Char('\n') +
+        translated(QT_TRANSLATE_NOOP(
+                       "process", "Drag rows or press %1 and %2 to change the order of the pages."))
+            .arg(keyName(Qt::Key_Up), keyName(Qt::Key_Down)));
 }

@@ -1,9 +1,17 @@
 #include "filetable.h"
 
+#include "filetip.h"
+
 #include <QAbstractButton>
+#include <QDrag>
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
-#include <QTableWidget>
+#include <QToolTip>
 
 namespace {
 
@@ -33,9 +41,123 @@ void styleParts(QTableWidget &table)
 
 } // namespace
 
-QTableWidget *placeFileTable(QWidget *parent)
+FileTable::FileTable(QWidget *parent)
+    : QTableWidget(parent)
 {
-    auto *table = new QTableWidget(parent);
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setDropIndicatorShown(false); // it goes around a cell
+}
+
+bool FileTable::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && showRowTip(*static_cast<QHelpEvent *>(event)))
+        return true;
+    return QTableWidget::viewportEvent(event);
+}
+
+void FileTable::mousePressEvent(QMouseEvent *event)
+{
+    enableDrag(*event);
+    QTableWidget::mousePressEvent(event);
+}
+
+void FileTable::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    enableDrag(*event); // the press that is its second may begin a drag
+    QTableWidget::mouseDoubleClickEvent(event);
+}
+
+void FileTable::enableDrag(const QMouseEvent &press)
+{
+    setDragEnabled(press.button() == Qt::LeftButton &&
+                   selectionModel()->isSelected(indexAt(press.position().toPoint())));
+}
+
+/// Qt's own drag removes the rows when another program takes them.
+void FileTable::startDrag(Qt::DropActions /*actions*/)
+{
+    auto *rows = new QMimeData; // nothing that others could take
+    rows->setData(QStringLiteral("application/x-tessaro-rows"), {});
+    auto *drag = new QDrag(this); // Qt deletes both
+    drag->setMimeData(rows);
+    drag->exec(Qt::MoveAction);
+}
+
+void FileTable::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setAccepted(event->source() == this);
+}
+
+void FileTable::dragMoveEvent(QDragMoveEvent *event)
+{
+    QTableWidget::dragMoveEvent(event); // scrolls at the edges
+    m_dragY = event->position().toPoint().y();
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+    viewport()->update();
+}
+
+void FileTable::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    m_dragY.reset();
+    QTableWidget::dragLeaveEvent(event);
+    viewport()->update();
+}
+
+void FileTable::dropEvent(QDropEvent *event)
+{
+    m_dragY.reset();
+    stopAutoScroll();
+    setState(NoState);
+    m_order.moveTo(dropPlace(event->position().toPoint().y()));
+    event->acceptProposedAction();
+    viewport()->update();
+}
+
+void FileTable::paintEvent(QPaintEvent *event)
+{
+    QTableWidget::paintEvent(event);
+    if (!m_dragY)
+        return;
+    constexpr int thickness = 3; // pixels, over the line between two rows
+    const int place = dropPlace(*m_dragY);
+    const int y = place == 0 ? 0 : rowViewportPosition(place - 1) + rowHeight(place - 1) - 2;
+    QPainter(viewport()).fillRect(0, y, viewport()->width(), thickness, palette().highlight());
+}
+
+int FileTable::dropPlace(int y) const
+{
+    const int row = rowAt(y);
+    if (row < 0)
+        return y < 0 ? 0 : rowCount();
+    const bool isUpperHalf = y < rowViewportPosition(row) + rowHeight(row) / 2;
+    return isUpperHalf ? row : row + 1;
+}
+
+bool FileTable::isCutOff(int row) const
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        const QModelIndex cell = model()->index(row, column);
+        if (sizeHintForIndex(cell).width() > visualRect(cell).width())
+            return true;
+    }
+    return false;
+}
+
+bool FileTable::showRowTip(const QHelpEvent &event)
+{
+    const int row = rowAt(event.y());
+    if (row < 0 || !isCutOff(row))
+        return false;
+    const QRect place(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+    QToolTip::showText(event.globalPos(), fileTip(model()->index(row, 0).data().toString()),
+                       window(), QRect(viewport()->mapTo(window(), place.topLeft()), place.size()));
+    return true;
+}
+
+FileTable *placeFileTable(QWidget *parent)
+{
+    auto *table = new FileTable(parent);
     table->setObjectName(QStringLiteral("inputfiletableWidget"));
     table->setGeometry(34, 20, 341, 211);
     table->setColumnCount(2);

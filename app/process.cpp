@@ -3,6 +3,7 @@
 #include "process.h"
 
 #include "accessibility.h"
+#include "filelistactions.h"
 #include "filetable.h"
 #include "fittext.h"
 #include "pictures.h"
@@ -54,6 +55,7 @@ Process::Process(QWidget *parent)
     connect(previewtimer, &QTimer::timeout, this, &Process::dopreview);
 
     styleFileTable(*ui->inputfiletableWidget);
+    new FileListActions(*this, *ui); // belongs to the window
     setWindowBackground();
     setFixedSize(width(), height());
     setAcceptDrops(true);

@@ -66,19 +66,18 @@ void Process::appendFiles(const QStringList &paths)
 
 void Process::setFile(int row, const QString &path)
 {
-    QTableWidget *table = ui->inputfiletableWidget;
-    const auto set = [table, row](int column, const QString &text) {
-        if (!text.isEmpty())
-            table->setItem(row, column, new QTableWidgetItem(text));
-    };
+    FileTable *table = ui->inputfiletableWidget;
     const QString size = sizeText(QFileInfo(path).size());
+    auto *pathItem = new QTableWidgetItem(path);
+    auto *sizeItem = size.isEmpty() ? nullptr : new QTableWidgetItem(size);
+    table->order().add(pathItem);
     // A sorted table moves the row as soon as the text is there that it sorts by.
     const bool pathMovesRow = table->horizontalHeader()->sortIndicatorSection() == pathColumn;
     if (pathMovesRow)
-        set(sizeColumn, size);
-    set(pathColumn, path);
+        table->setItem(row, sizeColumn, sizeItem);
+    table->setItem(row, pathColumn, pathItem);
     if (!pathMovesRow)
-        set(sizeColumn, size);
+        table->setItem(row, sizeColumn, sizeItem);
 }
 
 void Process::setopenfile()

@@ -25,12 +25,9 @@ class PathDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Folders named in letters that run from right to left would change places without the marks.
     QString displayText(const QVariant &value, const QLocale & /*locale*/) const override
     {
-        constexpr QChar leftToRightMark(0x200e);
-        const QChar slash(QLatin1Char('/'));
-        return value.toString().replace(slash, QString(slash) + leftToRightMark);
+        return leftToRight(value.toString());
     }
 
 protected:
@@ -64,4 +61,11 @@ void mirrorPlaces(const Ui_process &ui)
     for (QLineEdit *field : {ui.outputfolderEdit, ui.lineEdit_ownerpwd, ui.lineEdit_userpwd})
         field->setLayoutDirection(Qt::LeftToRight);
     ui.inputfiletableWidget->setItemDelegateForColumn(0, new PathDelegate(ui.inputfiletableWidget));
+}
+
+QString leftToRight(QString path)
+{
+    constexpr QChar leftToRightMark(0x200e);
+    const QChar slash(QLatin1Char('/'));
+    return path.replace(slash, QString(slash) + leftToRightMark);
 }

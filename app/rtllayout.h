@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 class Ui_process;
 
@@ -10,3 +12,7 @@ void mirrorPlaces(const Ui_process &ui);
 
 /// The same for the direct children of `parent`, a dialog.
 void mirrorChildren(const QWidget &parent);
+
+/// `path` with marks that keep its folders in their order, also those named in letters that run
+/// from right to left.
+QString leftToRight(QString path);

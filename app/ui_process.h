@@ -1,5 +1,7 @@
 #pragma once
 
+#include "filetable.h"
+
 #include <QtCore/qglobal.h>
 
 QT_BEGIN_NAMESPACE
@@ -12,7 +14,6 @@ class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QStackedWidget;
-class QTableWidget;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -27,7 +28,7 @@ public:
     QWidget *page = nullptr; // input files and output folder
     QFrame *frame_6 = nullptr;
     QLabel *label = nullptr;
-    QTableWidget *inputfiletableWidget = nullptr;
+    FileTable *inputfiletableWidget = nullptr;
     QWidget *layoutWidget = nullptr;
     QHBoxLayout *horizontalLayout = nullptr;
     QPushButton *openfileButton = nullptr;

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 مم)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>اسحب الصفوف أو اضغط %1 و%2 لتغيير ترتيب الصفحات.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>فتح الصورة</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>فتح ملف PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>إظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>نقل لأعلى</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>نقل لأسفل</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>نقل إلى البداية</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>نقل إلى النهاية</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>فرز حسب الاسم، 2 قبل 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>فرز حسب ترتيب الإضافة</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>إضافة صور…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

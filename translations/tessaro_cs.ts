@@ -473,6 +473,58 @@ PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Pořadí stránek změníte přetažením řádků nebo klávesami %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Otevřít obrázek</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Otevřít PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Zobrazit ve složce</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Posunout nahoru</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Posunout dolů</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Přesunout na začátek</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Přesunout na konec</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Seřadit podle názvu, 2 před 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Seřadit podle pořadí přidání</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Vybrat vše</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Přidat obrázky…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Ukončit</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

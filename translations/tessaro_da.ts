@@ -473,6 +473,58 @@ til PDF-filen:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Træk rækker, eller tryk på %1 og %2 for at ændre sidernes rækkefølge.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Åbn billede</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Åbn PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Vis i mappe</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Flyt op</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Flyt ned</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Flyt til toppen</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Flyt til bunden</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Sortér efter navn, 2 før 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Sortér i tilføjet rækkefølge</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Markér alt</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Tilføj billeder …</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afslut</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ der PDF-Datei:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Zeilen ziehen oder %1 und %2 drücken, um die Reihenfolge der Seiten zu ändern.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Bild öffnen</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF öffnen</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Im Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>An den Anfang verschieben</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Ans Ende verschieben</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Nach Name sortieren, 2 vor 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>In Reihenfolge des Hinzufügens sortieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Bilder hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Σύρετε γραμμές ή πατήστε %1 και %2 για να αλλάξετε τη σειρά των σελίδων.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Άνοιγμα εικόνας</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Άνοιγμα PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Εμφάνιση στον φάκελο</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Μετακίνηση πάνω</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Μετακίνηση κάτω</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Μετακίνηση στην αρχή</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Μετακίνηση στο τέλος</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Ταξινόμηση κατά όνομα, 2 πριν από 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Ταξινόμηση με τη σειρά προσθήκης</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Επιλογή όλων</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Προσθήκη εικόνων…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Έξοδος</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ del PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Arrastre filas o pulse %1 y %2 para cambiar el orden de las páginas.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Abrir imagen</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Abrir PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Mover al principio</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Mover al final</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Ordenar por nombre, 2 antes que 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Ordenar según se añadieron</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Añadir imágenes…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

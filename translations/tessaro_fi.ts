@@ -473,6 +473,58 @@ ja käyttöoikeudet:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Muuta sivujen järjestystä vetämällä rivejä tai painamalla %1 ja %2.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Avaa kuva</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Avaa PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Näytä kansiossa</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Siirrä ylös</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Siirrä alas</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Siirrä alkuun</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Siirrä loppuun</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Järjestä nimen mukaan, 2 ennen 10:tä</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Järjestä lisäysjärjestykseen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Valitse kaikki</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Lisää kuvia…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Lopeta</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ du PDF&#xa0;:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Faites glisser des lignes ou appuyez sur %1 et %2 pour changer l’ordre des pages.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Ouvrir l’image</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Ouvrir le PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Placer au début</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Placer à la fin</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Trier par nom, 2 avant 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Trier par ordre d’ajout</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

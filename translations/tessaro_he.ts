@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 מ״מ)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>ניתן לגרור שורות או להקיש %1 ו־%2 כדי לשנות את סדר העמודים.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>פתיחת התמונה</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>פתיחת ה־PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>הצגה בתיקייה</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>העברה למעלה</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>העברה למטה</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>העברה להתחלה</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>העברה לסוף</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>מיון לפי שם, 2 לפני 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>מיון לפי סדר ההוספה</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>בחירת הכול</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>הוספת תמונות…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>יציאה</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 मिमी)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>पृष्ठों का क्रम बदलने के लिए पंक्तियाँ खींचें या %1 और %2 दबाएँ।</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>छवि खोलें</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF खोलें</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>फ़ोल्डर में दिखाएँ</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>ऊपर ले जाएँ</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>नीचे ले जाएँ</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>सबसे ऊपर ले जाएँ</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>सबसे नीचे ले जाएँ</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>नाम से क्रमबद्ध करें, 10 से पहले 2</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>जोड़ने के क्रम में रखें</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>सभी चुनें</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>छवियाँ जोड़ें…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>बाहर जाएँ</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Az oldalak sorrendje a sorok húzásával vagy az %1 és %2 billentyűkkel módosítható.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Kép megnyitása</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF megnyitása</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Megjelenítés a mappában</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mozgatás felfelé</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mozgatás lefelé</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Mozgatás az elejére</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Mozgatás a végére</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Rendezés név szerint, 2 a 10 előtt</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Rendezés a hozzáadás sorrendjében</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Összes kijelölése</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Képek hozzáadása…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Kilépés</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

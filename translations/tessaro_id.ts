@@ -473,6 +473,58 @@ PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Seret baris atau tekan %1 dan %2 untuk mengubah urutan halaman.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Buka gambar</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Buka PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Tampilkan di folder</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Pindah ke atas</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Pindah ke bawah</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Pindah ke paling atas</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Pindah ke paling bawah</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Urutkan menurut nama, 2 sebelum 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Urutkan menurut penambahan</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Pilih semua</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Tambahkan gambar…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Keluar</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

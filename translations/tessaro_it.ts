@@ -473,6 +473,58 @@ del PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Trascinare le righe o premere %1 e %2 per cambiare l’ordine delle pagine.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Apri immagine</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Apri PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Sposta all’inizio</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Sposta alla fine</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Ordina per nome, 2 prima di 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Ordina per ordine di aggiunta</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Aggiungi immagini…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>行をドラッグするか %1 と %2 を押すと、ページの順序を変更できます。</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>画像を開く</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF を開く</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>フォルダーに表示</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>先頭へ移動</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>末尾へ移動</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>名前順に並べ替え (2 は 10 の前)</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>追加した順に並べ替え</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>画像を追加...</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

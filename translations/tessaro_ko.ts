@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>행을 끌거나 %1 및 %2 키를 눌러 페이지 순서를 바꿀 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>이미지 열기</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF 열기</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>폴더에서 보기</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>위로 이동</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>아래로 이동</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>맨 위로 이동</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>맨 아래로 이동</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>이름순 정렬, 2가 10보다 먼저</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>추가한 순서로 정렬</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>이미지 추가...</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>끝내기</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ van de pdf:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Sleep rijen of druk op %1 en %2 om de volgorde van de pagina’s te wijzigen.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Afbeelding openen</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Pdf openen</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>In map tonen</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Omhoog verplaatsen</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Omlaag verplaatsen</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Naar begin verplaatsen</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Naar einde verplaatsen</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Op naam sorteren, 2 vóór 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Op volgorde van toevoegen sorteren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Afbeeldingen toevoegen…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afsluiten</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ pliku PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Przeciągnij wiersze lub naciśnij %1 i %2, aby zmienić kolejność stron.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Otwórz obraz</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Otwórz PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Pokaż w folderze</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Przenieś w górę</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Przenieś w dół</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Przenieś na początek</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Przenieś na koniec</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Sortuj według nazwy, 2 przed 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Sortuj według kolejności dodania</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Dodaj obrazy…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Zakończ</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

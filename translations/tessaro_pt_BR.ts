@@ -473,6 +473,58 @@ do PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Arraste linhas ou pressione %1 e %2 para mudar a ordem das páginas.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Abrir imagem</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Abrir PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar na pasta</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Mover para o início</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Mover para o fim</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Ordenar por nome, 2 antes de 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Ordenar pela ordem de adição</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Adicionar imagens…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ PDF-ului:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Trageți rândurile sau apăsați %1 și %2 pentru a schimba ordinea paginilor.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Deschide imaginea</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Deschide PDF-ul</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Arată în dosar</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mută în sus</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mută în jos</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Mută la început</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Mută la sfârșit</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Sortează după nume, 2 înainte de 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Sortează în ordinea adăugării</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selectează tot</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Adaugă imagini…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Ieșire</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 мм)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Перетащите строки или нажмите %1 и %2, чтобы изменить порядок страниц.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Открыть изображение</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Открыть PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Показать в папке</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Переместить вверх</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Переместить вниз</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Переместить в начало</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Переместить в конец</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Сортировать по имени, 2 перед 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Сортировать в порядке добавления</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Добавить изображения…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

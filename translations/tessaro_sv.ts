@@ -473,6 +473,58 @@ för PDF-filen:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Dra rader eller tryck på %1 och %2 för att ändra sidornas ordning.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Öppna bild</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Öppna PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Visa i mapp</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Flytta upp</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Flytta ner</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Flytta överst</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Flytta nederst</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Sortera efter namn, 2 före 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Sortera i den ordning de lades till</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Markera alla</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Lägg till bilder…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Avsluta</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

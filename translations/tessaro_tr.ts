@@ -473,6 +473,58 @@ ve izinleri:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Sayfaların sırasını değiştirmek için satırları sürükleyin ya da %1 ve %2 tuşlarına basın.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Görüntüyü aç</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>PDF’yi aç</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Klasörde göster</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Aşağı taşı</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>En üste taşı</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>En alta taşı</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Ada göre sırala, 2 10’dan önce</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Eklenme sırasına göre sırala</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü seç</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Görüntü ekle…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Çık</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 мм)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Перетягніть рядки або натисніть %1 і %2, щоб змінити порядок сторінок.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Відкрити зображення</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Відкрити PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Показати в теці</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Перемістити вгору</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Перемістити вниз</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Перемістити на початок</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Перемістити в кінець</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Упорядкувати за назвою, 2 перед 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Упорядкувати за порядком додавання</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Вибрати все</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Додати зображення…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Вийти</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

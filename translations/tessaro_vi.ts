@@ -473,6 +473,58 @@ của PDF:</translation>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 mm)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>Kéo các hàng hoặc nhấn %1 và %2 để đổi thứ tự trang.</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Mở ảnh</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>Mở PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Hiện trong thư mục</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Chuyển lên</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Chuyển xuống</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>Chuyển lên đầu</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>Chuyển xuống cuối</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>Sắp xếp theo tên, 2 trước 10</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>Sắp xếp theo thứ tự thêm vào</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Chọn tất cả</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>Thêm ảnh…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Thoát</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -473,6 +473,58 @@ for converted PDF:</source>
         <source>Tabloid (279.4x431.8 mm)</source>
         <translation>Tabloid (279.4x431.8 公釐)</translation>
     </message>
+    <message>
+        <source>Drag rows or press %1 and %2 to change the order of the pages.</source>
+        <translation>拖曳列或按 %1 和 %2 可變更頁面順序。</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>開啟影像</translation>
+    </message>
+    <message>
+        <source>Open PDF</source>
+        <translation>開啟 PDF</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>在資料夾中顯示</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Move to Top</source>
+        <translation>移至頂端</translation>
+    </message>
+    <message>
+        <source>Move to Bottom</source>
+        <translation>移至底端</translation>
+    </message>
+    <message>
+        <source>Sort by Name, 2 before 10</source>
+        <translation>依名稱排序，2 在 10 之前</translation>
+    </message>
+    <message>
+        <source>Sort as Added</source>
+        <translation>依加入順序排序</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>Add Images...</source>
+        <translation>加入影像…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
 </context>
 <context>
     <name>setDialog</name>

@@ -56,6 +56,13 @@ void WindowFixture::setOutputFolder()
     fill("outputfolderEdit", outputPath());
 }
 
+void WindowFixture::activate()
+{
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("the window does not become active");
+}
+
 QString WindowFixture::holdTool()
 {
     const QString gate = folder.filePath(QStringLiteral("gate"));

@@ -55,6 +55,8 @@ public:
     /// Makes the files and drops them; returns their paths.
     QStringList addImages(const QStringList &names);
     void setOutputFolder();
+    /// Gives the window the keyboard, without which shortcuts do nothing.
+    void activate();
 
     /// How the fake tools behave, see faketool.cpp; "" for good behaviour.
     void tellConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
