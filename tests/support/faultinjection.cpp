@@ -1,8 +1,9 @@
-// Preloaded into a program, meddles as TESSARO_FAULTINJECTION says: "full" makes the first write of
-// a large piece of data fail as on a full disk; any other value is a file that changes whenever a
-// large piece of data is read.
+// Preloaded into a program, does once what TESSARO_FAULTINJECTION says: "full" makes the first
+// write of a large piece of data fail as on a full disk; "signal" ends the program politely
+// (SIGTERM) at that write; any other value is a file that changes when it is read first.
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <string>
 
@@ -13,33 +14,45 @@
 
 namespace {
 
-/// What is to be done at a transfer of so many bytes, if anything.
-std::string wish(size_t size)
+std::string wish()
 {
-    constexpr size_t large = size_t(64) * 1024;
-    const char *wanted = size < large ? nullptr : std::getenv("TESSARO_FAULTINJECTION");
+    const char *wanted = std::getenv("TESSARO_FAULTINJECTION");
     return wanted ? wanted : "";
+}
+
+bool isOpenAs(int file, const std::string &path)
+{
+    struct stat opened = {}, named = {};
+    return fstat(file, &opened) == 0 && stat(path.c_str(), &named) == 0 &&
+           opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
 }
 
 } // namespace
 
 extern "C" ssize_t write(int file, const void *data, size_t size)
 {
+    constexpr size_t large = size_t(64) * 1024;
     static const auto real = reinterpret_cast<decltype(&write)>(dlsym(RTLD_NEXT, "write"));
-    if (wish(size) != "full")
-        return real(file, data, size);
-    unsetenv("TESSARO_FAULTINJECTION");
-    errno = ENOSPC;
-    return -1;
+    const std::string wanted = size < large ? "" : wish();
+    if (wanted == "full") {
+        unsetenv("TESSARO_FAULTINJECTION");
+        errno = ENOSPC;
+        return -1;
+    }
+    if (wanted == "signal") {
+        unsetenv("TESSARO_FAULTINJECTION");
+        kill(getpid(), SIGTERM);
+    }
+    return real(file, data, size);
 }
 
 extern "C" ssize_t pread(int file, void *data, size_t size, off_t offset)
 {
     static const auto real = reinterpret_cast<decltype(&pread)>(dlsym(RTLD_NEXT, "pread"));
-    const std::string changing = wish(size);
-    if (!changing.empty() && changing != "full") {
-        static time_t second = 0;
-        const timespec times[] = {{0, UTIME_OMIT}, {++second, 0}};
+    const std::string changing = wish();
+    if (isOpenAs(file, changing)) {
+        unsetenv("TESSARO_FAULTINJECTION");
+        const timespec times[] = {{0, UTIME_OMIT}, {1, 0}};
         utimensat(AT_FDCWD, changing.c_str(), times, 0);
     }
     return real(file, data, size, offset);

@@ -123,15 +123,16 @@ QByteArray xmp(const QByteArray &name, const QByteArray &value)
                              "></rdf:Description></rdf:RDF></x:xmpmeta>");
 }
 
-QByteArray photoshop(double x, double y, int unit)
+QByteArray photoshop(double x, double y, int unit, const QByteArray &iptc)
 {
     constexpr double fixedPoint = 65536;
     const QByteArray unitAndShown = big16(static_cast<quint32>(unit)) + big16(1);
     const QByteArray resolution = big32(static_cast<quint32>(x * fixedPoint)) + unitAndShown +
                                   big32(static_cast<quint32>(y * fixedPoint)) + unitAndShown;
-    return segment(0xED, QByteArray("Photoshop 3.0\0", 14) + "8BIM\x03\xED" + big16(0) +
-                             big32(static_cast<quint32>(resolution.size())) + resolution +
-                             "8BIM\x04\x04" + big16(0) + big32(4) + "iptc");
+    return segment(0xED, QByteArray("Photoshop 3.0\0", 14) + "8BIM\x04\x04" + big16(0) +
+                             big32(static_cast<quint32>(iptc.size())) + iptc +
+                             QByteArray(iptc.size() % 2, '\0') + "8BIM\x03\xED" + big16(0) +
+                             big32(static_cast<quint32>(resolution.size())) + resolution);
 }
 
 QByteArray exifBlock(const ExifFields &fields)
@@ -288,6 +289,10 @@ QByteArray tiff(const TiffForm &form)
             TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, form.unit);
         if (form.orientation >= 0)
             TIFFSetField(tiff, TIFFTAG_ORIENTATION, form.orientation);
+        if (form.subfileType >= 0)
+            TIFFSetField(tiff, TIFFTAG_SUBFILETYPE, form.subfileType);
+        if (form.group4Options >= 0)
+            TIFFSetField(tiff, TIFFTAG_GROUP4OPTIONS, form.group4Options);
         if (form.description)
             TIFFSetField(tiff, TIFFTAG_IMAGEDESCRIPTION, form.description);
         if (form.pageName)
@@ -295,7 +300,7 @@ QByteArray tiff(const TiffForm &form)
         QByteArray row((form.size.width() + 7) / 8, '\0');
         for (int y = 0; y < form.size.height(); ++y) {
             for (qsizetype x = 0; x < row.size(); ++x)
-                row[x] = static_cast<char>((x * 31 + qsizetype{y} * 7 + page) & 0xFC);
+                row[x] = static_cast<char>((x * 31 + qsizetype{y} * 7 + page * 60) & 0xFC);
             TIFFWriteScanline(tiff, row.data(), static_cast<uint32_t>(y), 0);
         }
         TIFFWriteDirectory(tiff);

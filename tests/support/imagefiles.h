@@ -23,7 +23,8 @@ QByteArray jfif(int unit, quint32 x, quint32 y, const QByteArray &thumbnail = {}
 QByteArray adobe(int transform);
 /// An XMP packet of one field.
 QByteArray xmp(const QByteArray &name, const QByteArray &value);
-QByteArray photoshop(double x, double y, int unit);
+/// With IPTC data before the resolution, as large as `iptc`.
+QByteArray photoshop(double x, double y, int unit, const QByteArray &iptc = "iptc");
 
 /// Resolution fields of an EXIF block; a negative number is a missing field.
 struct ExifFields
@@ -76,6 +77,8 @@ struct TiffForm
     int orientation = -1;
     int compression = 4;
     int pages = 1;
+    int subfileType = -1;
+    int group4Options = -1;
     const char *pageName = nullptr;
     const char *description = nullptr;
     bool bigEndian = false;

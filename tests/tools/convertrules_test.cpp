@@ -5,8 +5,11 @@
 #include "jpegscaling.h"
 #include "magick.h"
 #include "magickwarnings.h"
+#include "workdirectory.h"
 
 #include <QTest>
+
+#include <algorithm>
 
 using Words = std::vector<std::string>;
 using Size = unsigned long long;
@@ -38,6 +41,8 @@ private slots:
     void runsAtOnceFitTheMachine();
     void limitsFollowTheMachine_data();
     void limitsFollowTheMachine();
+    void pixelsGoToMemoryLast();
+    void foldersForPixelsAreAbsolute();
 };
 
 void ConvertRulesTest::applicationsCallsAreParsed()
@@ -192,6 +197,8 @@ void ConvertRulesTest::jpegDecodersShrink_data()
     QTest::newRow("larger than eight times")
         << a4 << QSize(32000, 32000) << QSize(4000, 4000) << QSize(595, 595);
     QTest::newRow("to be made larger") << a4 << QSize(20, 10) << QSize() << QSize();
+    QTest::newRow("a line that would have no height") << a4 << QSize(3000, 2) << QSize() << QSize();
+    QTest::newRow("a line that would have no width") << a4 << QSize(2, 9000) << QSize() << QSize();
     QTest::newRow("no readable header") << a4 << QSize(0, 0) << QSize() << QSize();
 }
 
@@ -294,6 +301,25 @@ void ConvertRulesTest::limitsFollowTheMachine()
     const std::vector<ResourceLimit> kernel = kernelLimits(limits);
     QCOMPARE(kernel.front().resource, RLIMIT_DATA);
     QVERIFY(kernel.front().value * runs < Size(4) << 30);
+}
+
+// On Linux /dev is a file system in memory, and /proc is none.
+void ConvertRulesTest::pixelsGoToMemoryLast()
+{
+    qputenv("TMPDIR", "/dev");
+    qputenv("XDG_RUNTIME_DIR", "/proc");
+    const Words folders = pixelFolders("/last");
+    QCOMPARE(folders.back(), std::string("/last"));
+    const auto inMemory = std::ranges::find(folders, "/dev");
+    const auto onDisk = std::ranges::find(folders, "/proc");
+    QVERIFY(onDisk < inMemory && inMemory != folders.end());
+}
+
+void ConvertRulesTest::foldersForPixelsAreAbsolute()
+{
+    qputenv("TMPDIR", "relative");
+    qputenv("XDG_RUNTIME_DIR", "");
+    QCOMPARE(temporaryFolders(), Words({"/var/tmp", "/tmp"}));
 }
 
 QTEST_APPLESS_MAIN(ConvertRulesTest)

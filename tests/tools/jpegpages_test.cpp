@@ -13,6 +13,7 @@ class JpegPagesTest : public QObject
 
 private slots:
     void nothingButTheImageIsCopied();
+    void densityStandsBehindBlocksOfAnyLength();
     void isCopiedOrLeftToImageMagick_data();
     void isCopiedOrLeftToImageMagick();
     void incompleteFileIsRefused_data();
@@ -92,6 +93,15 @@ void JpegPagesTest::nothingButTheImageIsCopied()
 
     QCOMPARE(reading.streams, QByteArrayList{QByteArray("\xFF\xD8") + adobe(1) + colour});
     QCOMPARE(reading.pages.front().pageWidth, 40 * 72.0 / 300);
+}
+
+void JpegPagesTest::densityStandsBehindBlocksOfAnyLength()
+{
+    for (const char *iptc : {"", "x", "xy", "xyz"}) {
+        const Reading reading = readImage(jpeg({photoshop(300, 300, 1, iptc)}, colour));
+        QCOMPARE(reading.pages.size(), size_t(1));
+        QCOMPARE(reading.pages.front().pageWidth, 40 * 72.0 / 300);
+    }
 }
 
 void JpegPagesTest::isCopiedOrLeftToImageMagick_data()

@@ -167,6 +167,14 @@ void PngPagesTest::isCopiedOrLeftToImageMagick_data()
         withChunk(profileChunk(profile(true)) + chunk("sRGB", QByteArray(1, '\0'))), false);
     row("profile of indexed colours", withChunk(profileChunk(profile(true)), 3), false);
     row("grey profile of indexed colours", withChunk(profileChunk(profile(false)), 3), false);
+    row("profile behind the image data", withLaterChunk(profileChunk(profile(true))), false);
+    row("profile before it", withChunk(profileChunk(profile(true))), true);
+    const QByteArray palette =
+        chunk("PLTE", QByteArray::fromHex("00ff00") + QByteArray::fromHex("25f405"));
+    QByteArray late = png({3, 1, {40, 30}});
+    QVERIFY(late.contains(palette));
+    late.replace(palette, {});
+    row("palette behind the image data", late.insert(late.size() - 12, palette), false);
     row("profile that cannot be read", withChunk(chunk("iCCP", QByteArray("name\0\0no", 8))),
         false);
     row("profile without a name's end", withChunk(chunk("iCCP", "name")), false);

@@ -3,6 +3,7 @@
 #include "imagefiles.h"
 #include "pagereading.h"
 
+#include <QSet>
 #include <QTest>
 
 using namespace imagefiles;
@@ -14,6 +15,7 @@ class TiffPagesTest : public QObject
 private slots:
     void onlyStripIsCopied();
     void severalStripsBecomeOne();
+    void everyPageHasItsOwnStrips();
     void isCopiedOrLeftToImageMagick_data();
     void isCopiedOrLeftToImageMagick();
     void incompleteFileIsRefused_data();
@@ -95,6 +97,13 @@ void TiffPagesTest::severalStripsBecomeOne()
     QCOMPARE(readImage(with(&TiffForm::fillOrder, 2)).streams, whole);
 }
 
+void TiffPagesTest::everyPageHasItsOwnStrips()
+{
+    const QByteArrayList whole = readImage(tiff({.pages = 3})).streams;
+    QCOMPARE(QSet<QByteArray>(whole.begin(), whole.end()).size(), 3);
+    QCOMPARE(readImage(tiff({.rowsPerStrip = 7, .pages = 3})).streams, whole);
+}
+
 void TiffPagesTest::isCopiedOrLeftToImageMagick_data()
 {
     addReadingRows();
@@ -110,6 +119,12 @@ void TiffPagesTest::isCopiedOrLeftToImageMagick_data()
     row("LZW", with(&TiffForm::compression, 5), false);
     row("a name, which ImageMagick prints", with(&TiffForm::pageName, "Page"), false);
     row("turned", with(&TiffForm::orientation, 6), false);
+    row("a page of several", with(&TiffForm::subfileType, 2), true);
+    row("a reduced image", with(&TiffForm::subfileType, 1), false);
+    row("a transparency mask", with(&TiffForm::subfileType, 4), false);
+    row("no uncompressed rows", with(&TiffForm::group4Options, 0), true);
+    row("uncompressed rows", with(&TiffForm::group4Options, 2), false);
+    row("samples in planes of their own", withFieldByte(plain, 284, 8, 2), false);
     row("two bits", withFieldByte(plain, 258, 8, 2), false);
     row("two samples", withFieldByte(plain, 277, 8, 2), false);
     row("colours of a palette", withFieldByte(plain, 262, 8, 3), false);

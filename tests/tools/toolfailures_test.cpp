@@ -20,7 +20,6 @@ private slots:
     void failureIsPassedOn_data();
     void failureIsPassedOn();
     void diskFullForAMomentLeavesTheOlderPdf();
-    void imageThatChangesMeanwhileIsRefused();
     void successIsQuiet();
     void noiseIsBounded();
     void realToolSeesPlainNames();
@@ -163,19 +162,6 @@ void ToolFailuresTest::diskFullForAMomentLeavesTheOlderPdf()
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
     QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
     QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
-}
-
-void ToolFailuresTest::imageThatChangesMeanwhileIsRefused()
-{
-    const QTemporaryDir folder;
-    makeImage(folder.filePath(u"x.jpg"_s), {6000, 4000});
-    const RunResult result =
-        runBundled(u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}, folder.path(),
-                   {{u"LD_PRELOAD"_s, QStringLiteral(TESSARO_FAULTINJECTION)},
-                    {u"TESSARO_FAULTINJECTION"_s, folder.filePath(u"x.jpg"_s)}});
-    QCOMPARE(result.status, 1);
-    QVERIFY2(result.errors.contains("'x.jpg' was changed meanwhile"), result.errors.constData());
-    QCOMPARE(namesIn(folder.path()), QStringList{u"x.jpg"_s});
 }
 
 void ToolFailuresTest::successIsQuiet()
