@@ -81,7 +81,7 @@ void ConvertFaultsTest::pageThatTheToolDropsIsAFailure()
     writeContent(place(u"x.tif"_s), imagefiles::tiff({.compression = 5, .pages = 1001}));
     const RunResult result = convert({bundle.tool(u"convert"_s), u"x.tif"_s}, {});
     QCOMPARE(result.status, 1);
-    QVERIFY2(result.errors.contains("page"), result.errors.constData());
+    QCOMPARE(result.errors, QByteArray("convert: a page is missing\n"));
     QVERIFY(!QFile::exists(place(u"o.pdf"_s)));
 }
 
