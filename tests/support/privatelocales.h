@@ -20,6 +20,8 @@ public:
         return localedef.waitForFinished(60000) && localedef.exitCode() <= 1;
     }
 
+    QString path() const { return folder.path(); }
+
     /// Makes `name` the environment's locale, looked for in this folder first.
     void use(const char *name) const
     {

@@ -1,6 +1,7 @@
 // What the program convert leaves behind, on success and on failure.
 
 #include "pdffacts.h"
+#include "privatelocales.h"
 #include "toolbench.h"
 
 #include <QDir>
@@ -22,6 +23,8 @@ private slots:
     void optionsReachTheTool();
     void anyNameIsAnOutput_data();
     void anyNameIsAnOutput();
+    void titleIsReadInTheCharsetOfTheLocale_data();
+    void titleIsReadInTheCharsetOfTheLocale();
     void anyNameIsAnInput_data();
     void anyNameIsAnInput();
     void anyExtensionIsAnInput_data();
@@ -147,6 +150,35 @@ void ConvertResultsTest::anyNameIsAnOutput()
     QCOMPARE(facts.pages, 2);
     QCOMPARE(facts.title, name);
     QCOMPARE(facts.author, QString());
+}
+
+void ConvertResultsTest::titleIsReadInTheCharsetOfTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("bytes");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("Latin-1") << "en_US.ISO-8859-1"
+                             << "\\344\\366 x" << u"\u00E4\u00F6 x"_s;
+    QTest::newRow("UTF-8 in Latin-1") << "en_US.ISO-8859-1"
+                                      << "\\303\\244 x" << u"\u00E4 x"_s;
+    QTest::newRow("Latin-1 in UTF-8") << "C.UTF-8"
+                                      << "\\344 x" << u"\uFFFD x"_s;
+}
+
+void ConvertResultsTest::titleIsReadInTheCharsetOfTheLocale()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, bytes);
+    PrivateLocales locales;
+    QVERIFY(locales.add(u"en_US"_s, u"ISO-8859-1"_s));
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"x.png"_s));
+    const QString script = u"\"$0\" x.png \"$(printf '%1.pdf')\" && mv *.pdf o.pdf"_s.arg(bytes);
+    const RunResult result =
+        runProgram(u"/bin/sh"_s, {u"-c"_s, script, bundledTool(u"convert"_s)}, folder.path(),
+                   {{u"LOCPATH"_s, locales.path()}, {u"LC_ALL"_s, locale}});
+    QCOMPARE(result.errors, QByteArray());
+    QTEST(readPdf(folder.filePath(u"o.pdf"_s)).title, "title");
 }
 
 void ConvertResultsTest::anyNameIsAnInput_data()

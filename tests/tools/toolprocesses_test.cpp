@@ -32,6 +32,7 @@ private slots:
     void noCoreIsDumped();
     void theRealToolDumpsNoCore();
     void lackOfMemoryIsASentence();
+    void smallStackIsEnough();
     void limitOnFileSizesIsAFailure();
     void realConvertStopsOnASignal();
     void killedProgramTakesTheJvmAlong();
@@ -259,6 +260,23 @@ void ToolProcessesTest::lackOfMemoryIsASentence()
     QCOMPARE(result.errors, QByteArray("pdftk: not enough memory\n"));
     QCOMPARE(result.status, 1);
     QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"info"_s}));
+}
+
+// ImageMagick needs more than that, and may be ended by the kernel.
+void ToolProcessesTest::smallStackIsEnough()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"x.jpg"_s));
+    const QStringList call = {u"x.jpg"_s, u"o.pdf"_s};
+    const auto run = [&](const QStringList &options) {
+        return runInShell(u"ulimit -s 64"_s, bundledTool(u"convert"_s), options + call,
+                          folder.path());
+    };
+    QCOMPARE(run({}).errors, QByteArray());
+    QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
+    const RunResult converted = run({u"-rotate"_s, u"90"_s});
+    QCOMPARE(converted.errors.isEmpty(), converted.status == 0);
+    QCOMPARE(namesIn(folder.path()), QStringList({u"o.pdf"_s, u"x.jpg"_s}));
 }
 
 // The kernel's answer to a file beyond the caller's limit is a signal that ends a program.

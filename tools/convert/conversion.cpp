@@ -34,10 +34,13 @@ std::string runFolder(size_t part)
     return "run-" + std::to_string(part + 1);
 }
 
+// Desktop programs name files in UTF-8 whatever the locale, others in its charset.
 std::string titleOf(const std::string &output)
 {
-    const std::string name = fileNameOf(output);
-    return name.substr(0, name.rfind('.'));
+    const std::string file = fileNameOf(output);
+    const std::string name = file.substr(0, file.rfind('.'));
+    const CodePoints text = decoded(name, "UTF-8");
+    return encoded(text.find(replacement) == text.npos ? text : decoded(name, localeCharset()));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <memory>
 #include <new>
 
@@ -167,9 +168,19 @@ void Document::addPdf(const DocumentPart &part)
     }
 }
 
+// In UTC, as the time zone would tell where the document was made.
+std::string currentPdfTime()
+{
+    const time_t now = time(nullptr);
+    tm utc = {};
+    gmtime_r(&now, &utc);
+    return QUtil::qpdf_time_to_pdf_time(
+        {utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec, 0});
+}
+
 void Document::describe(const std::string &title)
 {
-    const std::string now = QUtil::qpdf_time_to_pdf_time(QUtil::get_current_qpdf_time());
+    const std::string now = currentPdfTime();
     QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
     if (!title.empty())
         information.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(title));
