@@ -343,7 +343,7 @@ void ConversionE2eTest::passwordWithADoubleQuoteIsAnotherPhrase()
     const PdfFacts unasked = readPdf(output(u"a.pdf"_s));
     QVERIFY(unasked.readable && unasked.encrypted);
     QCOMPARE(unasked.needsPassword, needed);
-    const QByteArray typed = (owner.isEmpty() ? user : owner).toLatin1();
+    const QByteArray typed = (owner.isEmpty() ? user : owner).toUtf8();
     QVERIFY(!readPdf(output(u"a.pdf"_s), typed).mayPrint);
     const PdfFacts opened = readPdf(output(u"a.pdf"_s), phrase);
     QCOMPARE(opened.pages, 1);

@@ -124,7 +124,7 @@ void SecretsTest::inspectProcesses()
         const QString program = QFile::symLinkTarget(process + u"/exe"_s);
         if (holdsSecret(contentOf(process + u"/environ"_s)))
             finds << u"environment of "_s + program;
-        // The program's own two tools are given the password; they wipe it and hand it on.
+        // The programs of the bundle are given the password, and wipe it.
         const QString name = QFileInfo(program).fileName();
         if (name == QLatin1String("convert") || name == QLatin1String("pdftk"))
             continue;
@@ -169,7 +169,7 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment_data()
     QTest::addColumn<bool>("succeeds");
     QTest::newRow("one by one") << false << ownerPassword << true;
     QTest::newRow("merged") << true << ownerPassword << true;
-    QTest::newRow("a password with a blank, which the tool refuses")
+    QTest::newRow("a password with a blank, which is refused")
         << false << ownerPassword + u" "_s + ownerPassword << false;
 }
 
@@ -186,7 +186,7 @@ void SecretsTest::passwordsAppearInNoFileAndNoEnvironment()
     QVERIFY(driver.click("pushButton_Security") && driver.type("lineEdit_ownerpwd", owner) &&
             driver.type("lineEdit_userpwd", userPassword));
     QVERIFY(driver.click("pushButton_Inout"));
-    QVERIFY(driver.openFiles({makeImage(place(u"a.png"_s)), makeImage(place(u"b.png"_s))}));
+    QVERIFY(driver.openFiles({makeImage(place(u"a.bmp"_s)), makeImage(place(u"b.bmp"_s))}));
 
     QTimer inspector;
     connect(&inspector, &QTimer::timeout, this, [this] {

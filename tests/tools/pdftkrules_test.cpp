@@ -1,7 +1,8 @@
-// The rules of our pdftk that need neither the real tool nor a file.
+// What our pdftk makes of its arguments, passwords and info file, without a PDF.
 
 #include "error.h"
-#include "losslessinfo.h"
+#include "infofile.h"
+#include "passwords.h"
 #include "pdftkcall.h"
 
 #include <QTest>
@@ -16,114 +17,224 @@ class PdftkRulesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void pdftkTailHidesPasswords_data();
-    void pdftkTailHidesPasswords();
-    void passwordsAreReadAsUtf8OrElseInTheLocalesCharset();
-    void otherPdftkCallsAreNotOurs_data();
-    void otherPdftkCallsAreNotOurs();
-    void passwordsElsewhereAreRefused_data();
-    void passwordsElsewhereAreRefused();
-    void passwordsWithLineBreaksAreRefused_data();
-    void passwordsWithLineBreaksAreRefused();
+    void callsOfTheApplicationAreRead_data();
+    void callsOfTheApplicationAreRead();
+    void otherCallsAreRefused_data();
+    void otherCallsAreRefused();
     void loggedArgumentsAreMasked_data();
     void loggedArgumentsAreMasked();
-    void infoFileBecomesLossless_data();
-    void infoFileBecomesLossless();
+    void passwordsAreNormalized_data();
+    void passwordsAreNormalized();
+    void passwordsAreReadAsUtf8OrElseInTheLocalesCharset();
+    void userPasswordAloneIsTheOwnersToo();
+    void nothingIsEncryptedWithoutAPassword();
+    void passwordsWithLineBreaksAreRefused_data();
+    void passwordsWithLineBreaksAreRefused();
+    void equalPasswordsAreRefused();
+    void infoFileIsRead_data();
+    void infoFileIsRead();
+    void otherFilesAreNoInfoFiles();
 };
 
-void PdftkRulesTest::pdftkTailHidesPasswords_data()
+namespace {
+
+const Words base = {"in.pdf", "output", "out.pdf"};
+
+Words withTail(const Words &tail)
 {
-    QTest::addColumn<Words>("tail");
-    QTest::addColumn<Words>("shown");
-    QTest::addColumn<Words>("answers");
-    QTest::newRow("nothing") << Words{} << Words{} << Words{};
-    QTest::newRow("both passwords and permissions")
-        << Words{"owner_pw", "a", "user_pw", "b", "allow", "printing", "allow", "copycontents"}
-        << Words{"owner_pw", "PROMPT",   "user_pw", "PROMPT",
-                 "allow",    "printing", "allow",   "copycontents"}
-        << Words{"a", "b"};
-    QTest::newRow("a keyword as a password")
-        << Words{"user_pw", "allow"} << Words{"user_pw", "PROMPT"} << Words{"allow"};
-    QTest::newRow("a blank in a password")
-        << Words{"owner_pw", "se", "cret", "allow", "printing"}
-        << Words{"owner_pw", "PROMPT", "********", "allow", "printing"} << Words{"se"};
-    QTest::newRow("33 characters: the tool would drop and print the last")
-        << Words{"user_pw", std::string(32, 'x') + "y"} << Words{"user_pw", "PROMPT"}
-        << Words{std::string(32, 'x')};
-    QTest::newRow("equal passwords, which the tool refuses")
-        << Words{"owner_pw", "a", "user_pw", "a"}
-        << Words{"owner_pw", "********", "user_pw", "********"} << Words{};
-    QTest::newRow("a keyword without a password")
-        << Words{"user_pw"} << Words{"user_pw"} << Words{};
-    QTest::newRow("keywords in capitals")
-        << Words{"OWNER_PW", "a", "User_Pw", "b"}
-        << Words{"OWNER_PW", "PROMPT", "User_Pw", "PROMPT"} << Words{"a", "b"};
-    QTest::newRow("an input's password, which the tool refuses there")
-        << Words{"input_pw", "a"} << Words{"input_pw", "********"} << Words{};
-    QTest::newRow("32 characters of more than one byte")
-        << Words{"user_pw", std::string(QString(40, QChar(0xFC)).toUtf8())}
-        << Words{"user_pw", "PROMPT"} << Words{std::string(QString(32, QChar(0xFC)).toUtf8())};
+    Words words = base;
+    words.insert(words.end(), tail.begin(), tail.end());
+    return words;
 }
 
-void PdftkRulesTest::pdftkTailHidesPasswords()
+std::optional<Encryption> encryptionBy(const Words &tail, const std::string &charset = "UTF-8")
 {
-    QFETCH(Words, tail);
-    QFETCH(Words, shown);
-    QFETCH(Words, answers);
-    Words arguments = {"in.pdf", "update_info", "info", "output", "out.pdf"};
-    arguments.insert(arguments.end(), tail.begin(), tail.end());
-    const std::optional<PdftkCall> call = parsePdftkCall(arguments, "UTF-8");
+    return encryptionOf(parsePdftkCall(withTail(tail)).value(), charset);
+}
+
+// A call as words in a fixed order, "-" for what it does not have.
+Words partsOf(const PdftkCall &call)
+{
+    std::string allowed;
+    allowed += call.allowed.printing ? 'p' : '-';
+    allowed += call.allowed.modifyContents ? 'm' : '-';
+    allowed += call.allowed.copyContents ? 'c' : '-';
+    allowed += call.allowed.modifyAnnotations ? 'a' : '-';
+    return {call.input,
+            call.infoFile.value_or("-"),
+            call.output,
+            call.ownerPassword.value_or("-"),
+            call.userPassword.value_or("-"),
+            allowed};
+}
+
+} // namespace
+
+void PdftkRulesTest::callsOfTheApplicationAreRead_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::addColumn<Words>("parts");
+    QTest::newRow("nothing to do") << base << Words{"in.pdf", "-", "out.pdf", "-", "-", "----"};
+    QTest::newRow("everything") << Words{"/o/in.pdf",
+                                         "update_info",
+                                         "/o/pdfa.txt",
+                                         "output",
+                                         "/o/1.pdf",
+                                         "owner_pw",
+                                         "a",
+                                         "user_pw",
+                                         "b",
+                                         "allow",
+                                         "printing",
+                                         "allow",
+                                         "modifycontents",
+                                         "allow",
+                                         "copycontents",
+                                         "allow",
+                                         "modifyannotations"}
+                                << Words{"/o/in.pdf", "/o/pdfa.txt", "/o/1.pdf", "a", "b", "pmca"};
+    QTest::newRow("a permission alone")
+        << withTail({"allow", "copycontents"}) << Words{"in.pdf", "-", "out.pdf", "-", "-", "--c-"};
+    QTest::newRow("keywords in capitals, as pdftk takes them")
+        << Words{"in.pdf",  "Update_Info", "i",     "OUTPUT",  "out.pdf",
+                 "User_PW", "B",           "ALLOW", "Printing"}
+        << Words{"in.pdf", "i", "out.pdf", "-", "B", "p---"};
+    QTest::newRow("keywords as passwords")
+        << withTail({"owner_pw", "user_pw", "user_pw", "allow"})
+        << Words{"in.pdf", "-", "out.pdf", "user_pw", "allow", "----"};
+    QTest::newRow("the word for a question as a password")
+        << withTail({"owner_pw", "PROMPT"})
+        << Words{"in.pdf", "-", "out.pdf", "PROMPT", "-", "----"};
+    QTest::newRow("keywords as names")
+        << Words{"output.pdf", "update_info", "output", "output", "allow.pdf"}
+        << Words{"output.pdf", "output", "allow.pdf", "-", "-", "----"};
+}
+
+void PdftkRulesTest::callsOfTheApplicationAreRead()
+{
+    QFETCH(Words, arguments);
+    QFETCH(Words, parts);
+    const std::optional<PdftkCall> call = parsePdftkCall(arguments);
     QVERIFY(call);
-    QCOMPARE(call->input, std::string("in.pdf"));
-    QCOMPARE(call->infoFile, std::string("info"));
-    QCOMPARE(call->output, std::string("out.pdf"));
-    QCOMPARE(call->tail, shown);
-    Words given;
-    for (const Prompt &prompt : call->passwords)
-        given.push_back(prompt.answer);
-    QCOMPARE(given, answers);
+    QCOMPARE(partsOf(*call), parts);
+}
+
+void PdftkRulesTest::otherCallsAreRefused_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::newRow("no arguments") << Words{};
+    QTest::newRow("an input alone") << Words{"a.pdf"};
+    QTest::newRow("another operation") << Words{"a.pdf", "cat", "1", "output", "o.pdf"};
+    QTest::newRow("a report") << Words{"a.pdf", "dump_data"};
+    QTest::newRow("no output") << Words{"a.pdf", "update_info", "i"};
+    QTest::newRow("an output without a name") << Words{"a.pdf", "output"};
+    QTest::newRow("standard output") << Words{"a.pdf", "output", "-"};
+    QTest::newRow("standard input") << Words{"-", "output", "o.pdf"};
+    QTest::newRow("the input of an application that cannot write its info file")
+        << Words{"a.pdf111", "output", "o.pdf"};
+    QTest::newRow("empty names") << Words{"", "output", ""};
+    QTest::newRow("two inputs") << Words{"a.pdf", "b.pdf", "output", "o.pdf"};
+    QTest::newRow("an input's password") << Words{"a.pdf", "input_pw", "x", "output", "o.pdf"};
+    QTest::newRow("a UTF-8 info file")
+        << Words{"a.pdf", "update_info_utf8", "i", "output", "o.pdf"};
+    for (const auto &[name, tail] : std::vector<std::pair<const char *, Words>>{
+             {"a password with a blank", {"owner_pw", "se", "cret"}},
+             {"an empty password", {"user_pw", ""}},
+             {"no password", {"user_pw"}},
+             {"two owner passwords", {"owner_pw", "a", "owner_pw", "b"}},
+             {"the user password first", {"user_pw", "a", "owner_pw", "b"}},
+             {"a permission before the password", {"allow", "printing", "owner_pw", "a"}},
+             {"no permission", {"allow"}},
+             {"two permissions after one word", {"allow", "printing", "copycontents"}},
+             {"a permission twice", {"allow", "printing", "allow", "printing"}},
+             {"permissions in another order", {"allow", "copycontents", "allow", "printing"}},
+             {"a permission that the application does not give", {"allow", "fillin"}},
+             {"another encryption", {"encrypt_40bit"}},
+             {"a word of pdftk's", {"compress"}},
+             {"an empty word", {""}}})
+        QTest::newRow(name) << withTail(tail);
+}
+
+void PdftkRulesTest::otherCallsAreRefused()
+{
+    QFETCH(Words, arguments);
+    QVERIFY(!parsePdftkCall(arguments));
+}
+
+void PdftkRulesTest::loggedArgumentsAreMasked_data()
+{
+    QTest::addColumn<Words>("arguments");
+    QTest::addColumn<Words>("masked");
+    QTest::newRow("nothing to hide")
+        << Words{"a.pdf", "cat", "output", "b.pdf"} << Words{"a.pdf", "cat", "output", "b.pdf"};
+    QTest::newRow("passwords and their rests")
+        << Words{"owner_pw", "a", "b", "allow", "printing", "user_pw", "c"}
+        << Words{"owner_pw", "********", "********", "allow", "printing", "user_pw", "********"};
+    QTest::newRow("a keyword as a password")
+        << Words{"user_pw", "owner_pw", "x"} << Words{"user_pw", "********", "********"};
+    QTest::newRow("an input's password in capitals")
+        << Words{"a.pdf", "INPUT_PW", "A=x", "output", "b.pdf"}
+        << Words{"a.pdf", "INPUT_PW", "********", "********", "********"};
+}
+
+void PdftkRulesTest::loggedArgumentsAreMasked()
+{
+    QFETCH(Words, arguments);
+    QFETCH(Words, masked);
+    QCOMPARE(maskedPdftkArguments(arguments), masked);
+}
+
+void PdftkRulesTest::passwordsAreNormalized_data()
+{
+    QTest::addColumn<std::string>("typed");
+    QTest::addColumn<std::string>("normalized");
+    QTest::newRow("ASCII") << std::string("a B!") << std::string("a B!");
+    QTest::newRow("an accent of its own") << std::string("e\u0301") << std::string("\u00e9");
+    QTest::newRow("a ligature") << std::string("\ufb01") << std::string("fi");
+    QTest::newRow("a blank that does not break") << std::string("a\u00a0b") << std::string("a b");
+    QTest::newRow("a soft hyphen") << std::string("a\u00adb") << std::string("ab");
+    QTest::newRow("many scripts") << std::string("\u044f\u65e5\u05d0\u0628")
+                                  << std::string("\u044f\u65e5\u05d0\u0628");
+    QTest::newRow("newer than Unicode 3.2")
+        << std::string("\U0001F511") << std::string("\U0001F511");
+    QTest::newRow("refused by SASLprep: Hebrew and Latin letters")
+        << std::string("\u05d0a") << std::string("\u05d0a");
+    QTest::newRow("refused by SASLprep: a tabulator") << std::string("a\tb") << std::string("a\tb");
+    QTest::newRow("127 bytes count") << std::string(130, 'x') << std::string(127, 'x');
+}
+
+void PdftkRulesTest::passwordsAreNormalized()
+{
+    QFETCH(std::string, typed);
+    QFETCH(std::string, normalized);
+    const std::optional<Encryption> encryption =
+        encryptionBy({"owner_pw", typed, "user_pw", "user " + typed});
+    QVERIFY(encryption);
+    QCOMPARE(encryption->ownerPassword, normalized);
 }
 
 void PdftkRulesTest::passwordsAreReadAsUtf8OrElseInTheLocalesCharset()
 {
-    const std::optional<PdftkCall> call = parsePdftkCall(
-        {"in.pdf", "output", "out.pdf", "owner_pw", "\xC3\xA9", "user_pw", "\xE8"}, "ISO-8859-1");
-    QVERIFY(call);
-    QCOMPARE(call->passwords.size(), size_t{2});
-    QCOMPARE(call->passwords[0].answer, std::string("\xC3\xA9"));
-    QCOMPARE(call->passwords[1].answer, std::string("\xC3\xA8"));
+    const std::optional<Encryption> encryption =
+        encryptionBy({"owner_pw", "\xC3\xA9", "user_pw", "\xE8"}, "ISO-8859-1");
+    QVERIFY(encryption);
+    QCOMPARE(encryption->ownerPassword, std::string("\xC3\xA9"));
+    QCOMPARE(encryption->userPassword, std::string("\xC3\xA8"));
 }
 
-void PdftkRulesTest::otherPdftkCallsAreNotOurs_data()
+// As it was typed, for readers that do not normalize what is typed there.
+void PdftkRulesTest::userPasswordAloneIsTheOwnersToo()
 {
-    QTest::addColumn<Words>("arguments");
-    QTest::newRow("no arguments") << Words{};
-    QTest::newRow("a question for the version") << Words{"--version"};
-    QTest::newRow("another operation") << Words{"a.pdf", "cat", "1", "output", "o.pdf"};
-    QTest::newRow("no output") << Words{"a.pdf", "update_info", "i"};
-    QTest::newRow("standard output") << Words{"a.pdf", "output", "-"};
+    const std::optional<Encryption> encryption = encryptionBy({"user_pw", "5\u00b5"});
+    QVERIFY(encryption);
+    QCOMPARE(encryption->ownerPassword, std::string("5\u00b5"));
+    QCOMPARE(encryption->userPassword, std::string("5\u03bc"));
 }
 
-void PdftkRulesTest::otherPdftkCallsAreNotOurs()
+void PdftkRulesTest::nothingIsEncryptedWithoutAPassword()
 {
-    QFETCH(Words, arguments);
-    QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
-}
-
-void PdftkRulesTest::passwordsElsewhereAreRefused_data()
-{
-    QTest::addColumn<Words>("arguments");
-    QTest::newRow("an input's password") << Words{"a.pdf", "input_pw", "x", "output", "o.pdf"};
-    QTest::newRow("another operation")
-        << Words{"a.pdf", "cat", "1", "output", "o.pdf", "owner_pw", "x"};
-    QTest::newRow("to standard output") << Words{"a.pdf", "output", "-", "user_pw", "x"};
-    QTest::newRow("keywords in capitals") << Words{"a.pdf", "dump_data", "INPUT_PW", "x"};
-}
-
-void PdftkRulesTest::passwordsElsewhereAreRefused()
-{
-    QFETCH(Words, arguments);
-    QVERIFY(!parsePdftkCall(arguments, "UTF-8"));
+    QVERIFY(!encryptionBy({"allow", "printing"}));
+    QVERIFY(encryptionBy({"owner_pw", "a", "allow", "printing"})->allowed.printing);
 }
 
 void PdftkRulesTest::passwordsWithLineBreaksAreRefused_data()
@@ -143,76 +254,63 @@ void PdftkRulesTest::passwordsWithLineBreaksAreRefused()
 {
     QFETCH(std::string, password);
     QFETCH(std::string, charset);
-    const Words arguments = {"in.pdf", "output", "o.pdf", "user_pw", password};
-    QVERIFY_THROWS_EXCEPTION(ToolError, parsePdftkCall(arguments, charset));
+    QVERIFY_THROWS_EXCEPTION(ToolError, encryptionBy({"user_pw", password}, charset));
 }
 
-void PdftkRulesTest::loggedArgumentsAreMasked_data()
+void PdftkRulesTest::equalPasswordsAreRefused()
 {
-    QTest::addColumn<Words>("arguments");
-    QTest::addColumn<Words>("masked");
-    QTest::newRow("nothing to hide")
-        << Words{"a.pdf", "cat", "output", "b.pdf"} << Words{"a.pdf", "cat", "output", "b.pdf"};
-    QTest::newRow("passwords and their rests")
-        << Words{"owner_pw", "a", "b", "allow", "printing", "user_pw", "c"}
-        << Words{"owner_pw", "********", "********", "allow", "printing", "user_pw", "********"};
-    QTest::newRow("a keyword as a password")
-        << Words{"user_pw", "owner_pw", "x"} << Words{"user_pw", "********", "********"};
-    QTest::newRow("an input's password")
-        << Words{"a.pdf", "input_pw", "A=x", "output", "b.pdf"}
-        << Words{"a.pdf", "input_pw", "********", "output", "********"};
-    QTest::newRow("files that are called as keywords are")
-        << Words{"owner_pw", "output", "o.pdf", "USER_PW", "x"}
-        << Words{"owner_pw", "output", "o.pdf", "USER_PW", "********"};
+    QVERIFY_THROWS_EXCEPTION(ToolError, encryptionBy({"owner_pw", "a", "user_pw", "a"}));
+    QVERIFY_THROWS_EXCEPTION(ToolError, encryptionBy({"owner_pw", "\ufb01", "user_pw", "fi"}));
 }
 
-void PdftkRulesTest::loggedArgumentsAreMasked()
-{
-    QFETCH(Words, arguments);
-    QFETCH(Words, masked);
-    QCOMPARE(maskedPdftkArguments(arguments), masked);
-}
-
-void PdftkRulesTest::infoFileBecomesLossless_data()
+void PdftkRulesTest::infoFileIsRead_data()
 {
     QTest::addColumn<std::string>("content");
     QTest::addColumn<std::string>("charset");
-    QTest::addColumn<std::string>("lossless");
-    QTest::newRow("every pair gets its beginning")
-        << std::string("InfoKey:Title\nInfoValue:a\nInfoKey:Author\nInfoValue:\n")
-        << std::string("UTF-8")
-        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: a\n"
-                       "InfoBegin\nInfoKey: Author\nInfoValue: \n");
-    QTest::newRow("blanks stay, special characters become entities")
-        << std::string("InfoKey:Title\nInfoValue:  &amp;<\t\"'> \n") << std::string("UTF-8")
-        << std::string("InfoBegin\nInfoKey: Title\n"
-                       "InfoValue:   &#38;amp;&#60;&#9;&#34;&#39;&#62; \n");
-    QTest::newRow("text beyond ASCII in UTF-8")
-        << std::string("InfoKey:Title\nInfoValue:\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80\n")
-        << std::string("UTF-8")
-        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;&#8364;&#128512;\n");
-    QTest::newRow("text beyond ASCII in the locale's charset")
+    QTest::addColumn<Words>("entries");
+    const std::string utf8 = "UTF-8";
+    QTest::newRow("as the application writes it")
+        << std::string("InfoKey:Title\nInfoValue:a\nInfoKey:Author\nInfoValue:\n") << utf8
+        << Words{"Title", "a", "Author", ""};
+    QTest::newRow("blanks and special characters")
+        << std::string("InfoKey:Title\nInfoValue:  &amp;<\t\"'> \n") << utf8
+        << Words{"Title", "  &amp;<\t\"'> "};
+    QTest::newRow("no line feed at the end")
+        << std::string("InfoKey:Title\nInfoValue:a") << utf8 << Words{"Title", "a"};
+    QTest::newRow("in the locale's charset")
         << std::string("InfoKey:Title\nInfoValue:\xFC\xA4\n") << std::string("ISO-8859-15")
-        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;&#8364;\n");
+        << Words{"Title", "\u00fc\u20ac"};
+    QTest::newRow("a byte order mark says UTF-8")
+        << std::string("\xEF\xBB\xBFInfoKey:Title\nInfoValue:\u20ac\n")
+        << std::string("ISO-8859-15") << Words{"Title", "\u20ac"};
+    QTest::newRow("lines that end in CR LF")
+        << std::string("InfoKey:Title\r\nInfoValue:a\r\nInfoKey:Author\r\nInfoValue:b\r\n") << utf8
+        << Words{"Title", "a", "Author", "b"};
     QTest::newRow("labels as lines of a value")
         << std::string("InfoKey:Title\nInfoValue:a\nInfoBegin\nInfoKey:x\n"
                        "InfoKey:Author\nInfoValue:b\n\n")
-        << std::string("UTF-8")
-        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: a&#10;InfoBegin&#10;InfoKey:x\n"
-                       "InfoBegin\nInfoKey: Author\nInfoValue: b&#10;\n");
-    QTest::newRow("a file in the newer form is left to the tool")
-        << std::string("InfoBegin\nInfoKey: Title\nInfoValue: &#252;\n") << std::string("UTF-8")
-        << std::string();
-    QTest::newRow("another file is left to the tool")
-        << std::string("PageMediaBegin\n") << std::string("UTF-8") << std::string();
+        << utf8 << Words{"Title", "a\nInfoBegin\nInfoKey:x", "Author", "b\n"};
+    QTest::newRow("malformed text")
+        << std::string("InfoKey:Title\nInfoValue:a\xFFz\n") << utf8 << Words{"Title", "a\uFFFDz"};
+    QTest::newRow("empty") << std::string() << utf8 << Words{};
 }
 
-void PdftkRulesTest::infoFileBecomesLossless()
+void PdftkRulesTest::infoFileIsRead()
 {
     QFETCH(std::string, content);
     QFETCH(std::string, charset);
-    QFETCH(std::string, lossless);
-    QCOMPARE(losslessInfo(content, charset), lossless);
+    QFETCH(Words, entries);
+    Words found;
+    for (const InfoEntry &entry : infoEntries(content, charset))
+        found.insert(found.end(), {entry.key, entry.value});
+    QCOMPARE(found, entries);
+}
+
+void PdftkRulesTest::otherFilesAreNoInfoFiles()
+{
+    for (const char *content :
+         {"InfoBegin\nInfoKey: Title\nInfoValue: a\n", "PageMediaBegin\n", "InfoKey:Title\n", "\n"})
+        QVERIFY_THROWS_EXCEPTION(ToolError, infoEntries(content, "UTF-8"));
 }
 
 QTEST_APPLESS_MAIN(PdftkRulesTest)

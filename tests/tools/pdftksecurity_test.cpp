@@ -15,16 +15,9 @@ class PdftkSecurityTest : public QObject
 
 private slots:
     void initTestCase();
-    void eachPermissionAlone_data();
-    void eachPermissionAlone();
     void passwordsOpenTheResult_data();
     void passwordsOpenTheResult();
-    void refusedPasswordsFailAsTheToolFails_data();
-    void refusedPasswordsFailAsTheToolFails();
     void passwordsWithLineBreaksAreRefused();
-    void otherCallsWithPasswordsAreRefused();
-    void anyResultNameTakesPasswords_data();
-    void anyResultNameTakesPasswords();
     void permissionsWithoutPasswordEncryptNothing();
     void passwordsAreNowhereDuringTheCall();
     void passwordsAreNowhereAfterTheCall();
@@ -37,35 +30,11 @@ private:
 
 namespace {
 
-QByteArray encryptionOf(const QString &path, const QString &password)
+bool opens(const QString &reader, const QStringList &arguments)
 {
-    return runProgram(u"/usr/bin/qpdf"_s,
-                      {u"--show-encryption"_s, u"--password="_s + password, path}, QDir::tempPath())
-        .output;
-}
-
-// qpdf's lines of what is allowed, of those that pdftk's four words decide.
-QStringList allowedIn(const QByteArray &report)
-{
-    QStringList allowed;
-    for (const char *line : {"print high resolution", "extract for any purpose", "modify other",
-                             "modify annotations"}) {
-        if (report.contains(QByteArray(line) + ": allowed"))
-            allowed.append(QString::fromUtf8(line));
-    }
-    return allowed;
-}
-
-// Every process's arguments and environment, as far as this user may read them.
-QByteArray everythingInProc(const QString &own)
-{
-    QByteArray all;
-    for (const QString &process : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
-        if (process.toInt() > 0 && process != own)
-            all += contentOf(u"/proc/"_s + process + u"/cmdline"_s) +
-                   contentOf(u"/proc/"_s + process + u"/environ"_s);
-    }
-    return all;
+    return runProgram(u"/usr/bin/"_s + reader, arguments, QDir::tempPath(),
+                      {{u"LC_ALL"_s, u"C.UTF-8"_s}})
+               .status == 0;
 }
 
 } // namespace
@@ -82,110 +51,53 @@ RunResult PdftkSecurityTest::finish(const QStringList &tail, const Variables &va
                       m_folder.path(), variables);
 }
 
-void PdftkSecurityTest::eachPermissionAlone_data()
-{
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QStringList>("allowed");
-    QTest::newRow("none") << QStringList{} << QStringList{};
-    QTest::newRow("printing") << QStringList{u"printing"_s}
-                              << QStringList{u"print high resolution"_s};
-    QTest::newRow("copying") << QStringList{u"copycontents"_s}
-                             << QStringList{u"extract for any purpose"_s};
-    QTest::newRow("modifying") << QStringList{u"modifycontents"_s}
-                               << QStringList{u"modify other"_s};
-    QTest::newRow("commenting") << QStringList{u"modifyannotations"_s}
-                                << QStringList{u"modify annotations"_s};
-    QTest::newRow("all four") << QStringList{u"printing"_s, u"modifycontents"_s, u"copycontents"_s,
-                                             u"modifyannotations"_s}
-                              << QStringList{u"print high resolution"_s,
-                                             u"extract for any purpose"_s, u"modify other"_s,
-                                             u"modify annotations"_s};
-}
-
-void PdftkSecurityTest::eachPermissionAlone()
-{
-    QFETCH(QStringList, words);
-    QFETCH(QStringList, allowed);
-    QStringList tail = {u"owner_pw"_s, u"own"_s, u"user_pw"_s, u"use"_s};
-    for (const QString &word : words)
-        tail << u"allow"_s << word;
-    const RunResult result = finish(tail);
-    QCOMPARE(result.errors + result.output, QByteArray());
-    QCOMPARE(allowedIn(encryptionOf(m_folder.filePath(u"out.pdf"_s), u"use"_s)), allowed);
-    const PdfFacts facts = readPdf(m_folder.filePath(u"out.pdf"_s), "use");
-    QCOMPARE(facts.mayPrint, words.contains(u"printing"_s));
-    QCOMPARE(facts.mayCopy, words.contains(u"copycontents"_s));
-}
-
 void PdftkSecurityTest::passwordsOpenTheResult_data()
 {
-    QTest::addColumn<QString>("owner");
-    QTest::addColumn<QString>("user");
-    QTest::newRow("both") << "own"
-                          << "use";
-    QTest::newRow("an owner's alone") << "own"
-                                      << "";
-    QTest::newRow("a user's alone") << ""
-                                    << "use";
-    QTest::newRow("signs of all kinds") << "a\"b'c$(d)\\e;f"
-                                        << "-x=1&%s";
-    QTest::newRow("words of the tool") << "output"
-                                       << "allow";
-    QTest::newRow("the word for a question") << "PROMPT"
-                                             << "user_pw";
-    QTest::newRow("32 characters") << QString(32, u'o') << QString(32, u'u');
-    QTest::newRow("Latin-1 letters")
-        << QString::fromUtf8("\xC3\xBC\xC3\x9F") << QString::fromUtf8("\xC3\xA9");
+    QTest::addColumn<QString>("password");
+    const auto row = [](const char *name, const QString &password) {
+        QTest::newRow(name) << password;
+    };
+    row("signs of all kinds", u"a\"b'c$(d)\\e;f -x=1&%s"_s);
+    row("a word of the tool", u"allow"_s);
+    row("the word for a question", u"PROMPT"_s);
+    row("Latin", u"\u00fc\u00df\u00e9"_s);
+    row("Greek and Cyrillic", u"\u03bb\u044f\u0416"_s);
+    row("Arabic", u"\u0643\u0644\u0645\u0629"_s);
+    row("Hebrew", u"\u05e1\u05d9\u05e1\u05de\u05d4"_s);
+    row("Hebrew among Latin", u"a\u05d0b"_s);
+    row("Devanagari", u"\u0939\u093f\u0928\u094d\u0926\u0940"_s);
+    row("Thai", u"\u0e23\u0e2b\u0e31\u0e2a"_s);
+    row("Chinese", u"\u5bc6\u7801"_s);
+    row("Japanese", u"\u30d1\u30b9\u30ef\u30fc\u30c9"_s);
+    row("Korean", u"\ube44\ubc00"_s);
+    row("emoji", u"\U0001F511\U0001F512"_s);
+    row("as long as passwords get", QString(127, u'x'));
+    row("longer than passwords get", QString(200, u'x'));
+    row("a letter across the longest length", QString(64, u'\u00fc'));
 }
 
+// What three readers' password boxes hand over opens it, as the user's and as the owner's password;
+// another one does not.
 void PdftkSecurityTest::passwordsOpenTheResult()
 {
-    QFETCH(QString, owner);
-    QFETCH(QString, user);
-    for (const QString &locale : {u"C"_s, u"C.UTF-8"_s}) {
-        QStringList tail;
-        if (!owner.isEmpty())
-            tail << u"owner_pw"_s << owner;
-        if (!user.isEmpty())
-            tail << u"user_pw"_s << user;
-        const RunResult result = finish(tail, {{u"LC_ALL"_s, locale}});
+    QFETCH(QString, password);
+    for (const QStringList &tail : {QStringList{u"user_pw"_s, password},
+                                    QStringList{u"owner_pw"_s, u"o"_s, u"user_pw"_s, password},
+                                    QStringList{u"owner_pw"_s, password, u"user_pw"_s, u"u"_s}}) {
+        const RunResult result = finish(tail, {{u"LC_ALL"_s, u"C"_s}});
         QCOMPARE(result.errors + result.output, QByteArray());
         const QString path = m_folder.filePath(u"out.pdf"_s);
-        QCOMPARE(readPdf(path).needsPassword, !user.isEmpty());
-        QVERIFY(readPdf(path).encrypted);
-        // The standard security handler takes passwords in Latin-1.
-        QVERIFY(!readPdf(path, user.toLatin1()).needsPassword);
-        QVERIFY(!readPdf(path, owner.isEmpty() ? user.toLatin1() : owner.toLatin1()).needsPassword);
-        QVERIFY(user.isEmpty() || readPdf(path, "wrong").needsPassword);
+        QVERIFY(readPdf(path).needsPassword);
+        for (const QString &typed : {password, u"wrong"_s}) {
+            const bool right = typed == password;
+            // poppler 22.12 crashes at a longer one.
+            QCOMPARE(!readPdf(path, typed.toUtf8().left(127)).needsPassword, right);
+            QCOMPARE(opens(u"qpdf"_s, {u"--check"_s, u"--password="_s + typed, path}), right);
+            QCOMPARE(opens(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-F"_s, u"png"_s, u"-o"_s,
+                                         u"/dev/null"_s, u"-p"_s, typed, path}),
+                     right);
+        }
     }
-}
-
-void PdftkSecurityTest::refusedPasswordsFailAsTheToolFails_data()
-{
-    QTest::addColumn<QStringList>("tail");
-    QTest::newRow("a blank splits it") << QStringList{u"owner_pw"_s, u"two"_s, u"words"_s};
-    QTest::newRow("letters beyond Latin-1")
-        << QStringList{u"user_pw"_s, QString::fromUtf8("\xE6\x97\xA5")};
-    QTest::newRow("a tabulator") << QStringList{u"user_pw"_s, u"a\tb"_s};
-    QTest::newRow("the same one twice")
-        << QStringList{u"owner_pw"_s, u"gleich"_s, u"user_pw"_s, u"gleich"_s};
-    QTest::newRow("two owner's passwords")
-        << QStringList{u"owner_pw"_s, u"a1"_s, u"owner_pw"_s, u"a2"_s};
-}
-
-void PdftkSecurityTest::refusedPasswordsFailAsTheToolFails()
-{
-    QFETCH(QStringList, tail);
-    const RunResult plain = runProgram(u"/usr/bin/pdftk"_s,
-                                       QStringList{u"in.pdf"_s, u"output"_s, u"plain.pdf"_s} + tail,
-                                       m_folder.path(), {{u"LC_ALL"_s, u"C.UTF-8"_s}});
-    writeContent(m_folder.filePath(u"out.pdf"_s), "older");
-    const RunResult result = finish(tail);
-    QCOMPARE(result.status, plain.status);
-    QVERIFY(result.status > 0);
-    QCOMPARE(contentOf(m_folder.filePath(u"out.pdf"_s)), QByteArray("older"));
-    for (int i = 1; i < tail.size(); i += 2)
-        QVERIFY(!result.errors.contains(tail[i].toUtf8()));
 }
 
 void PdftkSecurityTest::passwordsWithLineBreaksAreRefused()
@@ -197,71 +109,30 @@ void PdftkSecurityTest::passwordsWithLineBreaksAreRefused()
     QCOMPARE(contentOf(m_folder.filePath(u"out.pdf"_s)), QByteArray("older"));
 }
 
-// A real tool that would show what it is given.
-void PdftkSecurityTest::otherCallsWithPasswordsAreRefused()
-{
-    const QStringList tool = shellTool(u"echo \"$@\""_s);
-    const ToolBundle bundle(tool, tool);
-    const QStringList call = {u"in.pdf"_s, u"cat"_s,      u"1"_s,     u"output"_s,
-                              u"x.pdf"_s,  u"owner_pw"_s, u"Geheim"_s};
-    const RunResult result = runProgram(bundle.tool(u"pdftk"_s), call, m_folder.path());
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.output, QByteArray());
-    QVERIFY2(result.errors.startsWith("pdftk: passwords are taken only behind"),
-             result.errors.constData());
-    const RunResult without = runProgram(bundle.tool(u"pdftk"_s), call.mid(0, 5), m_folder.path());
-    QCOMPARE(without.output, QByteArray("in.pdf cat 1 output x.pdf\n"));
-}
-
-void PdftkSecurityTest::anyResultNameTakesPasswords_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char *name : {"x.PDF", ".pdf", "-1.pdf", "x", "PROMPT", "x%d.pdf"})
-        QTest::newRow(name) << name;
-}
-
-void PdftkSecurityTest::anyResultNameTakesPasswords()
-{
-    QFETCH(QString, name);
-    const RunResult result = runBundled(
-        u"pdftk"_s,
-        {u"in.pdf"_s, u"output"_s, name, u"owner_pw"_s, u"own"_s, u"user_pw"_s, u"use"_s},
-        m_folder.path());
-    QCOMPARE(result.errors + result.output, QByteArray());
-    QVERIFY(!readPdf(m_folder.filePath(name), "use").needsPassword);
-    const RunResult again = runBundled(u"pdftk"_s, {name, u"output"_s, name}, m_folder.path());
-    QVERIFY2(again.errors.contains("PASSWORD REQUIRED"), again.errors.constData());
-}
-
 void PdftkSecurityTest::permissionsWithoutPasswordEncryptNothing()
 {
     QCOMPARE(finish({u"allow"_s, u"printing"_s, u"allow"_s, u"copycontents"_s}).status, 0);
     QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s)).encrypted);
 }
 
-// The process list as `ps` reads it, over and over while the JVM starts and works.
+// As `ps` reads it, while a large PDF is finished.
 void PdftkSecurityTest::passwordsAreNowhereDuringTheCall()
 {
+    const QTemporaryDir folder;
+    makeLargePdf(folder.filePath(u"in.pdf"_s));
     const std::unique_ptr<QProcess> call =
         startProgram(bundledTool(u"pdftk"_s),
                      {u"in.pdf"_s, u"output"_s, u"out.pdf"_s, u"owner_pw"_s, u"Geheim-Owner"_s,
                       u"user_pw"_s, u"Geheim-User"_s},
-                     m_folder.path());
-    QVERIFY(call->waitForStarted());
-    const QString own = QString::number(QCoreApplication::applicationPid());
-    // Ours needs a moment from its start to its first instruction, as any program does.
-    QTRY_VERIFY(!contentOf(u"/proc/"_s + QString::number(call->processId()) + u"/cmdline"_s)
-                     .contains("Geheim"));
-    int samples = 0, withRealTool = 0;
-    while (!call->waitForFinished(1)) {
-        const QByteArray all = everythingInProc(own);
-        QVERIFY(!all.contains("Geheim"));
-        withRealTool += all.contains("PROMPT") ? 1 : 0;
-        ++samples;
-    }
-    qInfo() << samples << "samples," << withRealTool << "with the real tool at work";
-    QVERIFY(withRealTool > 0);
-    QVERIFY(!readPdf(m_folder.filePath(u"out.pdf"_s), "Geheim-User").needsPassword);
+                     folder.path());
+    QTRY_VERIFY(isWriting(folder.path()));
+    const QString process = u"/proc/"_s + QString::number(call->processId());
+    const QByteArray arguments = contentOf(process + u"/cmdline"_s);
+    QVERIFY(arguments.contains("owner_pw"));
+    QVERIFY(!arguments.contains("Geheim"));
+    QVERIFY(!contentOf(process + u"/environ"_s).contains("Geheim"));
+    call->terminate();
+    QVERIFY(call->waitForFinished());
 }
 
 void PdftkSecurityTest::passwordsAreNowhereAfterTheCall()

@@ -215,8 +215,7 @@ Fates SandboxTest::fatesInImageTool() const
     const UserFiles files;
     lseek(m_secret.handle(), 0, SEEK_SET);
     const ToolBundle bundle(QStringList{QStringLiteral(TESSARO_HOSTILETOOL), u"input-1.bmp"_s} +
-                                knowledge(files),
-                            {u"/bin/false"_s});
+                            knowledge(files));
     const RunResult result = runProgram(
         bundle.tool(u"convert"_s),
         {files.path(u"in/own.bmp"_s), files.path(u"in/other.bmp"_s), files.path(u"out/o.pdf"_s)},
@@ -254,8 +253,7 @@ void SandboxTest::processLeftBehindIsEnded()
 {
     const QString word = u"left-behind-"_s + QString::number(QCoreApplication::applicationPid());
     const ToolBundle bundle(
-        shellTool(u"setsid /bin/sh -c 'while :; do echo x >&2; done' "_s + word + u" & exit 1"_s),
-        {u"/bin/false"_s});
+        shellTool(u"setsid /bin/sh -c 'while :; do echo x >&2; done' "_s + word + u" & exit 1"_s));
     const UserFiles files;
     const RunResult result =
         runProgram(bundle.tool(u"convert"_s),

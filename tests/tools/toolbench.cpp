@@ -86,7 +86,40 @@ QList<pid_t> processesWith(const QByteArray &word)
     return found;
 }
 
-ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool)
+void makeLargePdf(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray table = "0000000000 65535 f \n";
+    const auto begin = [&file, &table](const QByteArray &content) {
+        table += QByteArray::number(file.pos()).rightJustified(10, '0') + " 00000 n \n";
+        file.write(content);
+    };
+    file.write("%PDF-1.4\n");
+    begin("1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n");
+    begin("2 0 obj\n<< /Type /Pages /Count 1 /Kids [3 0 R] >>\nendobj\n");
+    QByteArray streams;
+    for (int number = 4; number < 104; ++number)
+        streams += QByteArray::number(number) + " 0 R ";
+    begin("3 0 obj\n<< /Type /Page /MediaBox [0 0 9 9] /Parent 2 0 R /Contents [" + streams +
+          "] >>\nendobj\n");
+    for (int number = 4; number < 104; ++number) {
+        begin(QByteArray::number(number) + " 0 obj\n<< /Length 20000000 >>\nstream\n");
+        file.seek(file.pos() + 20'000'000);
+        file.write("\nendstream\nendobj\n");
+    }
+    const QByteArray place = QByteArray::number(file.pos());
+    file.write("xref\n0 104\n" + table + "trailer\n<< /Size 104 /Root 1 0 R >>\nstartxref\n" +
+               place + "\n%%EOF\n");
+}
+
+bool isWriting(const QString &folder)
+{
+    const QStringList work = QDir(folder).entryList({u".tessaro-*"_s}, QDir::Dirs | QDir::Hidden);
+    return QFileInfo(folder + u'/' + work.value(0) + u"/result.pdf"_s).size() > 0;
+}
+
+ToolBundle::ToolBundle(const QStringList &convertTool)
 {
     QDir().mkpath(contents() + u"/MacOS"_s);
     for (const QString &folder :
@@ -100,7 +133,6 @@ ToolBundle::ToolBundle(const QStringList &convertTool, const QStringList &pdftkT
     if (convertTool.value(0) == shell)
         liftSandbox(u"convert"_s);
     writeContent(contents() + u"/Resources/convert.tool"_s, convertTool.join(u'\n').toUtf8());
-    writeContent(contents() + u"/Resources/pdftk.tool"_s, pdftkTool.join(u'\n').toUtf8());
 }
 
 // A wrapper in front of the program: its kernel seems to offer no sandbox.

@@ -47,13 +47,19 @@ std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList
 /// The processes whose arguments contain `word`, zombies (which have none) left out.
 QList<pid_t> processesWith(const QByteArray &word);
 
-/// A bundle of its own in a temporary folder: the two programs, and as their real tools what
-/// `convertTool` and `pdftkTool` say (words, one per line). A script starts other programs, which
-/// no sandbox lets it do: in front of one `convert` runs without.
+/// A PDF with a hundred streams of 20 MB each that take no room on the disk: what pdftk needs
+/// seconds for.
+void makeLargePdf(const QString &path);
+/// Whether our pdftk, at work on a PDF in `folder`, has written some of it.
+bool isWriting(const QString &folder);
+
+/// A bundle of its own in a temporary folder: the two programs, and the words of `convertTool`
+/// instead of ImageMagick. A script starts other programs, which no sandbox lets it do: in front of
+/// one `convert` runs without.
 class ToolBundle
 {
 public:
-    ToolBundle(const QStringList &convertTool, const QStringList &pdftkTool);
+    explicit ToolBundle(const QStringList &convertTool);
     QString contents() const { return m_folder.filePath(QStringLiteral("Tessaro.app/Contents")); }
     QString tool(const QString &name) const
     {

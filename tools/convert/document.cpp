@@ -2,17 +2,15 @@
 
 #include "copiedpages.h"
 #include "error.h"
-#include "filedescriptor.h"
+#include "fileoutput.h"
 
 #include <qpdf/ClosedFileInputSource.hh>
-#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 #include <qpdf/QUtil.hh>
 
 #include <algorithm>
-#include <cerrno>
 #include <ctime>
 #include <memory>
 #include <new>
@@ -48,50 +46,6 @@ void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
             dictionary.removeKey("/ColorSpace");
     });
 }
-
-// libqpdf's own way to a file takes no notice of a write that fails when a later one succeeds. It
-// also writes in destructors, so a failure here is told when everything has been handed over.
-class FileOutput : public Pipeline
-{
-public:
-    explicit FileOutput(int file)
-        : Pipeline("the PDF", nullptr)
-        , m_file(file)
-    {
-    }
-
-    void write(const unsigned char *data, size_t size) override
-    {
-        m_waiting.append(reinterpret_cast<const char *>(data), size);
-        if (m_waiting.size() >= blockSize)
-            pass();
-    }
-
-    void finish() override { pass(); }
-
-    /// To be called last.
-    void requireSuccess()
-    {
-        pass();
-        errno = m_error;
-        if (m_error != 0)
-            throw systemError("cannot write", "the PDF");
-    }
-
-private:
-    static constexpr size_t blockSize = size_t(256) * 1024;
-
-    void pass()
-    {
-        if (m_error == 0 && !writeAll(m_file, m_waiting))
-            m_error = errno;
-        m_waiting.clear();
-    }
-
-    int m_file;
-    int m_error = 0;
-    std::string m_waiting;
-};
 
 // libqpdf calls it some hundred times while it writes.
 class Check : public QPDFWriter::ProgressReporter

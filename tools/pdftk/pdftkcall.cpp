@@ -1,91 +1,120 @@
 #include "pdftkcall.h"
 
-#include "error.h"
-#include "passwordwords.h"
-#include "text.h"
-
 #include <algorithm>
+#include <array>
+#include <string_view>
+
+#include <strings.h>
 
 namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr const char *mask = "********";
-// pdftk 2.02 and pdftk-java 3.3.2 drop the rest, and print it.
-constexpr size_t longestPassword = 32;
-// What ends a line for the JVM (OpenJDK 17): the answer would be taken for two.
-constexpr std::u32string_view lineBreaks = U"\n\r\u0085\u2028\u2029";
-
-// How many words come before passwords and permissions; 0 for a call of another shape.
-size_t wordsBeforeTail(const Words &arguments)
+struct PermissionWord
 {
-    const size_t output = arguments.size() > 1 && arguments[1] == "update_info" ? 3 : 1;
-    const bool ours = arguments.size() >= output + 2 && arguments[output] == "output" &&
-                      !arguments[output + 1].empty() && arguments[output + 1] != "-";
-    return ours ? output + 2 : 0;
+    const char *word;
+    bool Permissions::*allowed;
+};
+
+// In the order in which the application gives them.
+constexpr std::array<PermissionWord, 4> permissionWords = {{
+    {"printing", &Permissions::printing},
+    {"modifycontents", &Permissions::modifyContents},
+    {"copycontents", &Permissions::copyContents},
+    {"modifyannotations", &Permissions::modifyAnnotations},
+}};
+
+constexpr std::array<const char *, 3> passwordKeywords = {"owner_pw", "user_pw", "input_pw"};
+
+bool equals(const std::string &word, const char *keyword)
+{
+    return strcasecmp(word.c_str(), keyword) == 0;
 }
 
-// The application hands over UTF-8 in every locale, a terminal the locale's charset.
-CodePoints typed(const std::string &word, const std::string &charset)
+bool isPasswordKeyword(const std::string &word)
 {
-    CodePoints text = decoded(word, "UTF-8");
-    return text.find(replacement) == text.npos ? text : decoded(word, charset);
+    return std::any_of(passwordKeywords.begin(), passwordKeywords.end(),
+                       [&word](const char *keyword) { return equals(word, keyword); });
 }
 
-std::string answerOf(const std::string &word, const std::string &charset)
+bool isPermissionWord(const std::string &word)
 {
-    const CodePoints password = typed(word, charset);
-    if (password.find_first_of(lineBreaks) != password.npos)
-        throw ToolError("a password must not hold a line break");
-    return encoded(password.substr(0, longestPassword));
+    return equals(word, "allow") ||
+           std::any_of(permissionWords.begin(), permissionWords.end(),
+                       [&word](const PermissionWord &known) { return equals(word, known.word); });
 }
 
-// pdftk-java 3.3.2 refuses equal passwords on its command line only; so that is where two equal
-// words stand for them.
-void refuseEqualPasswords(PdftkCall &call)
+bool isPdfName(std::string_view path)
 {
-    if (call.passwords.size() != 2 || call.passwords[0].answer != call.passwords[1].answer)
-        return;
-    std::replace(call.tail.begin(), call.tail.end(), std::string("PROMPT"), std::string(mask));
-    call.passwords.clear();
+    constexpr std::string_view extension = ".pdf";
+    return path.size() >= extension.size() &&
+           path.substr(path.size() - extension.size()) == extension;
 }
 
-void readTail(const Words &words, const std::string &charset, PdftkCall &call)
+class WordReader
 {
-    const std::vector<Role> roles = rolesOf(words);
-    for (size_t i = 0; i < words.size(); ++i) {
-        const bool open = roles[i] == Role::Shown || roles[i] == Role::Keyword;
-        const std::string question = roles[i] == Role::Password ? questionFor(words[i - 1]) : "";
-        if (!question.empty())
-            call.passwords.push_back({question, answerOf(words[i], charset)});
-        call.tail.push_back(open ? words[i] : question.empty() ? mask : "PROMPT");
+public:
+    explicit WordReader(const Words &words)
+        : m_words(words)
+    {
     }
-    refuseEqualPasswords(call);
-}
+
+    bool atEnd() const { return m_next == m_words.size(); }
+
+    std::string next() { return atEnd() ? "" : m_words[m_next++]; }
+
+    /// The word after `keyword`, if both come next.
+    std::optional<std::string> valueOf(const char *keyword)
+    {
+        if (m_words.size() - m_next < 2 || !equals(m_words[m_next], keyword) ||
+            m_words[m_next + 1].empty())
+            return std::nullopt;
+        m_next += 2;
+        return m_words[m_next - 1];
+    }
+
+    /// Whether "allow" and `permission` come next.
+    bool takesPermission(const char *permission)
+    {
+        if (m_words.size() - m_next < 2 || !equals(m_words[m_next], "allow") ||
+            !equals(m_words[m_next + 1], permission))
+            return false;
+        m_next += 2;
+        return true;
+    }
+
+private:
+    const Words &m_words;
+    size_t m_next = 0;
+};
 
 } // namespace
 
-std::optional<PdftkCall> parsePdftkCall(const Words &arguments, const std::string &charset)
+std::optional<PdftkCall> parsePdftkCall(const Words &arguments)
 {
-    const size_t before = wordsBeforeTail(arguments);
-    if (before == 0)
-        return std::nullopt;
+    WordReader words(arguments);
     PdftkCall call;
-    call.input = arguments[0];
-    call.infoFile = before > 3 ? arguments[2] : "";
-    call.output = arguments[before - 1];
-    readTail({arguments.begin() + static_cast<ptrdiff_t>(before), arguments.end()}, charset, call);
-    return call;
+    call.input = words.next();
+    call.infoFile = words.valueOf("update_info");
+    call.output = words.valueOf("output").value_or("");
+    call.ownerPassword = words.valueOf("owner_pw");
+    call.userPassword = words.valueOf("user_pw");
+    for (const PermissionWord &permission : permissionWords)
+        call.allowed.*permission.allowed = words.takesPermission(permission.word);
+    const bool complete = words.atEnd() && isPdfName(call.input) && isPdfName(call.output);
+    return complete ? std::optional(call) : std::nullopt;
 }
 
 Words maskedPdftkArguments(const Words &arguments)
 {
-    const auto before = static_cast<ptrdiff_t>(wordsBeforeTail(arguments));
-    const std::vector<Role> roles = rolesOf({arguments.begin() + before, arguments.end()});
     Words masked = arguments;
-    for (size_t i = 0; i < roles.size(); ++i) {
-        if (roles[i] == Role::Password || roles[i] == Role::Hidden)
-            masked[static_cast<size_t>(before) + i] = mask;
+    bool anyBefore = false, passwordNext = false;
+    for (std::string &word : masked) {
+        const bool keyword = !passwordNext && isPasswordKeyword(word);
+        if (passwordNext || (anyBefore && !keyword && !isPermissionWord(word)))
+            word = "********";
+        passwordNext = keyword;
+        anyBefore = anyBefore || keyword;
     }
     return masked;
 }

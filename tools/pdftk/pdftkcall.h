@@ -1,34 +1,41 @@
 #pragma once
 
-#include "subprocess.h"
-
 #include <optional>
 #include <string>
 #include <vector>
 
-/// A call of the application's shape: IN [update_info FILE] output OUT, then passwords and
-/// permissions.
+/// What a reader of an encrypted PDF may do without the owner password.
+struct Permissions
+{
+    bool printing = false;
+    bool modifyContents = false;
+    bool copyContents = false;
+    bool modifyAnnotations = false;
+};
+
+/// A call of the application:
+/// IN.pdf [update_info FILE] output OUT.pdf [owner_pw X] [user_pw Y] [allow WORD]...
 struct PdftkCall
 {
     std::string input;
-    /// "" when there is no description to write.
-    std::string infoFile;
+    std::optional<std::string> infoFile;
     std::string output;
-    /// The words after the output file, fit for a command line that everybody can see: PROMPT
-    /// stands for each password, and what can only be the rest of a password with a blank in it
-    /// is hidden too (the tool refuses it, hidden or not).
-    std::vector<std::string> tail;
-    /// The passwords, as answers to the tool's questions.
-    std::vector<Prompt> passwords;
+    /// As they stand on the command line, not empty.
+    std::optional<std::string> ownerPassword;
+    std::optional<std::string> userPassword;
+    Permissions allowed;
 };
 
-/// The call that `arguments` make, or nothing when they are of another shape. `charset` is what
-/// passwords are decoded from that are not UTF-8. Throws ToolError for a password with a line break
-/// in it, which the tool would cut short, and for one in a call of another shape, which the tool
-/// would show.
-std::optional<PdftkCall> parsePdftkCall(const std::vector<std::string> &arguments,
-                                        const std::string &charset);
+/// What the application calls, in a sentence.
+constexpr const char *pdftkUsage =
+    "usage: pdftk INPUT.pdf [update_info FILE] output OUTPUT.pdf [owner_pw PASSWORD] "
+    "[user_pw PASSWORD] [allow printing] [allow modifycontents] [allow copycontents] "
+    "[allow modifyannotations]";
 
-/// `arguments`, of any shape, as they may be shown: nothing after a password's keyword but words
-/// that pdftk itself has.
+/// The call that `arguments` make; nothing unless they are exactly of that form and in that order.
+/// Keywords are compared without regard to case, as pdftk 2.02 and pdftk-java 3.3.2 do.
+std::optional<PdftkCall> parsePdftkCall(const std::vector<std::string> &arguments);
+
+/// `arguments`, of any form, as they may be shown: stars for each password, and for every other
+/// word after the first one that is no keyword, as it may be the rest of a password with a blank.
 std::vector<std::string> maskedPdftkArguments(const std::vector<std::string> &arguments);

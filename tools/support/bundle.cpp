@@ -4,25 +4,11 @@
 #include "text.h"
 
 #include <climits>
-#include <optional>
-#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-// A start-up archive that was cut off, by a full disk perhaps, ends OpenJDK 17 by SIGBUS.
-std::optional<std::string> wordOf(const std::string &line)
-{
-    const size_t word = line.find('\t'), file = line.rfind('\t');
-    if (word == std::string::npos)
-        return line;
-    struct stat status = {};
-    const bool counts = stat(line.substr(word + 1, file - word - 1).c_str(), &status) == 0 &&
-                        std::to_string(status.st_size) == line.substr(file + 1);
-    return counts ? std::optional(line.substr(0, word)) : std::nullopt;
-}
 
 std::string programFolder()
 {
@@ -63,15 +49,8 @@ void requirePolicy()
 
 std::vector<std::string> realCommand(const std::string &name)
 {
-    static const std::string placeholder = "@Resources@";
-    const std::string resources = resourcesFolder();
-    const std::string file = resources + "/" + name + ".tool";
-    std::vector<std::string> words;
-    for (std::string &line : linesOf(readFile(file).value_or(""))) {
-        replaceAll(line, placeholder, resources);
-        if (std::optional<std::string> word = wordOf(line))
-            words.push_back(std::move(*word));
-    }
+    const std::string file = resourcesFolder() + "/" + name + ".tool";
+    std::vector<std::string> words = linesOf(readFile(file).value_or(""));
     if (words.empty())
         throw ToolError("cannot read '" + file + "'; run packaging/assemble-tools again");
     return words;

@@ -14,8 +14,6 @@ std::string policyFolder();
 /// it everything would be allowed.
 void requirePolicy();
 
-/// The words that start the real tool `name`, one per line of Resources/<name>.tool, where
-/// "@Resources@" stands for the folder itself. A line of three fields, separated by tabs, holds a
-/// word, a file and a size: the word counts only while the file has that many bytes. Written by
-/// packaging/assemble-tools. Throws ToolError when the file is missing or empty.
+/// The words that start the real tool `name`, one per line of Resources/<name>.tool, which
+/// packaging/assemble-tools writes. Throws ToolError when the file is missing or empty.
 std::vector<std::string> realCommand(const std::string &name);

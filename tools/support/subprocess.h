@@ -11,13 +11,6 @@
 
 #include <sys/resource.h>
 
-/// An answer to be written to the child's standard input once its standard output has asked.
-struct Prompt
-{
-    std::string question;
-    std::string answer;
-};
-
 struct ResourceLimit
 {
     __rlimit_resource resource;
@@ -41,8 +34,6 @@ struct ChildSpec
     std::chrono::seconds deadline{0};
     std::vector<ResourceLimit> limits;
     std::optional<Sandbox> sandbox;
-    /// All that the child can read.
-    std::vector<Prompt> prompts;
 };
 
 struct ChildResult

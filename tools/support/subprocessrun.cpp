@@ -42,7 +42,6 @@ pid_t forkWithDescriptor(int &descriptor)
 
 ChildProcess::ChildProcess(ChildSpec spec)
     : m_spec(std::move(spec))
-    , m_unanswered(m_spec.prompts)
 {
     if (m_spec.deadline.count() > 0)
         m_deadline = Clock::now() + m_spec.deadline;
@@ -91,8 +90,7 @@ void ChildProcess::start()
     m_errors.end = std::move(m_errorPipe.readEnd);
     for (const Stream *stream : {&m_output, &m_errors})
         fcntl(stream->end.get(), F_SETFL, O_NONBLOCK);
-    if (m_unanswered.empty())
-        m_inputPipe.writeEnd.close();
+    m_inputPipe.writeEnd.close();
 }
 
 void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environment)
@@ -138,33 +136,11 @@ std::array<pollfd, 2> ChildProcess::watched() const
 
 void ChildProcess::step(const std::array<pollfd, 2> &seen)
 {
-    if (seen[0].revents != 0) {
+    if (seen[0].revents != 0)
         m_output.readSome();
-        answer();
-    }
     if (seen[1].revents != 0)
         m_errors.readSome();
     enforceTime();
-}
-
-// pdftk-java 3.3.2 asks for one password after the other, and crashes on a second answer that is
-// there before its question; so each waits for its own.
-void ChildProcess::answer()
-{
-    while (!m_unanswered.empty()) {
-        const auto asked = [this](const Prompt &prompt) {
-            return m_result.output.find(prompt.question, m_searched) != std::string::npos;
-        };
-        const auto prompt = std::find_if(m_unanswered.begin(), m_unanswered.end(), asked);
-        if (prompt == m_unanswered.end())
-            return;
-        m_searched = m_result.output.find(prompt->question, m_searched) + prompt->question.size();
-        const std::string line = prompt->answer + "\n";
-        [[maybe_unused]] const ssize_t written =
-            write(m_inputPipe.writeEnd.get(), line.data(), line.size());
-        m_unanswered.erase(prompt);
-    }
-    m_inputPipe.writeEnd.close();
 }
 
 void ChildProcess::send(int signal) const

@@ -53,7 +53,6 @@ private:
     [[noreturn]] void becomeChild(pid_t parent, char **arguments, char **environment);
     void connectStreams();
     void send(int signal) const;
-    void answer();
     void enforceTime();
     void drain();
 
@@ -62,8 +61,6 @@ private:
     Pipe m_inputPipe, m_outputPipe, m_errorPipe;
     Stream m_output{FileDescriptor(), &m_result.output};
     Stream m_errors{FileDescriptor(), &m_result.errors};
-    std::vector<Prompt> m_unanswered;
-    size_t m_searched = 0;
     pid_t m_child = -1;
     FileDescriptor m_descriptor;
     std::optional<Clock::time_point> m_deadline, m_killAt;
