@@ -137,6 +137,7 @@ private:
     void replaceByPdftkOutput();
     QProcess *startTool(const QString &command);
 
+    // NOLINTBEGIN(readability-identifier-naming): these names are fixed
     int fileindex = 0;
     QString lastpdftkin;
     QString lastpdftkout;
@@ -150,4 +151,5 @@ private:
     PreviewPicture preview;
     AboutDialog aboutdialog;
     int pageindex = 0;
+    // NOLINTEND(readability-identifier-naming)
 };

@@ -39,7 +39,7 @@ class IconFileEngine : public QIconEngine
 {
 public:
     explicit IconFileEngine(const QString &path)
-        : file(path)
+        : m_file(path)
     {
     }
 
@@ -51,7 +51,7 @@ public:
         readDirectory();
         // A window's icon is handed to the display in all of these before the window is shown, and
         // no window manager shows more.
-        QList<QSize> listed = sizes;
+        QList<QSize> listed = m_sizes;
         listed.removeIf([](QSize size) { return size.width() > largestListed; });
         return listed;
     }
@@ -75,15 +75,15 @@ public:
 private:
     void readDirectory()
     {
-        if (!content.isEmpty())
+        if (!m_content.isEmpty())
             return;
-        content = contentOf(file);
-        if (content.size() < headerSize)
+        m_content = contentOf(m_file);
+        if (m_content.size() < headerSize)
             return;
-        const int count = qFromLittleEndian<quint16>(content.constData() + 4);
-        for (int entry = 0; entry < count && entryAt(entry + 1) <= content.size(); ++entry) {
-            const char *fields = content.constData() + entryAt(entry);
-            sizes << QSize(sideOf(fields[0]), sideOf(fields[1]));
+        const int count = qFromLittleEndian<quint16>(m_content.constData() + 4);
+        for (int entry = 0; entry < count && entryAt(entry + 1) <= m_content.size(); ++entry) {
+            const char *fields = m_content.constData() + entryAt(entry);
+            m_sizes << QSize(sideOf(fields[0]), sideOf(fields[1]));
         }
     }
 
@@ -98,27 +98,27 @@ private:
                 return covers;
             return covers ? area(one) < area(other) : area(one) > area(other);
         };
-        const auto found = std::min_element(sizes.cbegin(), sizes.cend(), suits);
-        return found == sizes.cend() ? QIcon() : entryIcon(found - sizes.cbegin());
+        const auto found = std::min_element(m_sizes.cbegin(), m_sizes.cend(), suits);
+        return found == m_sizes.cend() ? QIcon() : entryIcon(found - m_sizes.cbegin());
     }
 
     // Qt's own engine then shrinks the picture and greys it when disabled.
     QIcon entryIcon(qsizetype entry)
     {
-        QIcon &icon = decoded[entry];
+        QIcon &icon = m_decoded[entry];
         if (icon.isNull()) {
-            const char *fields = content.constData() + entryAt(entry);
+            const char *fields = m_content.constData() + entryAt(entry);
             const auto length = qFromLittleEndian<quint32>(fields + 8);
             const auto offset = qFromLittleEndian<quint32>(fields + 12);
-            icon.addPixmap(QPixmap::fromImage(pngImage(content.mid(offset, length))));
+            icon.addPixmap(QPixmap::fromImage(pngImage(m_content.mid(offset, length))));
         }
         return icon;
     }
 
-    QString file;
-    QByteArray content;
-    QList<QSize> sizes;
-    QHash<qsizetype, QIcon> decoded;
+    QString m_file;
+    QByteArray m_content;
+    QList<QSize> m_sizes;
+    QHash<qsizetype, QIcon> m_decoded;
 };
 
 } // namespace
