@@ -78,9 +78,6 @@ private slots:
     void startsAtOnceAllSucceed();
     void eachWindowHasAFolderOfItsOwn();
     void foldersOfClosedWindowsAreUsedAgain();
-    void firstSettingsNameTheUsersFolders_data();
-    void firstSettingsNameTheUsersFolders();
-    void settingsAreKept();
     void failuresArePassedOn_data();
     void failuresArePassedOn();
     void failureLeavesNoBundle();
@@ -146,6 +143,7 @@ Ended LauncherTest::run(const Variables &variables, const QStringList &words) co
 void LauncherTest::programIsACopyAndTheRestAreLinks()
 {
     run(home());
+    QVERIFY(QFile::exists(path(u"home/.local/share/tessaro/setting.ini"_s)));
     const QString installed = m_prefix + u"/lib/tessaro/Tessaro.app/Contents/"_s;
     QVERIFY(S_ISREG(statusOf(own(u"MacOS/tessaro"_s)).st_mode));
     for (const QString &link : {u"MacOS/convert"_s, u"Plugins"_s, u"Resources"_s})
@@ -324,57 +322,6 @@ void LauncherTest::foldersOfClosedWindowsAreUsedAgain()
     second.first->closeWriteChannel();
     QVERIFY(second.first->waitForFinished());
     QCOMPARE(openWindow().second, u"window-2/"_s);
-}
-
-void LauncherTest::firstSettingsNameTheUsersFolders_data()
-{
-    QTest::addColumn<QByteArray>("configured");
-    QTest::addColumn<QStringList>("folders");
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");
-    const QStringList usual = {u"Pictures"_s, u"Documents"_s};
-    QTest::newRow("the usual folders")
-        << QByteArray() << usual << u"/Pictures"_s << u"/Documents"_s;
-    QTest::newRow("no such folders") << QByteArray() << QStringList() << u""_s << u""_s;
-    QTest::newRow("folders of another language")
-        << QByteArray("# made by hand\nXDG_PICTURES_DIR=\"$HOME/Bilder & \xc3\x84hnliches\"\n"
-                      "XDG_DOCUMENTS_DIR=\"$HOME/a \\\"b\\\" \\\\c, d;e\"\n")
-        << usual + QStringList{u"Bilder & \u00c4hnliches"_s, u"a \"b\" \\c, d;e"_s}
-        << u"/Bilder & \u00c4hnliches"_s << u"/a \"b\" \\c, d;e"_s;
-    QTest::newRow("a configured folder that is gone")
-        << QByteArray("XDG_PICTURES_DIR=\"$HOME/gone\"\n") << usual << u""_s << u"/Documents"_s;
-    QTest::newRow("nonsense") << QByteArray("XDG_PICTURES_DIR=\nXDG_DOCUMENTS_DIR=\"here\"\n")
-                              << usual << u"/Pictures"_s << u"/Documents"_s;
-}
-
-void LauncherTest::firstSettingsNameTheUsersFolders()
-{
-    QFETCH(QByteArray, configured);
-    QFETCH(QStringList, folders);
-    const QString home = path(u"home"_s);
-    for (const QString &folder : folders)
-        QVERIFY(QDir(home).mkpath(folder));
-    QVERIFY(QDir(home).mkpath(u".config"_s));
-    QFile file(home + u"/.config/user-dirs.dirs"_s);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(configured) == configured.size());
-    file.close();
-    QCOMPARE(run(this->home()).status, 7);
-    const QSettings settings(home + u"/.local/share/tessaro/setting.ini"_s, QSettings::IniFormat);
-    QFETCH(QString, input);
-    QFETCH(QString, output);
-    QCOMPARE(settings.value(u"dir/input"_s).toString(), home + input);
-    QCOMPARE(settings.value(u"dir/output"_s).toString(), home + output);
-}
-
-void LauncherTest::settingsAreKept()
-{
-    run(home());
-    QFile settings(path(u"home/.local/share/tessaro/setting.ini"_s));
-    QVERIFY(settings.open(QIODevice::WriteOnly) && settings.write("[dir]\n") > 0);
-    settings.close();
-    run(home());
-    QVERIFY(settings.open(QIODevice::ReadOnly));
-    QCOMPARE(settings.readAll(), QByteArray("[dir]\n"));
 }
 
 void LauncherTest::failuresArePassedOn_data()
