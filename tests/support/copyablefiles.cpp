@@ -179,15 +179,17 @@ void addPngs(QList<CopyableFile> &files)
                 {kind + density.name,
                  png({type, 8, {40, 30}, false, {physical(density.x, density.y, density.unit)}}),
                  density.isCopied});
+        // ImageMagick 6.9.11 does not respect the orientation of a PNG file.
         for (const Exif &density : exifDensities)
-            files.append(
-                {kind + "EXIF " + density.name,
-                 png({type,
-                      8,
-                      {40, 30},
-                      false,
-                      {physical(5000, 5000, 1), chunk("eXIf", exifBlock(density.fields))}}),
-                 density.isCopied && density.fields.x < 0});
+            if (density.fields.orientation < 0)
+                files.append(
+                    {kind + "EXIF " + density.name,
+                     png({type,
+                          8,
+                          {40, 30},
+                          false,
+                          {physical(5000, 5000, 1), chunk("eXIf", exifBlock(density.fields))}}),
+                     density.isCopied && density.fields.x < 0});
     }
 }
 
@@ -208,8 +210,7 @@ void addTiffs(QList<CopyableFile> &files)
     for (int orientation = 1; orientation <= 8; ++orientation) {
         TiffForm form;
         form.orientation = orientation;
-        files.append(
-            {"TIFF, orientation " + QByteArray::number(orientation), tiff(form), orientation == 1});
+        files.append({"TIFF, orientation " + QByteArray::number(orientation), tiff(form), true});
     }
 }
 

@@ -118,7 +118,7 @@ void TiffPagesTest::isCopiedOrLeftToImageMagick_data()
     row("Group 3", with(&TiffForm::compression, 3), false);
     row("LZW", with(&TiffForm::compression, 5), false);
     row("a name, which ImageMagick prints", with(&TiffForm::pageName, "Page"), false);
-    row("turned", with(&TiffForm::orientation, 6), false);
+    row("turned", with(&TiffForm::orientation, 6), true);
     row("a page of several", with(&TiffForm::subfileType, 2), true);
     row("a reduced image", with(&TiffForm::subfileType, 1), false);
     row("a transparency mask", with(&TiffForm::subfileType, 4), false);

@@ -186,7 +186,8 @@ void ToolFailuresTest::realToolSeesPlainNames()
         runProgram(bundle.tool(u"convert"_s),
                    {u"-rotate"_s, u"90"_s, u"a %d[0].png"_s, u"-5%.pdf"_s}, folder.path());
     // The tool was given "input-1.png"; the name is put back.
-    QCOMPARE(result.errors, QByteArray("a %d[0].png -rotate 90 +profile !icc,!icm,* +set comment "
+    QCOMPARE(result.errors, QByteArray("a %d[0].png -auto-orient -background white -rotate 90 "
+                                       "+repage +profile !icc,!icm,* +set comment "
                                        "+set label pdf:page.pdf\ncontent\n"));
 }
 

@@ -7,6 +7,7 @@
 #include <qpdf/Pipeline.hh>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include <fcntl.h>
@@ -80,11 +81,28 @@ Handle parmsOf(const CopyablePage &page)
     return parms;
 }
 
+// The matrices that put the unit square of an image of each orientation upright into itself.
+constexpr std::array<std::array<int, 6>, 8> uprightMatrices = {{
+    {1, 0, 0, 1, 0, 0},
+    {-1, 0, 0, 1, 1, 0},
+    {-1, 0, 0, -1, 1, 1},
+    {1, 0, 0, -1, 0, 1},
+    {0, -1, -1, 0, 1, 1},
+    {0, -1, 1, 0, 0, 1},
+    {0, 1, 1, 0, 0, 0},
+    {0, 1, -1, 0, 1, 0},
+}};
+
 std::string drawing(const CopyablePage &page)
 {
-    const auto number = [](double value) { return Handle::newReal(value).unparse(); };
-    return "q\n" + number(page.pageWidth) + " 0 0 " + number(page.pageHeight) +
-           " 0 0 cm\n/Im0 Do\nQ\n";
+    std::string result = "q\n";
+    bool isX = true;
+    for (const int factor : uprightMatrices.at(static_cast<size_t>(page.orientation - 1))) {
+        const double side = isX ? page.pageWidth : page.pageHeight;
+        result += (factor == 0 ? "0" : Handle::newReal(factor * side).unparse()) + " ";
+        isX = !isX;
+    }
+    return result + "cm\n/Im0 Do\nQ\n";
 }
 
 Handle dictionaryOf(const std::map<std::string, Handle> &items)

@@ -20,7 +20,9 @@ struct CopyablePage
     /// Pixels of the image as stored.
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    /// Points, as ImageMagick would make the page.
+    /// How the stored image lies, from 1 (upright) to 8, as in EXIF.
+    int orientation = 1;
+    /// Points of the upright page, as ImageMagick would make it.
     double pageWidth = 0;
     double pageHeight = 0;
     int bitsPerComponent = 8;
@@ -39,6 +41,12 @@ struct CopyablePage
     /// One after the other they are the stream. No byte of them is metadata.
     std::vector<Extent> extents;
 };
+
+/// Whether an image of this orientation lies on its side.
+constexpr bool swapsSides(int orientation)
+{
+    return orientation > 4;
+}
 
 /// The compressions of pages that are copied, and all others.
 enum class Compression { Jpeg, Zip, Group4, Other };

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -49,4 +50,6 @@ void setPageSize(CopyablePage &page, const Density &density)
     const bool known = density.x != 0 && density.y != 0;
     page.pageWidth = side(page.width, known ? density.x : pointsPerInch, density.unit);
     page.pageHeight = side(page.height, known ? density.y : pointsPerInch, density.unit);
+    if (swapsSides(page.orientation))
+        std::swap(page.pageWidth, page.pageHeight);
 }

@@ -15,5 +15,6 @@ struct Density
 /// ImageMagick's policy refuses an image with a longer side (tools/policy/limits.xml).
 constexpr std::uint32_t maxSide = 32000;
 
-/// Sets the page's size to what ImageMagick 6.9.11 and 7.1.1 write for its pixels at this density.
+/// Sets the size of the page, whose pixels and orientation are known, to what ImageMagick 6.9.11
+/// and 7.1.1 write for its pixels at this density.
 void setPageSize(CopyablePage &page, const Density &density);

@@ -6,6 +6,7 @@
 #include "jpegsoundness.h"
 #include "pngpage.h"
 #include "tiffpages.h"
+#include "webporientation.h"
 
 #include <algorithm>
 #include <array>
@@ -38,15 +39,15 @@ ImagePlan readJpeg(Source &source)
     JpegImage image = readJpegImage(source.bytes, source.spool);
     if (image.page && source.mayCopy && isSoundJpeg(source.file))
         return CopiedImage{{std::move(*image.page)}};
-    return ConvertedImage{ImageKind::Jpeg, 1, image.size};
+    return ConvertedImage{ImageKind::Jpeg, 1, image.size, image.orientation};
 }
 
 ImagePlan readPng(Source &source)
 {
-    std::optional<CopyablePage> page = pngPage(source.bytes, source.spool);
-    if (page && source.mayCopy)
-        return CopiedImage{{std::move(*page)}};
-    return ConvertedImage{ImageKind::Png};
+    PngImage image = readPngImage(source.bytes, source.spool);
+    if (image.page && source.mayCopy)
+        return CopiedImage{{std::move(*image.page)}};
+    return ConvertedImage{ImageKind::Png, 1, {}, image.orientation};
 }
 
 ImagePlan readTiff(Source &source)
@@ -57,6 +58,11 @@ ImagePlan readTiff(Source &source)
     return ConvertedImage{ImageKind::Tiff, image.pages};
 }
 
+ImagePlan readWebp(Source &source)
+{
+    return ConvertedImage{ImageKind::Webp, 1, {}, webpOrientation(source.bytes)};
+}
+
 struct Format
 {
     std::string_view signature;
@@ -64,7 +70,7 @@ struct Format
     ImagePlan (*read)(Source &);
 };
 
-constexpr std::array<Format, 9> formats = {{
+constexpr std::array<Format, 10> formats = {{
     {"\xFF\xD8\xFF"sv, Compression::Jpeg, readJpeg},
     {"\x89PNG\r\n\x1A\n"sv, Compression::Zip, readPng},
     {"II\x2A\0"sv, Compression::Group4, readTiff},
@@ -73,6 +79,7 @@ constexpr std::array<Format, 9> formats = {{
     {"MM\0\x2B"sv, Compression::Group4, readTiff},
     {"GIF87a"sv, Compression::Other, readGif},
     {"GIF89a"sv, Compression::Other, readGif},
+    {"RIFF"sv, Compression::Other, readWebp},
     {""sv, Compression::Other, readOther},
 }};
 

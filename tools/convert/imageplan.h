@@ -5,10 +5,11 @@
 #include "spool.h"
 
 #include <cstddef>
+#include <optional>
 #include <variant>
 #include <vector>
 
-enum class ImageKind { Jpeg, Png, Tiff, Gif, Other };
+enum class ImageKind { Jpeg, Png, Tiff, Gif, Webp, Other };
 
 /// An image whose pages are copied.
 struct CopiedImage
@@ -24,6 +25,8 @@ struct ConvertedImage
     std::size_t images = 1;
     /// Of a JPEG file as stored; zero when it has no readable header.
     PixelSize size = {};
+    /// As we read it; nothing where ImageMagick reads it well.
+    std::optional<int> orientation = {};
 };
 
 using ImagePlan = std::variant<CopiedImage, ConvertedImage>;

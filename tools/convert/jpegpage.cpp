@@ -89,7 +89,7 @@ private:
     // The payloads that state a density.
     std::optional<Density> m_photoshop;
     std::optional<std::string> m_jfif;
-    std::optional<std::string> m_exif;
+    std::optional<ExifFacts> m_exif;
     bool m_xmpStatesDensity = false;
     std::uint64_t m_markerStart = 0;
     bool m_doubtful = false;
@@ -112,7 +112,7 @@ JpegImage JpegWalk::image()
     while (marker != endOfImage) {
         // JPEG-LS hides other bytes than JPEG does: its scans cannot be walked over.
         if (marker == losslessLs)
-            return {};
+            return {{}, m_page.orientation, {}};
         segment(marker);
         marker = marker == startOfScan ? markerAfterScan() : nextMarker();
     }
@@ -121,7 +121,7 @@ JpegImage JpegWalk::image()
     keep(m_markerStart);
     finish();
     const PixelSize size = {m_page.width, m_page.height};
-    return {size, m_doubtful ? std::nullopt : std::optional(std::move(m_page))};
+    return {size, m_page.orientation, m_doubtful ? std::nullopt : std::optional(std::move(m_page))};
 }
 
 // Leaves out fill bytes; decoders skip other bytes between segments and warn.
@@ -272,7 +272,7 @@ Density JpegWalk::density()
         if (unit == 2)
             result.unit = Density::Unit::Centimetre;
     }
-    const ExifFacts facts = m_exif ? readExif(*m_exif) : ExifFacts{};
+    const ExifFacts facts = m_exif.value_or(ExifFacts());
     // Without EXIF's, each version takes something else from XMP's.
     m_doubtful |= facts.isDoubtful || (m_xmpStatesDensity && !facts.density);
     return facts.density.value_or(result);
@@ -285,7 +285,8 @@ void JpegWalk::takeApplication1(const std::string &bytes)
     if (bytes.size() >= exif.size() &&
         std::equal(word.begin(), word.end(), bytes.begin(), sameLetter)) {
         m_doubtful |= m_exif || !bytes.starts_with(exif);
-        m_exif = bytes.substr(exif.size());
+        m_exif = readExif(bytes.substr(exif.size()));
+        m_page.orientation = m_exif->orientation;
     } else {
         m_xmpStatesDensity |= xmpStatesDensity(bytes);
         m_doubtful |= xmpOverridesExif(bytes);

@@ -11,6 +11,7 @@ struct JpegImage
 {
     /// As stored; zero when the file has no readable header.
     PixelSize size;
+    int orientation = 1;
     /// Nothing when ImageMagick has to convert it.
     std::optional<CopyablePage> page;
 };

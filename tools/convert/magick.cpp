@@ -4,6 +4,8 @@
 #include "environment.h"
 #include "jpegscaling.h"
 
+#include <array>
+
 namespace {
 
 // ImageMagick itself stops at its time limit where it looks at the clock; inside a decoder it
@@ -14,6 +16,17 @@ std::string sizeText(PixelSize size)
 {
     return std::to_string(size.width) + "x" + std::to_string(size.height);
 }
+
+PixelSize turned(PixelSize size, bool isTurned)
+{
+    return isTurned ? PixelSize{size.height, size.width} : size;
+}
+
+// ImageMagick's names, from 1 on.
+constexpr std::array<const char *, 8> orientations = {
+    "TopLeft", "TopRight", "BottomRight", "BottomLeft",
+    "LeftTop", "RightTop", "RightBottom", "LeftBottom",
+};
 
 } // namespace
 
@@ -60,21 +73,30 @@ std::vector<std::string> pageArguments(const ConvertOptions &options, const Conv
     const auto add = [&arguments](std::initializer_list<std::string> words) {
         arguments.insert(arguments.end(), words);
     };
+    const bool isTurned = image.orientation && swapsSides(*image.orientation);
     const std::optional<JpegScaling> scaling =
-        options.resize ? jpegScaling(*options.resize, image.size) : std::nullopt;
+        options.resize ? jpegScaling(*options.resize, turned(image.size, isTurned)) : std::nullopt;
     if (scaling)
-        add({"-define", "jpeg:size=" + sizeText(scaling->decoded)});
+        add({"-define", "jpeg:size=" + sizeText(turned(scaling->decoded, isTurned))});
     add({input});
+    // The frames of an animation may hold what changes alone.
+    if (image.kind == ImageKind::Gif)
+        add({"-coalesce"});
+    if (image.orientation)
+        add({"-orient", orientations.at(static_cast<size_t>(*image.orientation - 1))});
+    add({"-auto-orient"});
     if (scaling)
         add({"-resize", sizeText(scaling->result) + "!"});
     else if (options.resize)
         add({"-resize", sizeText(*options.resize)});
     if (!options.rotate.empty())
-        add({"-rotate", options.rotate});
+        add({"-background", "white", "-rotate", options.rotate});
     if (!options.compress.empty())
         add({"-compress", options.compress});
     if (options.monochrome)
         add({"-monochrome"});
-    add({"+profile", "!icc,!icm,*", "+set", "comment", "+set", "label", "pdf:" + result});
+    // An offset on a canvas would move the image on its page.
+    add({"+repage", "+profile", "!icc,!icm,*", "+set", "comment", "+set", "label",
+         "pdf:" + result});
     return arguments;
 }

@@ -10,6 +10,7 @@
 
 namespace {
 
+constexpr std::uint16_t tagOrientation = 0x0112;
 constexpr std::uint16_t tagXResolution = 0x011A;
 constexpr std::uint16_t tagYResolution = 0x011B;
 constexpr std::uint16_t tagResolutionUnit = 0x0128;
@@ -19,6 +20,11 @@ constexpr std::uint16_t typeShort = 3;
 constexpr std::uint16_t typeRational = 5;
 constexpr std::array<std::uint32_t, 13> typeSizes = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
 constexpr std::size_t entrySize = 12;
+
+int orientationOf(std::uint32_t value)
+{
+    return value >= 1 && value <= 8 ? static_cast<int>(value) : 1;
+}
 
 // The directories of an EXIF block. Entries that ImageMagick gives up at make it doubtful.
 class Exif
@@ -33,7 +39,7 @@ public:
     ExifFacts read()
     {
         if (!readDirectories())
-            return {std::nullopt, true};
+            return {std::nullopt, m_orientation, true};
         return facts();
     }
 
@@ -98,6 +104,8 @@ private:
             return false;
         if (std::find(directoryTags.begin(), directoryTags.end(), tag) != directoryTags.end())
             m_further.push_back(number32(at + 8));
+        if (tag == tagOrientation && isFirst && type == typeShort && count == 1)
+            m_orientation = orientationOf(number16(at + 8));
         if (tag != tagXResolution && tag != tagYResolution && tag != tagResolutionUnit)
             return true;
         if (!isFirst) {
@@ -127,14 +135,15 @@ private:
         constexpr std::array units = {Density::Unit::None, Density::Unit::Inch,
                                       Density::Unit::Centimetre};
         if (!m_x && !m_y && !m_unit)
-            return {std::nullopt, m_statedElsewhere};
+            return {std::nullopt, m_orientation, m_statedElsewhere};
         if (!m_x || !m_y || !m_unit || *m_unit < 1 || *m_unit > units.size())
-            return {std::nullopt, true};
-        return {Density{*m_x, *m_y, units[*m_unit - 1]}, false};
+            return {std::nullopt, m_orientation, true};
+        return {Density{*m_x, *m_y, units[*m_unit - 1]}, m_orientation, false};
     }
 
     const std::string &m_block;
     bool m_littleEndian;
+    int m_orientation = 1;
     std::vector<std::size_t> m_further;
     std::optional<double> m_x;
     std::optional<double> m_y;

@@ -11,6 +11,8 @@ struct ExifFacts
 {
     /// Of the three fields of density, which override what other blocks state.
     std::optional<Density> density;
+    /// From 1 (upright) to 8; 1 as well when the block is broken.
+    int orientation = 1;
     /// The two versions differ, or the block is not of the form that writers give it.
     bool isDoubtful = false;
 };

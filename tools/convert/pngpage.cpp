@@ -53,7 +53,7 @@ public:
     {
     }
 
-    std::optional<CopyablePage> page();
+    PngImage image();
 
 private:
     struct ChunkRule
@@ -113,7 +113,7 @@ const std::array<PngWalk::ChunkRule, 17> PngWalk::rules = {{
     {"iTXt", &PngWalk::text},
 }};
 
-std::optional<CopyablePage> PngWalk::page()
+PngImage PngWalk::image()
 {
     m_file.seek(signatureSize);
     while (m_last != "IEND")
@@ -121,9 +121,8 @@ std::optional<CopyablePage> PngWalk::page()
     if (m_seen.count("IDAT") == 0)
         throw ToolError("the image is damaged: the PNG file holds no image data");
     finish();
-    if (m_doubtful)
-        return std::nullopt;
-    return std::move(m_page);
+    const int orientation = m_page.orientation;
+    return {orientation, m_doubtful ? std::nullopt : std::optional(std::move(m_page))};
 }
 
 std::string PngWalk::nextChunk()
@@ -281,6 +280,7 @@ void PngWalk::exif(const std::string &content)
 {
     const ExifFacts facts = readExif(content);
     m_doubtful |= facts.isDoubtful || facts.density;
+    m_page.orientation = facts.orientation;
 }
 
 void PngWalk::text(const std::string &content)
@@ -310,7 +310,7 @@ void PngWalk::finish()
 
 } // namespace
 
-std::optional<CopyablePage> pngPage(FileBytes &file, Spool &spool)
+PngImage readPngImage(FileBytes &file, Spool &spool)
 {
-    return PngWalk(file, spool).page();
+    return PngWalk(file, spool).image();
 }

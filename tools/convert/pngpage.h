@@ -6,6 +6,13 @@
 
 #include <optional>
 
-/// The page of the PNG file that `file` is at the start of, or nothing when ImageMagick has to
-/// convert it. Reads all chunks and throws ToolError when the file is incomplete or damaged.
-std::optional<CopyablePage> pngPage(FileBytes &file, Spool &spool);
+struct PngImage
+{
+    int orientation = 1;
+    /// Nothing when ImageMagick has to convert it.
+    std::optional<CopyablePage> page;
+};
+
+/// Reads all chunks of the PNG file that `file` is at the start of. Throws ToolError when it is
+/// incomplete or damaged.
+PngImage readPngImage(FileBytes &file, Spool &spool);

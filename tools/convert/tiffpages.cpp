@@ -30,8 +30,8 @@ bool isCopyable(const TiffDirectory &page)
     return !page.doubtful && !page.tiled && page.compression == group4 && page.bits == 1 &&
            page.samples == 1 && page.group4Options == 0 && page.planarConfiguration == 1 &&
            (page.photometric == zeroIsWhite || page.photometric == zeroIsBlack) &&
-           (page.fillOrder == 1 || page.fillOrder == lowestBitFirst) && page.orientation == 1 &&
-           (page.subfileType == 0 || page.subfileType == pageOfSeveral) &&
+           (page.fillOrder == 1 || page.fillOrder == lowestBitFirst) && page.orientation >= 1 &&
+           page.orientation <= 8 && (page.subfileType == 0 || page.subfileType == pageOfSeveral) &&
            page.resolutionUnit >= 1 && page.resolutionUnit <= 3 && isSide(page.width) &&
            isSide(page.height) && rows > 0 &&
            page.offsets.size() == (page.height + rows - 1) / rows &&
@@ -61,6 +61,7 @@ CopyablePage pageOf(const TiffDirectory &directory)
                         {"/Rows", std::to_string(page.height)},
                         {"/EndOfBlock", "false"}};
     page.inverted = directory.photometric == zeroIsBlack;
+    page.orientation = static_cast<int>(directory.orientation);
     setPageSize(page, densityOf(directory));
     return page;
 }
