@@ -156,7 +156,7 @@ void ConvertOptionsTest::optionShapesThePage_data()
     QTest::newRow("colours become dots")
         << u"-monochrome"_s << colours << u"64 32 gray 1 8 image"_s << dots << 64;
     QTest::newRow("colours become dots of one bit")
-        << u"-monochrome -compress Group4"_s << colours << u"64 32 gray 1 1 ccitt"_s << dots << 64;
+        << u"-compress Group4 -monochrome"_s << colours << u"64 32 gray 1 1 ccitt"_s << dots << 64;
 }
 
 void ConvertOptionsTest::optionShapesThePage()

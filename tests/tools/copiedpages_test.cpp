@@ -32,8 +32,8 @@ namespace {
 
 void convertByRealTool(const QTemporaryDir &folder)
 {
-    const RunResult result =
-        runRealConvert({u"picture"_s, u"-auto-orient"_s, u"real.pdf"_s}, folder.path());
+    const RunResult result = runRealConvert(
+        {u"picture"_s, u"-auto-orient"_s, u"+repage"_s, u"real.pdf"_s}, folder.path());
     QVERIFY2(result.status == 0, result.errors.constData());
 }
 

@@ -56,8 +56,8 @@ QImage source(bool colours)
 /// What a viewer shows of `image` that is stored with this orientation.
 QImage upright(const QImage &image, int orientation)
 {
-    const bool isMirrored = orientation == 2 || orientation == 4 || orientation == 5 ||
-                            orientation == 7;
+    const bool isMirrored =
+        orientation == 2 || orientation == 4 || orientation == 5 || orientation == 7;
     constexpr int degrees[] = {0, 0, 180, 180, 270, 90, 90, 270};
     const QImage mirrored = isMirrored ? image.mirrored(true, false) : image;
     return mirrored.transformed(QTransform().rotate(degrees[orientation - 1]));
@@ -117,8 +117,7 @@ void UprightPagesTest::initTestCase()
         writeContent(place(number + u".jpg"_s),
                      jpeg.left(20) + exif({.orientation = orientation}) + jpeg.mid(20));
         const QByteArray png = contentOf(place(u"x.png"_s));
-        writeContent(place(number + u".png"_s),
-                     png.left(33) + chunk("eXIf", block) + png.mid(33));
+        writeContent(place(number + u".png"_s), png.left(33) + chunk("eXIf", block) + png.mid(33));
         const QByteArray webp = contentOf(place(u"x.webp"_s));
         const QByteArray size = QByteArray("\x08\0\0\0", 4) + char(sourceSize.width() - 1) +
                                 QByteArray(2, '\0') + char(sourceSize.height() - 1) +
@@ -261,16 +260,16 @@ void UprightPagesTest::typedAnglesShowTheWholeImage()
     QFETCH(QStringList, options);
     const QImage page = pageOf(options + QStringList{name});
     // The real tool's picture of it, on white.
-    makeByRealTool(QStringList{name, u"-background"_s, u"white"_s, u"-rotate"_s, options.at(1)} +
-                   (options.contains(u"-monochrome"_s) ? QStringList{u"-monochrome"_s}
-                                                       : QStringList{}) +
-                   QStringList{u"+repage"_s, u"-alpha"_s, u"off"_s, u"turned.png"_s});
+    makeByRealTool(
+        QStringList{name, u"-background"_s, u"white"_s, u"-rotate"_s, options.at(1)} +
+        (options.contains(u"-monochrome"_s) ? QStringList{u"-monochrome"_s} : QStringList{}) +
+        QStringList{u"+repage"_s, u"-alpha"_s, u"off"_s, u"turned.png"_s});
     const QImage expected(place(u"turned.png"_s));
     QCOMPARE(page.size(), expected.size());
     QCOMPARE(visibleDifference(page, expected), QString());
-    for (const QPoint corner : {QPoint(0, 0), QPoint(page.width() - 1, 0),
-                                QPoint(0, page.height() - 1),
-                                QPoint(page.width() - 1, page.height() - 1)}) {
+    for (const QPoint corner :
+         {QPoint(0, 0), QPoint(page.width() - 1, 0), QPoint(0, page.height() - 1),
+          QPoint(page.width() - 1, page.height() - 1)}) {
         if (options.at(1) == u"30"_s || options.at(1) == u"45"_s)
             QVERIFY(page.pixelColor(corner).value() > 240);
     }
