@@ -18,12 +18,10 @@ UNBOUNDED = "<policymap>%s</policymap>" % "".join(
     }.items()
 )  # fmt: skip
 
-INFO = "".join(
-    f"InfoBegin\nInfoKey: {key}\nInfoValue: {value}\n"
-    for key, value in {
-        "Title": "Holiday", "Subject": "Scans", "Keywords": "a, b", "Author": "Somebody",
-    }.items()
-)  # fmt: skip
+FIELDS = {"Title": "Holiday", "Subject": "Scans", "Keywords": "a, b", "Author": "Somebody"}
+# As the real pdftk reads all four, and as the window writes them.
+INFO = "".join(f"InfoBegin\nInfoKey: {key}\nInfoValue: {text}\n" for key, text in FIELDS.items())
+OWN_INFO = "".join(f"InfoKey:{key}\nInfoValue:{text}\n" for key, text in FIELDS.items())
 
 SMALL_IMAGES = 300
 IMAGES_TO_FINISH = 100
@@ -61,8 +59,10 @@ class Material:
         self.to_finish = self.folder / "to-finish"
         self.pages = self.folder / "pages"
         self.files = self.folder / "files"
-        self.pdf = self.folder / "plain.pdf"
+        self.scan_pdf = self.folder / "scan.pdf"
+        self.scans_pdf = self.folder / "scans.pdf"
         self.info = self.folder / "info.txt"
+        self.own_info = self.folder / "own-info.txt"
         self.output = self.folder / "output"
         self._make()
 
@@ -92,6 +92,7 @@ class Material:
             "allowed/ImageMagick/policy.xml": ALLOWED,
             "unbounded/policy.xml": UNBOUNDED,
             "info.txt": INFO,
+            "own-info.txt": OWN_INFO,
         }.items():
             path = self.folder / name
             path.parent.mkdir(parents=True, exist_ok=True)
@@ -100,9 +101,6 @@ class Material:
     def _make_images(self):
         for pixel in (self.pixel, self.pixel_bmp):
             make_image(pixel, "-size", "1x1", "xc:teal")
-        subprocess.run(
-            [CONVERT, self.pixel, self.pdf], env=self.stock_environment(), check=True
-        )
         small = self.folder / "small.png"
         make_image(small, "-size", "120x90", "gradient:teal-white")
         for folder, count in ((self.small, SMALL_IMAGES), (self.to_finish, IMAGES_TO_FINISH)):
@@ -117,6 +115,8 @@ class Material:
         paper = ["-seed", "7", "-size", "620x877", "plasma:white-gray70", "-resize", "400%"]
         make_image(page, *paper, "-density", "300", "-quality", "85")
         link_all(page, self.pages, [f"page-{n:03}.jpg" for n in range(PAGES)])
+        for pdf, count in ((self.scan_pdf, 1), (self.scans_pdf, PAGES)):
+            subprocess.run(["img2pdf", "-o", pdf, *[page] * count], check=True)
         link_all(self.photo, self.photos, [f"photo-{n:03}.jpg" for n in range(PHOTOS)])
         self._make_scans(page)
 

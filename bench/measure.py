@@ -19,7 +19,8 @@ from timing import Failed
 GROUPS = {
     "start-up": lambda bench: bench.start_up(25),
     "convert-launcher": lambda bench: bench.convert_launcher(60),
-    "pdftk-launcher": lambda bench: bench.pdftk_launcher(25),
+    "finished-scan": lambda bench: bench.finished_scan(25),
+    "finished-document": lambda bench: bench.finished_document(5),
     "lists": lambda bench: bench.lists(9),
     "memory": lambda bench: bench.memory(3),
     "preview": lambda bench: bench.preview(21),
