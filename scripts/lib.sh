@@ -13,7 +13,7 @@ quietly() {
     local log status=0
     log=$(mktemp)
     "$@" >"$log" 2>&1 || status=$?
-    [ "$status" -eq 0 ] || tail -n "${log_lines:-40}" "$log" >&2
+    [ "$status" -eq 0 ] || tail -n 60 "$log" >&2
     rm -f "$log"
     return "$status"
 }

@@ -2,10 +2,7 @@
 # Drives an installed program and reads what it made, for tests on an X display of their own, to be sourced:
 # the window is worked by clicks and keys, and PDFs are read back.
 
-fail() {
-    echo "FAILED: $1" >&2
-    exit 1
-}
+. "$(dirname "${BASH_SOURCE[0]}")/../../scripts/lib.sh"
 
 # wait_until COMMAND...: until it succeeds, for a minute at most.
 wait_until() {

@@ -35,6 +35,7 @@ private slots:
     void inputsArePlainOnImages();
     void fullPlacesAreNamedAndLeftClean_data();
     void fullPlacesAreNamedAndLeftClean();
+    void tenPdftkCallsAtOnceInOneFolder();
     void messagesNameTheRightInput_data();
     void messagesNameTheRightInput();
 
@@ -312,6 +313,30 @@ void ToolFoldersTest::messagesNameTheRightInput()
     const RunResult result =
         runProgram(bundle.tool(u"convert"_s), call + QStringList{u"o.pdf"_s}, folder.path());
     QCOMPARE(result.errors, message);
+}
+
+void ToolFoldersTest::tenPdftkCallsAtOnceInOneFolder()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    QStringList expected = {u"in.pdf"_s};
+    std::vector<std::unique_ptr<QProcess>> calls;
+    calls.reserve(10);
+    for (int i = 0; i < 10; ++i) {
+        const QString name = u"o"_s + QString::number(i) + u".pdf"_s;
+        expected.append(name);
+        calls.push_back(startProgram(
+            bundledTool(u"pdftk"_s),
+            {u"in.pdf"_s, u"output"_s, name, u"owner_pw"_s, u"a"_s, u"user_pw"_s, u"b"_s},
+            folder.path()));
+    }
+    for (const auto &call : calls) {
+        QVERIFY(call->waitForFinished(120'000));
+        QCOMPARE(call->readAllStandardError(), QByteArray());
+    }
+    QCOMPARE(namesIn(folder.path()), expected);
+    for (const QString &name : expected.mid(1))
+        QVERIFY(!readPdf(folder.filePath(name), "b").needsPassword);
 }
 
 QTEST_GUILESS_MAIN(ToolFoldersTest)
