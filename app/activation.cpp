@@ -60,6 +60,30 @@ private:
     }
 };
 
+class FixedSizes : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::WindowStateChange)
+            restore(qobject_cast<QWidget *>(watched));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static void restore(QWidget *window)
+    {
+        if (!window || !window->isMaximized() || window->minimumSize() != window->maximumSize())
+            return;
+        const bool staysOpen = !window->isModal();
+        window->setWindowState(Qt::WindowNoState);
+        window->hide();
+        window->setVisible(staysOpen);
+    }
+};
+
 } // namespace
 
 void activateWindows(QApplication &application)
@@ -71,4 +95,10 @@ void activateWindows(QApplication &application)
 void attachPopups(QApplication &application)
 {
     application.installEventFilter(new PopupParents(&application));
+}
+
+void keepFixedSizes(QApplication &application)
+{
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        application.installEventFilter(new FixedSizes(&application));
 }

@@ -12,3 +12,8 @@ void activateWindows(QApplication &application);
 /// on Wayland otherwise opens that list as an independent window, which takes the keyboard: what is
 /// typed next replaces what the field holds.
 void attachPopups(QApplication &application);
+
+/// Opens a window of `application` with a fixed size again when it is maximized on Wayland, and
+/// closes a modal one. Qt (6.4, 6.8) draws a button for that on every window and cannot be asked
+/// not to; Weston ends a program whose maximized window has another size than the screen.
+void keepFixedSizes(QApplication &application);

@@ -34,6 +34,7 @@ void prepare(QApplication &application)
     applyLook(application);
     activateWindows(application);
     attachPopups(application);
+    keepFixedSizes(application);
     if (const QString language = wantedLanguage(); !language.isEmpty())
         speak(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
