@@ -122,8 +122,10 @@ void RowOrder::select(const SelectedRows &rows, int currentRow)
         first = std::find(end, rows.end(), true);
     }
     {
-        // Through the table, which from then on extends selections from this row.
         const QSignalBlocker blocker(&m_table);
+        // Qt compares each range of the new selection with each of the old: there are none then.
+        m_table.clearSelection();
+        // Through the table, which from then on extends selections from this row.
         if (currentRow >= 0)
             m_table.setCurrentIndex(model.index(currentRow, m_table.currentColumn()));
         m_table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
