@@ -200,6 +200,8 @@ void PdftkRulesTest::passwordsAreNormalized_data()
     QTest::newRow("refused by SASLprep: Hebrew and Latin letters")
         << std::string("\u05d0a") << std::string("\u05d0a");
     QTest::newRow("refused by SASLprep: a tabulator") << std::string("a\tb") << std::string("a\tb");
+    QTest::newRow("nothing but what SASLprep takes away: a soft hyphen")
+        << std::string("\u00ad") << std::string("\u00ad");
     QTest::newRow("127 bytes count") << std::string(130, 'x') << std::string(127, 'x');
 }
 

@@ -22,7 +22,8 @@ std::string typed(const std::string &word, const std::string &charset)
     return encoded(text);
 }
 
-// What SASLprep refuses, such as a mix of Hebrew and Latin letters, stays as it was typed.
+// What SASLprep refuses, such as a mix of Hebrew and Latin letters, stays as it was typed; so does
+// what it would leave nothing of, such as a soft hyphen.
 std::string normalized(const std::string &password)
 {
     char *result = nullptr;
@@ -32,7 +33,7 @@ std::string normalized(const std::string &password)
         return password;
     std::string text = result;
     free(result);
-    return text;
+    return text.empty() ? password : text;
 }
 
 // libqpdf 11.3 makes a PDF that no password opens of a longer one.
