@@ -63,7 +63,9 @@ void StartArgumentsTest::helpNamesEveryOption()
 {
     const QString help = startHelp();
     for (const QString &word :
-         {u"[FILE ...]"_s, u"-h, --help"_s, u"-v, --version"_s, u"Images to list"_s})
+         {u"[FILE ...]"_s, u"Turns images into PDF documents."_s, u"Images to list when"_s,
+          u"-h, --help"_s, u"Show this help and end."_s, u"-v, --version"_s,
+          u"Show the version and end."_s})
         QVERIFY2(help.contains(word), qPrintable(help));
 }
 

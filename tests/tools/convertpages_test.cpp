@@ -3,10 +3,12 @@
 
 #include "imagefiles.h"
 #include "pdffacts.h"
+#include "pdfpages.h"
 #include "toolbench.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -39,8 +41,25 @@ private:
     RunResult makeReal(const QStringList &words) const;
     RunResult convert(const QStringList &words, const Variables &variables = {}) const;
 
+    void comparePages(const QStringList &names, double turn = 0) const;
+
     QTemporaryDir m_folder;
+    QMap<QString, QImage> m_sources;
 };
+
+// Dots per inch: poppler 22.12 draws images up to a pixel larger than they are.
+constexpr int fine = 288;
+
+// The pages show the images with these names in order.
+void ConvertPagesTest::comparePages(const QStringList &names, double turn) const
+{
+    for (int page = 0; page < names.size(); ++page) {
+        const QImage expected = m_sources[names[page]].transformed(QTransform().rotate(turn));
+        const QImage shown = drawnPage(place(u"o.pdf"_s), page, fine);
+        const QString difference = visibleDifference(shown, expected);
+        QVERIFY2(difference.isEmpty(), qPrintable(names[page] + u": "_s + difference));
+    }
+}
 
 RunResult ConvertPagesTest::makeReal(const QStringList &words) const
 {
@@ -54,18 +73,25 @@ RunResult ConvertPagesTest::convert(const QStringList &words, const Variables &v
     return runBundled(u"convert"_s, words + QStringList{u"o.pdf"_s}, m_folder.path(), variables);
 }
 
-// Each image has a width of its own, by which its page is known.
+// Each image has a width and a colour of its own, by which its page is known, and a corner by which
+// a turn is.
 void ConvertPagesTest::initTestCase()
 {
     int width = 11;
     for (const QString &name : {u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"4.pbm"_s, u"5.pcx"_s,
                                 u"6.png"_s, u"7.ppm"_s, u"8.tif"_s}) {
-        makeImage(place(u"source.png"_s), {width++, 10});
+        QImage image(width, 10, QImage::Format_RGB32);
+        image.fill(QColor::fromHsv(width * 30 % 360, 255, 200));
+        QPainter(&image).fillRect(0, 0, 5, 5, Qt::white);
+        QVERIFY(image.save(place(u"source.png"_s)));
+        m_sources[name] = image;
+        ++width;
         QCOMPARE(makeReal({u"source.png"_s, u"-density"_s, u"72"_s, u"-units"_s, u"PixelsPerInch"_s,
                            name})
                      .status,
                  0);
     }
+    m_sources[u"4.pbm"_s] = QImage(place(u"4.pbm"_s)); // black and white
     QCOMPARE(makeReal({u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"-density"_s, u"72"_s, u"-units"_s,
                        u"PixelsPerInch"_s, u"several.tif"_s})
                  .status,
@@ -94,6 +120,7 @@ void ConvertPagesTest::everyFormatMergesInOrder()
     const QStringList names = {u"8.tif"_s, u"3.jpg"_s, u"1.bmp"_s, u"6.png"_s, u"2.gif"_s,
                                u"5.pcx"_s, u"4.pbm"_s, u"7.ppm"_s, u"3.jpg"_s};
     QCOMPARE(convert(names).errors, QByteArray());
+    comparePages(names);
     const PdfFacts facts = readPdf(place(u"o.pdf"_s));
     QCOMPARE(facts.pages, names.size());
     for (qsizetype page = 0; page < names.size(); ++page) {
@@ -107,20 +134,24 @@ void ConvertPagesTest::severalImagesOfAFileStayInPlace_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QList<int>>("widths");
+    QTest::addColumn<QStringList>("shown");
     const QStringList turned = {u"-rotate"_s, u"180"_s};
     QTest::newRow("a TIFF file among others")
         << QStringList{} << QStringList{u"several.tif"_s, u"3.jpg"_s, u"several.tif"_s}
-        << QList<int>{11, 12, 13, 13, 11, 12, 13};
+        << QList<int>{11, 12, 13, 13, 11, 12, 13}
+        << QStringList{u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s, u"3.jpg"_s,
+                       u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s};
     QTest::newRow("a turned TIFF file")
-        << turned << QStringList{u"3.jpg"_s, u"several.tif"_s} << QList<int>{13, 11, 12, 13};
-    QTest::newRow("a copied TIFF file")
-        << QStringList{} << QStringList{u"faxes.tif"_s, u"3.jpg"_s} << QList<int>{11, 12, 13};
+        << turned << QStringList{u"3.jpg"_s, u"several.tif"_s} << QList<int>{13, 11, 12, 13}
+        << QStringList{u"3.jpg"_s, u"1.bmp"_s, u"2.gif"_s, u"3.jpg"_s};
+    QTest::newRow("a copied TIFF file") << QStringList{} << QStringList{u"faxes.tif"_s, u"3.jpg"_s}
+                                        << QList<int>{11, 12, 13} << QStringList{};
     // The real tool gives each image of an animation the size of the whole.
     QTest::newRow("an animation") << QStringList{}
                                   << QStringList{u"3.jpg"_s, u"several.gif"_s, u"3.jpg"_s}
-                                  << QList<int>{13, 12, 12, 13};
-    QTest::newRow("a turned animation")
-        << turned << QStringList{u"several.gif"_s, u"3.jpg"_s} << QList<int>{12, 12, 13};
+                                  << QList<int>{13, 12, 12, 13} << QStringList{u"3.jpg"_s};
+    QTest::newRow("a turned animation") << turned << QStringList{u"several.gif"_s, u"3.jpg"_s}
+                                        << QList<int>{12, 12, 13} << QStringList{};
 }
 
 void ConvertPagesTest::severalImagesOfAFileStayInPlace()
@@ -128,11 +159,13 @@ void ConvertPagesTest::severalImagesOfAFileStayInPlace()
     QFETCH(QStringList, options);
     QFETCH(QStringList, names);
     QFETCH(QList<int>, widths);
+    QFETCH(QStringList, shown);
     QCOMPARE(convert(options + names).errors, QByteArray());
     QList<int> found;
     for (const QSizeF &size : readPdf(place(u"o.pdf"_s)).pageSizes)
         found.append(qRound(size.width()));
     QCOMPARE(found, widths);
+    comparePages(shown, options.isEmpty() ? 0 : 180);
 }
 
 void ConvertPagesTest::twoThousandImages()
@@ -142,6 +175,10 @@ void ConvertPagesTest::twoThousandImages()
         names << u"3.jpg"_s << u"6.png"_s;
     QCOMPARE(convert(names << u"1.bmp"_s).errors, QByteArray());
     QCOMPARE(readPdf(place(u"o.pdf"_s)).pages, 2001);
+    for (const auto &[page, name] :
+         {std::pair(0, u"3.jpg"_s), std::pair(1999, u"6.png"_s), std::pair(2000, u"1.bmp"_s)})
+        QCOMPARE(visibleDifference(drawnPage(place(u"o.pdf"_s), page, fine), m_sources[name]),
+                 QString());
 }
 
 void ConvertPagesTest::oneDamagedAmongMany_data()

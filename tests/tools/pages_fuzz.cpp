@@ -49,6 +49,14 @@ void demandWholePage(const CopyablePage &page, std::size_t size)
     demandExtentsInside(page, size);
 }
 
+// The shortest image of a GIF file has twelve bytes.
+void demandPossibleCount(const ConvertedImage &image, std::size_t size)
+{
+    constexpr std::size_t shortest = 12;
+    demand(image.images > 0);
+    demand(image.kind != ImageKind::Gif || image.images <= size / shortest + 1);
+}
+
 #ifdef FUZZ_PNG
 // A fuzzer does not guess check sums: each chunk gets the right one, but for one in 256.
 void mendSums(std::uint8_t *data, std::size_t size)
@@ -95,7 +103,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             for (const CopyablePage &page : copied->pages)
                 demandWholePage(page, size);
         } else {
-            demand(std::get<ConvertedImage>(plan).images > 0);
+            demandPossibleCount(std::get<ConvertedImage>(plan), size);
         }
     } catch (const ToolError &) {
         // An incomplete or damaged file.

@@ -10,11 +10,11 @@
 
 using namespace Qt::StringLiterals;
 
-QImage drawnPage(const QString &path, int number)
+QImage drawnPage(const QString &path, int number, int dotsPerInch)
 {
     const std::unique_ptr<Poppler::Document> document = Poppler::Document::load(path);
     const std::unique_ptr<Poppler::Page> page(document ? document->page(number) : nullptr);
-    return page ? page->renderToImage(72, 72).convertToFormat(QImage::Format_RGB32) : QImage();
+    return page ? page->renderToImage(dotsPerInch, dotsPerInch) : QImage();
 }
 
 QString visibleDifference(const QImage &shown, const QImage &expected)
@@ -32,8 +32,10 @@ QString visibleDifference(const QImage &shown, const QImage &expected)
             .arg(shown.height())
             .arg(expected.width())
             .arg(expected.height());
-    const auto small = [](const QImage &image) {
+    // By way of the same size, so that both are made small alike.
+    const auto small = [&shown](const QImage &image) {
         return image.convertToFormat(QImage::Format_RGB32)
+            .scaled(shown.size())
             .scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     };
     const QImage left = small(shown);

@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QString>
 
-/// Page `number`, from 0, as poppler draws it, a pixel for each point; null where there is none.
-QImage drawnPage(const QString &path, int number = 0);
+/// Page `number`, from 0, as poppler draws it; null where there is none.
+QImage drawnPage(const QString &path, int number = 0, int dotsPerInch = 72);
 
 /// Says how two pictures differ for somebody who looks at them: in shape, or in colour at a place
 /// of both made small; "" where they do not. Blurring by JPEG and by scaling does not count.
