@@ -173,7 +173,7 @@ QByteArray profile(bool colour)
         return QByteArray("XYZ \0\0\0\0", 8) + big32(x) + big32(y) + big32(z);
     };
     const QByteArray curve = QByteArray("curv\0\0\0\0", 8) + big32(1) + big16(0x0233) + big16(0);
-    const QByteArray text = QByteArray("text\0\0\0\0", 8) + QByteArray("none", 8);
+    const QByteArray text = QByteArray("text\0\0\0\0", 8) + QByteArray("none\0\0\0\0", 8);
     const QByteArray description =
         QByteArray("desc\0\0\0\0", 8) + big32(5) + QByteArray("test\0", 5) + QByteArray(79, '\0');
     QList<Tag> tags = {
