@@ -2,6 +2,8 @@
 
 #include "ui_process.h"
 
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -14,6 +16,50 @@
 #include <QTableWidget>
 
 namespace {
+
+/// An editable combo box under its own name. Qt 6.4's is named by the text in it, on Unix alone.
+class EditableBox : public QAccessibleWidget
+{
+public:
+    explicit EditableBox(QComboBox &box)
+        : QAccessibleWidget(&box, QAccessible::ComboBox)
+        , m_box(box)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_box.currentText() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State result = QAccessibleWidget::state();
+        result.editable = true;
+        result.expandable = true;
+        result.expanded = m_box.view()->isVisible();
+        return result;
+    }
+
+    QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+
+    void doAction(const QString & /*action*/) override
+    {
+        if (m_box.view()->isVisible())
+            m_box.hidePopup();
+        else
+            m_box.showPopup();
+    }
+
+private:
+    QComboBox &m_box;
+};
+
+QAccessibleInterface *editableBoxInterface(const QString & /*className*/, QObject *object)
+{
+    auto *box = qobject_cast<QComboBox *>(object);
+    return box && box->isEditable() ? new EditableBox(*box) : nullptr; // Qt owns it
+}
 
 struct ControlText
 {
@@ -43,6 +89,7 @@ void setTexts(const ControlText &texts)
 
 void describeControls(const Ui_process &ui)
 {
+    QAccessible::installFactory(editableBoxInterface);
     const Buddy buddies[] = {
         {ui.label, ui.inputfiletableWidget},
         {ui.label_2, ui.previewframe},
@@ -120,4 +167,5 @@ void describeControls(const Ui_process &ui)
         translated(QT_TRANSLATE_NOOP(
                        "process", "Drag rows or press %1 and %2 to change the order of the pages."))
             .arg(keyName(Qt::Key_Up), keyName(Qt::Key_Down)));
+    ui.comboBox_rotate->lineEdit()->setAccessibleName(ui.comboBox_rotate->accessibleName());
 }

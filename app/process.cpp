@@ -6,6 +6,7 @@
 #include "filelistactions.h"
 #include "filetable.h"
 #include "fittext.h"
+#include "folderdrops.h"
 #include "pictures.h"
 #include "rtllayout.h"
 #include "translation.h"
@@ -22,6 +23,20 @@
 #include <QTimer>
 
 #include <array>
+
+namespace {
+
+void focusFirstControl(QWidget &page)
+{
+    for (QWidget *next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain()) {
+        if (page.isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus)) {
+            next->setFocus();
+            return;
+        }
+    }
+}
+
+} // namespace
 
 Process::Process(QWidget *parent)
     : QWidget(parent)
@@ -83,6 +98,7 @@ void Process::connectControls()
     connectSelection();
     connect(ui->aboutpushButton, &QPushButton::clicked, this, &Process::setabout1);
     connect(ui->outputButton, &QPushButton::clicked, this, &Process::setoutputfile);
+    takeDroppedFolder(*ui->outputfolderEdit);
 }
 
 void Process::setWindowBackground()
@@ -106,6 +122,10 @@ void Process::setabout()
 
 void Process::setabout1()
 {
+    // Without a parent it would open wherever the window manager likes.
+    QRect place = aboutdialog.geometry();
+    place.moveCenter(geometry().center());
+    aboutdialog.move(place.topLeft());
     aboutdialog.exec();
 }
 
@@ -122,11 +142,14 @@ void Process::setpushenable()
     ui->pushButton_Inout->setEnabled(true);
 }
 
-/// The disabled button marks the page shown.
+/// The disabled button marks the page shown, whose first control gets the keyboard from it.
 void Process::markPage(QPushButton *button)
 {
     setpushenable();
+    const bool hadFocus = button->hasFocus();
     button->setEnabled(false);
+    if (hadFocus)
+        focusFirstControl(*ui->stackedWidget_dialog->currentWidget());
 }
 
 void Process::on_pushButton_Inout_clicked()

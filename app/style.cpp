@@ -7,6 +7,7 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QTableView>
 #include <QToolTip>
 
 #include <algorithm>
@@ -14,6 +15,20 @@
 namespace {
 
 constexpr QRgb focusColour = 0xff0b7a6a;
+
+// Fusion draws borders 140 % darker than the window's colour: from this one #5c5e5e.
+constexpr QRgb borderBase = 0xff818484;
+constexpr QRgb paleHighlight = 0xffa9d0c7; // of a selection that the keyboard does not act on
+constexpr QRgb currentRowColour = 0xffdcede9;
+
+/// `option` with a border that stands out from any ground.
+template <class Option>
+Option withBorder(const Option &option)
+{
+    Option result = option;
+    result.palette.setColor(QPalette::Window, borderBase);
+    return result;
+}
 
 /// Qt's own Fusion style, with a focus ring on push buttons: flat ones have none there,
 /// and others show it only after a key press.
@@ -28,9 +43,45 @@ public:
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override
     {
-        QProxyStyle::drawControl(element, option, painter, widget);
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+            button && element == CE_PushButtonLabel && button->direction == Qt::RightToLeft &&
+            !button->icon.isNull() && !button->text.isEmpty())
+            drawMirroredLabel(*button, *painter);
+        else if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+                 item && element == CE_ItemViewItem)
+            drawItem(*item, *painter, widget);
+        else if (const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(option);
+                 bar && element == CE_ProgressBarGroove) {
+            const auto bordered = withBorder(*bar);
+            QProxyStyle::drawControl(element, &bordered, painter, widget);
+        } else
+            QProxyStyle::drawControl(element, option, painter, widget);
         if (element == CE_PushButton && (option->state & State_HasFocus))
             drawFocusRing(*painter, option->rect);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override
+    {
+        const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+        if (control == CC_ComboBox && box) {
+            const auto bordered = withBorder(*box);
+            QProxyStyle::drawComplexControl(control, &bordered, painter, widget);
+        } else {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+        }
+    }
+
+    /// The field of an editable combo box ends a pixel early: at 125 % it would cover the line
+    /// before the arrow.
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override
+    {
+        const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+        const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+        if (part != SC_ComboBoxEditField || !box || !box->editable)
+            return rect;
+        return visualRect(box->direction, rect, rect.adjusted(0, 0, -1, 0));
     }
 
     // Buttons below a style sheet ask for their focus here alone.
@@ -43,7 +94,14 @@ public:
                  frame && element == PE_Frame &&
                  painter->deviceTransform().type() <= QTransform::TxScale)
             drawFrame(*frame, *painter, widget);
-        else
+        else if (frame && element == PE_FrameLineEdit) {
+            const auto bordered = withBorder(*frame);
+            QProxyStyle::drawPrimitive(element, &bordered, painter, widget);
+        } else if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+                   button && element == PE_IndicatorCheckBox) {
+            const auto bordered = withBorder(*button);
+            QProxyStyle::drawPrimitive(element, &bordered, painter, widget);
+        } else
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
@@ -62,6 +120,39 @@ private:
             QProxyStyle::drawPrimitive(PE_Frame, &option, &painter, widget);
         }
         painter.restore();
+    }
+
+    /// Qt 6.4 puts the text of a button that runs from right to left at the far edge, away from its
+    /// icon.
+    void drawMirroredLabel(const QStyleOptionButton &button, QPainter &painter) const
+    {
+        constexpr int gap = 4; // as Fusion has it
+        const int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic;
+        const QSize text =
+            itemTextRect(button.fontMetrics, button.rect, flags, true, button.text).size();
+        const int width = button.iconSize.width() + gap + text.width();
+        QRect label({}, QSize(width, button.rect.height()));
+        label.moveCenter(button.rect.center());
+        const QRect icon(label.right() + 1 - button.iconSize.width(), label.y(),
+                         button.iconSize.width(), label.height());
+        const bool enabled = button.state & State_Enabled;
+        button.icon.paint(&painter, icon, Qt::AlignCenter,
+                          enabled ? QIcon::Normal : QIcon::Disabled);
+        drawItemText(&painter, label.adjusted(0, 0, -button.iconSize.width() - gap, 0), flags,
+                     button.palette, enabled, button.text, QPalette::ButtonText);
+    }
+
+    /// A list's selection is pale while the keyboard is elsewhere; the current row, whose image
+    /// the preview shows, is marked also when it is not selected.
+    void drawItem(QStyleOptionViewItem item, QPainter &painter, const QWidget *widget) const
+    {
+        if (const auto *list = qobject_cast<const QTableView *>(widget)) {
+            if (!list->hasFocus())
+                item.state &= ~State_Active;
+            if (item.index.row() == list->currentIndex().row() && !(item.state & State_Selected))
+                painter.fillRect(item.rect, QColor(currentRowColour));
+        }
+        QProxyStyle::drawControl(CE_ItemViewItem, &item, &painter, widget);
     }
 
     /// The device pixels of `rect`, each edge rounded by itself, as Qt rounds those of its clip.
@@ -143,6 +234,8 @@ QPalette lightPalette()
         colours.setColor(role, colour);
         colours.setColor(QPalette::Disabled, role, disabled);
     }
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, paleHighlight);
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
     return colours;
 }
 

@@ -38,6 +38,7 @@ QString link(const QString &target, const QString &visibleText)
 
 QString aboutText(const QString &webAddress, const QString &supportAddress)
 {
+    // The product's edition, which releases do not change; theirs is what --version prints.
     const QString version =
         QCoreApplication::translate("AboutDialog", "Tessaro Image to PDF Converter v2.0");
     // A target without a scheme would be looked for inside the text browser and blank the box.

@@ -56,6 +56,7 @@ private slots:
     void pictureButtonsSayWhatTheyDo_data();
     void pictureButtonsSayWhatTheyDo();
     void tabLeavesTheFileList();
+    void editableBoxAndItsFieldHaveItsName();
     void emptyListTakesNoFocus();
     void wholeJobByKeyboard();
 };
@@ -144,6 +145,30 @@ void AccessibilityTest::tabLeavesTheFileList()
     fixture.find<QTableWidget>("inputfiletableWidget")->setFocus();
     press(Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget()->objectName(), u"openfileButton"_s);
+}
+
+void AccessibilityTest::editableBoxAndItsFieldHaveItsName()
+{
+    WindowFixture fixture;
+    auto *box = fixture.find<QComboBox>("comboBox_rotate");
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(box);
+    QCOMPARE(interface->role(), QAccessible::ComboBox);
+    QCOMPARE(interface->text(QAccessible::Name), u"Rotate"_s);
+    QCOMPARE(accessibleName(box->lineEdit()), u"Rotate"_s);
+    box->setCurrentIndex(1);
+    QCOMPARE(interface->text(QAccessible::Value), u"90"_s);
+    QCOMPARE(interface->childCount(), 1);
+    QCOMPARE(interface->child(0)->object(), box->lineEdit());
+    QVERIFY(interface->state().editable && interface->state().expandable);
+    QVERIFY(!interface->state().expanded);
+
+    fixture.press("pushButton_ImageSetting");
+    QAccessibleActionInterface *actions = interface->actionInterface();
+    QVERIFY(actions->actionNames().contains(QAccessibleActionInterface::showMenuAction()));
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(interface->state().expanded);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_VERIFY(!interface->state().expanded);
 }
 
 void AccessibilityTest::emptyListTakesNoFocus()

@@ -28,6 +28,7 @@ class MessagesTest : public QObject
 
 private slots:
     void emptyListIsWarnedAboutAndNothingElseChanges();
+    void emptyListIsWarnedAboutBeforeTheFolderIsLookedAt();
     void missingOutputFolderIsAskedForAndTheFieldEmptied_data();
     void missingOutputFolderIsAskedForAndTheFieldEmptied();
     void losingTheOutputFolderMidRunEndsIt();
@@ -47,6 +48,18 @@ void MessagesTest::emptyListIsWarnedAboutAndNothingElseChanges()
     QCOMPARE(ProcessProbe::fileIndex(fixture.window), 7);
     QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), fixture.outputPath());
     QVERIFY(fixture.calls().isEmpty());
+}
+
+void MessagesTest::emptyListIsWarnedAboutBeforeTheFolderIsLookedAt()
+{
+    WindowFixture fixture;
+    fixture.fill("outputfolderEdit", u"/nowhere/at/all"_s);
+    QString title;
+    ModalAnswer answer([&title](QWidget *box) { title = box->windowTitle(); });
+    fixture.press("runButton");
+    QVERIFY(answer.happened());
+    QCOMPARE(title, u"Empty input"_s);
+    QCOMPARE(fixture.find<QLineEdit>("outputfolderEdit")->text(), u"/nowhere/at/all"_s);
 }
 
 void MessagesTest::missingOutputFolderIsAskedForAndTheFieldEmptied_data()

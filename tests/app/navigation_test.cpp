@@ -56,6 +56,8 @@ private slots:
     void slotsLeadToTheirPages();
     void clicksLeadToTheirPages_data();
     void clicksLeadToTheirPages();
+    void openedPageTakesTheKeyboard_data();
+    void openedPageTakesTheKeyboard();
     void disabledButtonCannotBeClicked();
     void imageButtonStaysUncheckable();
     void pageIsShownBeforeItsButtonChanges_data();
@@ -146,6 +148,38 @@ void NavigationTest::clicksLeadToTheirPages()
         QTest::mouseClick(fixture.find<QPushButton>("pushButton_" + button), Qt::LeftButton);
     }
     QTEST(stateOf(fixture), "state");
+}
+
+void NavigationTest::openedPageTakesTheKeyboard_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QString>("control");
+    QTest::newRow("image") << QByteArray("ImageSetting") << u"comboBox_rotate"_s;
+    QTest::newRow("description") << QByteArray("PDFSetting") << u"lineEdit_title"_s;
+    QTest::newRow("security") << QByteArray("Security") << u"lineEdit_ownerpwd"_s;
+    QTest::newRow("files") << QByteArray("Inout") << u"openfileButton"_s;
+}
+
+void NavigationTest::openedPageTakesTheKeyboard()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(QString, control);
+    WindowFixture fixture;
+    fixture.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+    fixture.press("pushButton_" + QByteArray(button == "Security" ? "PDFSetting" : "Security"));
+    auto *opener = fixture.find<QPushButton>("pushButton_" + button);
+    for (const bool byMouse : {true, false}) {
+        if (byMouse) {
+            QTest::mouseClick(opener, Qt::LeftButton);
+        } else {
+            fixture.window.setpushenable();
+            opener->setFocus();
+            QTest::keyClick(opener, Qt::Key_Space);
+        }
+        QVERIFY(fixture.window.focusWidget());
+        QCOMPARE(fixture.window.focusWidget()->objectName(), control);
+    }
 }
 
 void NavigationTest::disabledButtonCannotBeClicked()

@@ -4,8 +4,11 @@
 #include "windowfixture.h"
 
 #include <QDir>
+#include <QDropEvent>
 #include <QFile>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +49,9 @@ private slots:
     void laterRunStartsTheDialogThereWithAnEmptyField();
     void cancelEmptiesTheFieldAndStoresNothingChosen();
     void typedFolderIsUsedButNotStored();
+    void droppedFolderFillsTheField_data();
+    void droppedFolderFillsTheField();
+    void droppedTextIsTypedIntoTheField();
     void inputFolderIsKept();
 };
 
@@ -102,6 +108,53 @@ void OutputFolderTest::typedFolderIsUsedButNotStored()
     QVERIFY(fixture.waitUntilQuiet());
     QCOMPARE(fixture.outputFiles(), QStringList({u"a.pdf: convert(a.jpg)"_s}));
     QCOMPARE(contentBesideTheBundle(settings), QByteArray("none"));
+}
+
+void OutputFolderTest::droppedFolderFillsTheField_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("a folder") << QStringList{u"folder/"_s} << true;
+    QTest::newRow("an image") << QStringList{u"a.jpg"_s} << false;
+    QTest::newRow("two folders") << QStringList{u"folder"_s, u"other"_s} << false;
+    QTest::newRow("a folder and an image") << QStringList{u"folder"_s, u"a.jpg"_s} << false;
+}
+
+void OutputFolderTest::droppedFolderFillsTheField()
+{
+    QFETCH(QStringList, names);
+    QFETCH(bool, isTaken);
+    WindowFixture fixture;
+    for (const QString &folder : {u"folder"_s, u"other"_s})
+        QVERIFY(QDir().mkdir(fixture.inputPath(folder)));
+    fixture.makeFile(u"a.jpg"_s);
+    fixture.fill("outputfolderEdit", u"before"_s);
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString &name : names)
+        urls << QUrl::fromLocalFile(fixture.inputPath(name));
+    data.setUrls(urls);
+    auto *field = fixture.find<QLineEdit>("outputfolderEdit");
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &drop);
+    QCOMPARE(field->text(), isTaken ? fixture.inputPath(u"folder"_s) : u"before"_s);
+    QCOMPARE(fixture.rows().size(), isTaken ? 0 : names.size());
+}
+
+void OutputFolderTest::droppedTextIsTypedIntoTheField()
+{
+    WindowFixture fixture;
+    QMimeData data;
+    data.setText(u"/srv/pdf"_s);
+    auto *field = fixture.find<QLineEdit>("outputfolderEdit");
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &drop);
+    QCOMPARE(field->text(), u"/srv/pdf"_s);
 }
 
 void OutputFolderTest::inputFolderIsKept()

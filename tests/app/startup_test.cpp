@@ -17,6 +17,7 @@
 #include <algorithm>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,8 @@ private slots:
     void imagesMayTakeAQuarterOfTheMemory();
     void coloursAreLightOnADarkDesktop_data();
     void coloursAreLightOnADarkDesktop();
+    void windowsBelongToTheMenuEntry();
+    void argumentLimitIsRaisedAsFarAsAllowed();
     void argumentLimitIsRaised();
     void desktopFileIsNamed();
     void listOfACompleterBelongsToItsWindow();
@@ -87,6 +90,29 @@ void StartupTest::coloursAreLightOnADarkDesktop()
         QVERIFY(colours.color(ground).lightness() > 200);
         QVERIFY(colours.color(text).lightness() < 60);
     }
+}
+
+void StartupTest::windowsBelongToTheMenuEntry()
+{
+    QCOMPARE(QGuiApplication::desktopFileName(), u"org.example.tessaro"_s);
+}
+
+void StartupTest::argumentLimitIsRaisedAsFarAsAllowed()
+{
+    // In a child, as a lowered limit stays.
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr rlim_t lowMost = rlim_t(16) * 1024 * 1024;
+        rlimit stack = {rlim_t(8) * 1024 * 1024, lowMost};
+        if (setrlimit(RLIMIT_STACK, &stack) != 0)
+            _exit(1);
+        raiseArgumentLimit();
+        getrlimit(RLIMIT_STACK, &stack);
+        _exit(stack.rlim_cur == lowMost ? 0 : 2);
+    }
+    int status = -1;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QCOMPARE(status, 0);
 }
 
 void StartupTest::argumentLimitIsRaised()

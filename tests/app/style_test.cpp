@@ -215,6 +215,9 @@ void StyleTest::selectedRowStandsOut()
     fixture.addImages({u"a.jpg"_s});
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->selectRow(0);
+    fixture.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.window));
+    table->setFocus();
     const Tones tones = tonesOf(table->viewport(), table->visualItemRect(table->item(0, 1)));
     QVERIFY(tones.middle < 140);
     QVERIFY(tones.lightest > 240);

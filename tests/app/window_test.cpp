@@ -206,9 +206,16 @@ void WindowTest::aboutButtonOpensTheAboutBox()
     WindowFixture fixture;
     for (int opening = 0; opening < 2; ++opening) {
         QWidget *shown = nullptr;
-        ModalAnswer answer([&shown](QWidget *box) { shown = box; });
+        QPoint middle;
+        ModalAnswer answer([&](QWidget *box) {
+            shown = box;
+            middle = box->geometry().center();
+        });
+        fixture.window.move(30 + 20 * opening, 40);
         QTest::mouseClick(fixture.find<QPushButton>("aboutpushButton"), Qt::LeftButton);
         QVERIFY(answer.happened());
+        constexpr int titleBar = 40; // of either window, at most
+        QVERIFY((middle - fixture.window.geometry().center()).manhattanLength() <= titleBar);
         QCOMPARE(shown, &ProcessProbe::aboutBox(fixture.window));
         QVERIFY(!shown->isVisible());
     }

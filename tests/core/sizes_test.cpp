@@ -57,6 +57,7 @@ void SizesTest::previewFillsTheBoxInOneDirection_data()
     QTest::newRow("the box's shape doubled") << QSize(302, 374) << QSize(151, 187);
     QTest::newRow("a pixel wider than the box's shape") << QSize(303, 374) << QSize(151, 186);
     QTest::newRow("a pixel narrower than the box's shape") << QSize(301, 374) << QSize(150, 187);
+    QTest::newRow("small and nearly the box's shape") << QSize(3, 4) << QSize(140, 187);
     QTest::newRow("a flat image") << QSize(1000, 100) << QSize(151, 15);
     QTest::newRow("a tall image") << QSize(100, 1000) << QSize(18, 187);
     QTest::newRow("a single pixel grows") << QSize(1, 1) << QSize(151, 151);

@@ -23,7 +23,10 @@ QIcon icon()
 {
     QPixmap pixmap(64, 64);
     pixmap.fill(QColor(iconColour));
-    return {pixmap};
+    QIcon result(pixmap);
+    pixmap.fill(Qt::yellow); // of a checked button, which this one never shows
+    result.addPixmap(pixmap, QIcon::Normal, QIcon::On);
+    return result;
 }
 
 void send(mypushbutton &button, QEvent::Type type)
