@@ -105,14 +105,18 @@ void ControlStyleTest::everyBorderStandsOut_data()
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("name");
     const std::pair<int, QStringList> controls[] = {
-        {0, {u"outputfolderEdit"_s, u"checkBox_joinpdf"_s, u"inputfiletableWidget"_s,
-             u"progressBar"_s}},
-        {1, {u"comboBox_rotate"_s, u"comboBox_pagesize"_s, u"comboBox_compresstype"_s,
-             u"checkBox_monochrome"_s}},
-        {2, {u"lineEdit_title"_s, u"lineEdit_subject"_s, u"lineEdit_keywords"_s,
-             u"lineEdit_author"_s}},
-        {3, {u"lineEdit_ownerpwd"_s, u"lineEdit_userpwd"_s, u"checkBox_allowprint"_s,
-             u"checkBox_allowmodify"_s, u"checkBox_allowcopy"_s, u"checkBox_allowannotation"_s}},
+        {0,
+         {u"outputfolderEdit"_s, u"checkBox_joinpdf"_s, u"inputfiletableWidget"_s,
+          u"progressBar"_s}},
+        {1,
+         {u"comboBox_rotate"_s, u"comboBox_pagesize"_s, u"comboBox_compresstype"_s,
+          u"checkBox_monochrome"_s}},
+        {2,
+         {u"lineEdit_title"_s, u"lineEdit_subject"_s, u"lineEdit_keywords"_s,
+          u"lineEdit_author"_s}},
+        {3,
+         {u"lineEdit_ownerpwd"_s, u"lineEdit_userpwd"_s, u"checkBox_allowprint"_s,
+          u"checkBox_allowmodify"_s, u"checkBox_allowcopy"_s, u"checkBox_allowannotation"_s}},
     };
     for (const auto &[page, names] : controls) {
         for (const QString &name : names)
@@ -152,8 +156,8 @@ void ControlStyleTest::rotateHasALineBeforeItsArrow()
     QStyleOptionComboBox option;
     option.initFrom(box);
     option.editable = true;
-    const QRect arrow = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                     QStyle::SC_ComboBoxArrow, box);
+    const QRect arrow =
+        box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, box);
     const int edge = direction == Qt::LeftToRight ? arrow.left() : arrow.right();
     const int quarter = box->height() / 4; // above the arrow
     const QList<QColor> colours = coloursAcross(*box, {edge - 4, quarter}, {edge + 4, quarter});
@@ -183,12 +187,12 @@ void ControlStyleTest::captionStandsBesideItsIcon()
     button.resize(200, 31);
     const QImage shown = button.grab().toImage();
     const qreal ratio = shown.devicePixelRatio();
-    auto [iconFirst, iconLast] = columnsOf(
-        shown, [](QColor colour) { return colour.red() > 200 && colour.green() < 60; });
-    auto [textFirst, textLast] = columnsOf(shown.copy(shown.rect().adjusted(
-                                               int(10 * ratio), int(5 * ratio), int(-10 * ratio),
-                                               int(-5 * ratio))),
-                                           [](QColor colour) { return colour.lightness() < 60; });
+    auto [iconFirst, iconLast] =
+        columnsOf(shown, [](QColor colour) { return colour.red() > 200 && colour.green() < 60; });
+    auto [textFirst, textLast] =
+        columnsOf(shown.copy(shown.rect().adjusted(int(10 * ratio), int(5 * ratio),
+                                                   int(-10 * ratio), int(-5 * ratio))),
+                  [](QColor colour) { return colour.lightness() < 60; });
     textFirst += int(10 * ratio);
     textLast += int(10 * ratio);
     const bool isMirrored = direction == Qt::RightToLeft;
@@ -226,8 +230,8 @@ void ControlStyleTest::currentRowIsMarkedWithoutASelection()
     QVERIFY(table->selectedItems().isEmpty());
     const int current = table->currentRow();
     QVERIFY(current >= 0);
-    QVERIFY(contrast(luminance(groundOf(*table, current)), luminance(groundOf(*table, 1 - current))) >
-            1.05);
+    QVERIFY(contrast(luminance(groundOf(*table, current)),
+                     luminance(groundOf(*table, 1 - current))) > 1.05);
 }
 
 void ControlStyleTest::disabledControlsArePale_data()
