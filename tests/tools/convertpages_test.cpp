@@ -29,7 +29,10 @@ private slots:
     void oneDamagedAmongMany();
     void jpegWithDamagedTablesIsRefused_data();
     void jpegWithDamagedTablesIsRefused();
+    void densityBeyondReasonIsNamed_data();
     void densityBeyondReasonIsNamed();
+    void pagesFitReaders_data();
+    void pagesFitReaders();
     void warningsOfASuccessAreLogged();
     void informationIsTheSame_data();
     void informationIsTheSame();
@@ -236,16 +239,58 @@ void ConvertPagesTest::jpegWithDamagedTablesIsRefused()
     QVERIFY(!QFileInfo::exists(place(u"o.pdf"_s)));
 }
 
+void ConvertPagesTest::densityBeyondReasonIsNamed_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("copied") << QStringList{};
+    QTest::newRow("converted") << QStringList{u"-rotate"_s, u"90"_s};
+}
+
 // A page of a kilometre, which ImageMagick writes as 2.88e+06 points.
 void ConvertPagesTest::densityBeyondReasonIsNamed()
 {
+    QFETCH(QStringList, options);
     writeContent(place(u"vast.tif"_s),
                  imagefiles::tiff({.size = {400, 400}, .x = 0.01, .y = 0.01, .unit = 2}));
-    const RunResult result = convert({u"-rotate"_s, u"90"_s, u"vast.tif"_s});
+    const RunResult result = convert(options + QStringList{u"vast.tif"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors, QByteArray("convert: a page is not sound; the image may have a "
                                        "density beyond reason\n"));
     QVERIFY(!QFileInfo::exists(place(u"o.pdf"_s)));
+}
+
+void ConvertPagesTest::pagesFitReaders_data()
+{
+    QTest::addColumn<double>("density");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSizeF>("page");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::newRow("as it is") << 72.0 << QSize(400, 300) << QSizeF(400, 300) << QByteArray();
+    QTest::newRow("too large") << 1.0 << QSize(400, 300) << QSizeF(14400, 10800)
+                               << QByteArray("/UserUnit 2\n");
+    QTest::newRow("too small") << 7200.0 << QSize(400, 150) << QSizeF(8, 3)
+                               << QByteArray("/UserUnit 0.5\n");
+}
+
+// Poppler does not know the unit, and shows the whole page all the same.
+void ConvertPagesTest::pagesFitReaders()
+{
+    QFETCH(double, density);
+    QFETCH(QSize, size);
+    QFETCH(QSizeF, page);
+    QFETCH(QByteArray, unit);
+    writeContent(
+        place(u"page.tif"_s),
+        imagefiles::tiff(
+            {.size = size, .rowsPerStrip = size.height(), .x = density, .y = density, .unit = 2}));
+    for (const QStringList &options : {QStringList{}, QStringList{u"-compress"_s, u"LZW"_s}}) {
+        QCOMPARE(convert(options + QStringList{u"page.tif"_s}).errors, QByteArray());
+        QCOMPARE(readPdf(place(u"o.pdf"_s)).pageSizes, QList<QSizeF>{page});
+        const RunResult open =
+            runProgram(u"qpdf"_s, {u"--qdf"_s, u"o.pdf"_s, u"-"_s}, m_folder.path());
+        QCOMPARE(open.output.contains("/UserUnit"), !unit.isEmpty());
+        QVERIFY(open.output.contains(unit));
+    }
 }
 
 // A tag that nobody knows is no reason to refuse an image.

@@ -19,6 +19,7 @@ private slots:
     void incompleteFileIsRefused_data();
     void incompleteFileIsRefused();
     void profileTravels();
+    void unusedTablesStayBehind();
 };
 
 namespace {
@@ -134,6 +135,8 @@ void JpegPagesTest::isCopiedOrLeftToImageMagick_data()
         false);
     row("two Photoshop segments", jpeg({photoshop(72, 72, 1), photoshop(72, 72, 1)}, colour),
         false);
+    row("Photoshop data in capitals",
+        jpeg({segment(0xED, "PHOTOSHOP 3.0" + QByteArray(1, '\0') + "8BIM")}, colour), false);
     row("application data 13 of somebody else", jpeg({segment(0xED, "somebody")}, colour), true);
     row("Adobe segment with more in it", jpeg({segment(0xEE, adobe(1).mid(4) + "more")}, colour),
         false);
@@ -211,6 +214,21 @@ void JpegPagesTest::profileTravels()
         QCOMPARE(reading.pages.size(), size_t(1));
         QCOMPARE(reading.profiles.front(), whole);
     }
+}
+
+void JpegPagesTest::unusedTablesStayBehind()
+{
+    const QByteArray table = '\3' + QByteArray(64, 'x');
+    const QByteArray alone = segment(0xDB, table);
+    QCOMPARE(readImage(jpeg({alone}, colour)).streams,
+             QByteArrayList{QByteArray("\xFF\xD8") + colour});
+    // Beside one that is used, in one segment.
+    const qsizetype place = colour.indexOf("\xFF\xDB");
+    const QByteArray first = colour.mid(place + 4, 65);
+    QByteArray body = colour;
+    body.replace(place, 69, segment(0xDB, table + first + table));
+    QCOMPARE(readImage(jpeg({}, body)).streams, QByteArrayList{QByteArray("\xFF\xD8") + colour});
+    QVERIFY(readImage(jpeg({segment(0xDB, table.chopped(1))}, colour)).pages.empty());
 }
 
 QTEST_GUILESS_MAIN(JpegPagesTest)

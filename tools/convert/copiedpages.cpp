@@ -110,7 +110,18 @@ Handle dictionaryOf(const std::map<std::string, Handle> &items)
     return Handle::newDictionary(items);
 }
 
+// ImageMagick writes such sides with an exponent, which is no number of a PDF.
+bool isBeyondReason(double side)
+{
+    return side < 1e-4 || side >= 1e6;
+}
+
 } // namespace
+
+ToolError unsoundPage()
+{
+    return ToolError("a page is not sound; the image may have a density beyond reason");
+}
 
 std::vector<Handle> CopiedPages::make(const DocumentPart &part)
 {
@@ -122,6 +133,8 @@ std::vector<Handle> CopiedPages::make(const DocumentPart &part)
 
 Handle CopiedPages::makePage(const DocumentPart &part, const CopyablePage &page)
 {
+    if (isBeyondReason(page.pageWidth) || isBeyondReason(page.pageHeight))
+        throw unsoundPage();
     const Handle box =
         Handle::newArray({Handle::newInteger(0), Handle::newInteger(0),
                           Handle::newReal(page.pageWidth), Handle::newReal(page.pageHeight)});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document.h"
+#include "error.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -8,6 +9,9 @@
 #include <map>
 #include <string>
 #include <vector>
+
+/// For a page whose size no reader can show.
+ToolError unsoundPage();
 
 /// Makes pages of images whose compressed data is copied from their files, or from the spool, when
 /// the document is written.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,6 +14,9 @@ struct Extent
     std::uint64_t length = 0;
     bool isSpooled = false;
 };
+
+/// A page of more pieces is converted, so that their list stays small.
+constexpr std::size_t maxExtents = 1 << 16;
 
 /// A page whose image goes into the PDF as compressed data that is not decoded.
 struct CopyablePage

@@ -47,6 +47,35 @@ void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
     });
 }
 
+// Readers show pages of 3 to 14,400 units in full. A larger or smaller one is scaled into that
+// range, and its unit says how large it is meant to be.
+void fitReaders(QPDF &document, QPDFPageObjectHelper &page)
+{
+    constexpr double minSide = 3;
+    constexpr double maxSide = 14'400;
+    constexpr int decimals = 9;
+    const QPDFObjectHandle::Rectangle box =
+        page.getObjectHandle().getKey("/MediaBox").getArrayAsRectangle();
+    const double longSide = std::max(box.urx - box.llx, box.ury - box.lly);
+    const double shortSide = std::min(box.urx - box.llx, box.ury - box.lly);
+    double unit = 1;
+    if (longSide > maxSide)
+        unit = longSide / maxSide;
+    else if (shortSide < minSide)
+        unit = std::max(shortSide / minSide, longSide / maxSide);
+    if (unit == 1 || shortSide <= 0)
+        return;
+    const std::string scale = QPDFObjectHandle::newReal(1 / unit, decimals).unparse();
+    page.addPageContents(
+        QPDFObjectHandle::newStream(&document, scale + " 0 0 " + scale + " 0 0 cm\n"), true);
+    page.getObjectHandle().replaceKey(
+        "/MediaBox", QPDFObjectHandle::newFromRectangle(QPDFObjectHandle::Rectangle(
+                         0, 0, (box.urx - box.llx) / unit, (box.ury - box.lly) / unit)));
+    // ImageMagick's is the same box as before.
+    page.getObjectHandle().removeKey("/CropBox");
+    page.getObjectHandle().replaceKey("/UserUnit", QPDFObjectHandle::newReal(unit, decimals));
+}
+
 // libqpdf calls it some hundred times while it writes.
 class Check : public QPDFWriter::ProgressReporter
 {
@@ -95,8 +124,10 @@ void Document::add(const DocumentPart &part)
         addPdf(part);
         return;
     }
-    for (const QPDFObjectHandle &page : m_copied.make(part))
+    for (QPDFPageObjectHelper page : m_copied.make(part)) {
+        fitReaders(m_pdf, page);
         m_pages.addPage(page, false);
+    }
 }
 
 void Document::addPdf(const DocumentPart &part)
@@ -113,11 +144,12 @@ void Document::addPdf(const DocumentPart &part)
         throw ToolError("a page is missing");
     // ImageMagick writes a length of a million points as 1e+06, which is no number of a PDF.
     if (source->anyWarnings())
-        throw ToolError("a page is not sound; the image may have a density beyond reason");
+        throw unsoundPage();
     for (QPDFPageObjectHelper &page : pages) {
         // Viewers make their own, and a copied page has none.
         page.getObjectHandle().removeKey("/Thumb");
         leaveColoursToJpeg2000(page);
+        fitReaders(*source, page);
         m_pages.addPage(page, false);
     }
 }
@@ -150,8 +182,8 @@ void Document::write(int file)
     QPDFWriter writer(m_pdf);
     writer.setOutputPipeline(&output);
     writer.setStreamDataMode(qpdf_s_preserve);
-    // JPEG 2000 came with this version, the last of the other compressions with 1.3.
-    writer.setMinimumPDFVersion("1.5");
+    // A unit of the user came with this version, JPEG 2000 with 1.5.
+    writer.setMinimumPDFVersion("1.6");
     writer.registerProgressReporter(std::make_shared<Check>(m_check));
     writer.write();
     output.requireSuccess();

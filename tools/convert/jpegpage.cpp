@@ -2,9 +2,11 @@
 
 #include "density.h"
 #include "error.h"
+#include "jpegtables.h"
 #include "metadata.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 
 namespace {
@@ -39,6 +41,9 @@ constexpr std::string_view adobe("Adobe", 5);
 // What a progressive image needs is some ten; each takes a viewer as long as the whole image.
 constexpr int maxScans = 100;
 
+// A progressive image may have other tables for each scan.
+constexpr std::size_t maxQuantizationSegments = 64;
+
 std::uint8_t byteIn(const std::string &bytes, std::size_t at)
 {
     return static_cast<std::uint8_t>(bytes[at]);
@@ -48,6 +53,15 @@ bool isFrame(int marker)
 {
     return marker >= baseline && marker <= 0xCF && marker != huffmanTables && marker != 0xC8 &&
            marker != 0xCC;
+}
+
+// By ImageMagick's measure, which does not heed capitals.
+bool isPhotoshop(const std::string &bytes)
+{
+    constexpr std::string_view word = "photoshop ";
+    const auto sameLetter = [](char one, char other) { return (one | 0x20) == other; };
+    return bytes.size() >= word.size() &&
+           std::equal(bytes.begin(), bytes.begin() + word.size(), word.begin(), sameLetter);
 }
 
 bool isFactor(int factor)
@@ -80,6 +94,7 @@ private:
     bool coloursAreCertain() const;
     Density density();
     void finish();
+    void dropUnusedTables();
     void keep(std::uint64_t from);
 
     FileBytes &m_file;
@@ -98,6 +113,8 @@ private:
     bool m_isProgressive = false;
     std::optional<int> m_adobeTransform;
     std::string m_componentIds;
+    std::vector<QuantizationSegment> m_quantization;
+    std::set<int> m_usedTables;
     int m_scans = 0;
     int m_scannedComponents = 0;
     int m_profileParts = 0;
@@ -176,8 +193,14 @@ void JpegWalk::segment(int marker)
     if (length.size() < 2 || !m_file.has(size - 2))
         throw ToolError("the image is incomplete: the JPEG file ends inside a segment");
     const std::uint64_t end = m_file.offset() + size - 2;
-    payload(marker, marker == comment ? std::string() : m_file.read(size - 2));
+    const std::string bytes = marker == comment ? std::string() : m_file.read(size - 2);
+    payload(marker, bytes);
     m_file.seek(end);
+    if (marker == quantization) {
+        m_doubtful |= m_quantization.size() >= maxQuantizationSegments;
+        if (!m_doubtful)
+            m_quantization.push_back({{start, end - start}, bytes});
+    }
     const bool isMetadata =
         marker == comment || (marker >= application0 && marker <= application15);
     if (!isMetadata || (marker == application14 && m_adobeTransform))
@@ -203,7 +226,7 @@ void JpegWalk::payload(int marker, const std::string &bytes)
         takeApplication1(bytes);
     } else if (marker == application2) {
         takeProfilePart(bytes);
-    } else if (marker == application13 && bytes.starts_with("Photoshop ")) {
+    } else if (marker == application13 && isPhotoshop(bytes)) {
         m_doubtful |= m_photoshop || !bytes.starts_with(photoshop);
         m_photoshop = readPhotoshopDensity(bytes.substr(std::min(bytes.size(), photoshop.size())));
         m_doubtful |= !m_photoshop;
@@ -241,6 +264,7 @@ void JpegWalk::frame(const std::string &bytes)
         const int across = byteIn(bytes, at + 1) >> 4;
         const int down = byteIn(bytes, at + 1) & 0x0F;
         m_componentIds += bytes[at];
+        m_usedTables.insert(byteIn(bytes, at + 2));
         blocks += across * down;
         m_doubtful |= !isFactor(across) || !isFactor(down);
     }
@@ -339,8 +363,23 @@ void JpegWalk::finish()
     m_doubtful |= !m_profile.empty() && !isProfileFor(m_profile, m_page.components);
     if (!m_doubtful && !m_profile.empty())
         m_page.iccProfile = m_spool.add(m_profile);
+    if (!m_doubtful)
+        dropUnusedTables();
     m_page.filter = "DCTDecode";
     setPageSize(m_page, density());
+}
+
+// Anything could be hidden in them.
+void JpegWalk::dropUnusedTables()
+{
+    for (const QuantizationSegment &segment : m_quantization) {
+        const std::optional<std::string> used = withUsedTables(segment, m_usedTables);
+        if (!used)
+            m_doubtful = true;
+        else if (used->size() != segment.extent.length)
+            replacePart(m_page.extents, segment.extent,
+                        used->empty() ? std::nullopt : std::optional(m_spool.add(*used)));
+    }
 }
 
 void JpegWalk::keep(std::uint64_t from)
@@ -349,8 +388,10 @@ void JpegWalk::keep(std::uint64_t from)
     if (!m_page.extents.empty() &&
         m_page.extents.back().offset + m_page.extents.back().length == from)
         m_page.extents.back().length += length;
-    else
+    else if (m_page.extents.size() < maxExtents)
         m_page.extents.push_back({from, length});
+    else
+        m_doubtful = true;
 }
 
 } // namespace

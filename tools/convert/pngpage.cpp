@@ -31,7 +31,8 @@ std::uint8_t byteIn(const std::string &bytes, std::size_t at)
 // colon), a label printed on the page, a density, a whole profile.
 bool isPlainKeyword(std::string keyword)
 {
-    constexpr std::array<std::string_view, 4> meaningful = {"label", "density", "units", "caption"};
+    constexpr std::array<std::string_view, 6> meaningful = {"label",   "density", "units",
+                                                            "caption", "page",    "colorspace"};
     constexpr std::array<std::string_view, 2> harmless = {"date:", "thumb::"};
     std::transform(keyword.begin(), keyword.end(), keyword.begin(), [](char letter) {
         return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 'a' - 'A') : letter;
@@ -166,7 +167,8 @@ void PngWalk::imageData(std::uint32_t length, unsigned long &sum)
                                    static_cast<std::uint64_t>(m_page.bitsPerComponent);
         m_data = std::make_unique<PngData>(m_page.height, (bits + 7) / 8);
     }
-    if (length > 0)
+    m_doubtful |= m_page.extents.size() >= maxExtents;
+    if (length > 0 && !m_doubtful)
         m_page.extents.push_back({m_file.offset(), length});
     for (std::uint32_t left = length; left > 0;) {
         const std::string piece = m_file.read(std::min<std::size_t>(left, pieceSize));

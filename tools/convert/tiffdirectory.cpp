@@ -52,6 +52,9 @@ constexpr std::array<NumberField, 13> numberFields = {{
 constexpr std::array<std::uint64_t, 16> harmlessTags = {263, 264, 265, 269, 270, 271, 272, 280,
                                                         281, 297, 305, 306, 315, 316, 326, 33432};
 
+// Tiles of 32 pixels in an image as large as the policy allows; further ones are not verified.
+constexpr std::uint64_t maxStrips = std::uint64_t{maxSide / 32} * (maxSide / 32);
+
 enum Tag : std::uint64_t {
     stripOffsets = 273,
     stripByteCounts = 279,
@@ -90,11 +93,15 @@ private:
     std::uint64_t number(const std::string &bytes, std::size_t at, std::size_t size) const;
     TiffDirectory directory(std::uint64_t offset);
     void take(const Field &field, TiffDirectory &directory);
-    std::optional<std::vector<std::uint64_t>> numbers(const Field &field);
+    std::optional<std::vector<std::uint64_t>> numbers(const Field &field, std::uint64_t max);
     std::optional<double> rational(const Field &field);
-    void requireStrips(const TiffDirectory &directory) const;
+    void takeStrips(TiffDirectory &directory);
+    void requireRoom(std::uint64_t bytes);
 
     FileBytes &m_file;
+    std::uint64_t m_tableBytes = 0;
+    std::vector<std::uint64_t> m_offsets;
+    std::vector<std::uint64_t> m_counts;
     bool m_littleEndian = true;
     bool m_big = false;
 };
@@ -150,6 +157,9 @@ TiffDirectory TiffWalk::directory(std::uint64_t offset)
     if (count > mostFields)
         throw ToolError("the image is damaged: a directory of the TIFF file is no directory");
     const std::string bytes = at(offset + countSize, count * fieldSize + numberSize, what);
+    requireRoom(bytes.size());
+    m_offsets.clear();
+    m_counts.clear();
     std::uint64_t before = 0;
     for (std::size_t place = 0; place + fieldSize <= bytes.size(); place += fieldSize) {
         Field field = {number(bytes, place, 2), number(bytes, place + 2, 2),
@@ -163,7 +173,7 @@ TiffDirectory TiffWalk::directory(std::uint64_t offset)
         take(field, result);
     }
     result.next = number(bytes, static_cast<std::size_t>(count) * fieldSize, numberSize);
-    requireStrips(result);
+    takeStrips(result);
     return result;
 }
 
@@ -173,15 +183,15 @@ void TiffWalk::take(const Field &field, TiffDirectory &directory)
         std::find_if(numberFields.begin(), numberFields.end(),
                      [&field](const NumberField &number) { return number.tag == field.tag; });
     if (known != numberFields.end()) {
-        const auto values = numbers(field);
-        directory.doubtful |= !values || values->size() != 1;
+        const auto values = numbers(field, 1);
+        directory.doubtful |= !values || field.count != 1;
         if (values && !values->empty())
             directory.*known->member = values->front();
     } else if (field.tag == stripOffsets || field.tag == tileOffsets) {
         directory.tiled |= field.tag == tileOffsets;
-        directory.offsets = numbers(field).value_or(directory.offsets);
+        m_offsets = numbers(field, maxStrips).value_or(m_offsets);
     } else if (field.tag == stripByteCounts || field.tag == tileByteCounts) {
-        directory.counts = numbers(field).value_or(directory.counts);
+        m_counts = numbers(field, maxStrips).value_or(m_counts);
     } else if (field.tag == xResolution || field.tag == yResolution) {
         const std::optional<double> value = rational(field);
         directory.doubtful |= !value;
@@ -193,7 +203,7 @@ void TiffWalk::take(const Field &field, TiffDirectory &directory)
     }
 }
 
-std::optional<std::vector<std::uint64_t>> TiffWalk::numbers(const Field &field)
+std::optional<std::vector<std::uint64_t>> TiffWalk::numbers(const Field &field, std::uint64_t max)
 {
     if (field.type != byteType && field.type != shortType && field.type != longType &&
         field.type != long8Type)
@@ -201,7 +211,13 @@ std::optional<std::vector<std::uint64_t>> TiffWalk::numbers(const Field &field)
     const std::size_t size = std::max<std::size_t>(typeSize(field.type), 1);
     if (field.count > m_file.size() / size)
         incomplete("a field");
-    const std::string bytes = at(field.value, field.count * size, "a field");
+    m_file.seek(field.value);
+    if (!m_file.has(field.count * size))
+        incomplete("a field");
+    const std::string bytes = m_file.read(std::min(field.count, max) * size);
+    // What fits into a field is counted with its directory.
+    if (bytes.size() > sizeof(std::uint64_t))
+        requireRoom(bytes.size());
     std::vector<std::uint64_t> result;
     for (std::size_t place = 0; place + size <= bytes.size(); place += size)
         result.push_back(number(bytes, place, size));
@@ -223,20 +239,33 @@ std::optional<double> TiffWalk::rational(const Field &field)
 
 // Not where libtiff works out the place itself: an only strip without compression, and the old
 // form of JPEG, which has its own fields.
-void TiffWalk::requireStrips(const TiffDirectory &directory) const
+void TiffWalk::takeStrips(TiffDirectory &directory)
 {
     constexpr std::uint64_t notCompressed = 1;
     constexpr std::uint64_t oldJpeg = 6;
-    const bool estimated = directory.compression == notCompressed && directory.offsets.size() == 1;
+    const bool estimated = directory.compression == notCompressed && m_offsets.size() == 1;
+    directory.strips = m_offsets.size() == m_counts.size() ? m_offsets.size() : 0;
+    directory.hasEmptyStrip = std::ranges::find(m_counts, 0U) != m_counts.end();
+    if (directory.strips > 0)
+        directory.firstStrip = {m_offsets.front(), m_counts.front()};
     if (directory.compression == oldJpeg)
         return;
-    const std::size_t strips = std::min(directory.offsets.size(), directory.counts.size());
+    const std::size_t strips = std::min(m_offsets.size(), m_counts.size());
     for (std::size_t strip = 0; strip < strips; ++strip) {
-        const std::uint64_t offset = directory.offsets[strip];
-        const std::uint64_t count = estimated ? 1 : directory.counts[strip];
+        const std::uint64_t offset = m_offsets[strip];
+        const std::uint64_t count = estimated ? 1 : m_counts[strip];
         if (offset > m_file.size() || count > m_file.size() - offset)
             incomplete("a strip");
     }
+}
+
+// The tables of a file lie beside each other. Many directories that share one would take time and
+// memory without end.
+void TiffWalk::requireRoom(std::uint64_t bytes)
+{
+    m_tableBytes += bytes;
+    if (m_tableBytes > m_file.size())
+        throw ToolError("the image is damaged: tables of the TIFF file overlap");
 }
 
 } // namespace

@@ -29,13 +29,14 @@ struct TiffDirectory
     double xResolution = 0;
     double yResolution = 0;
     bool tiled = false;
-    /// Of the strips or tiles.
-    std::vector<std::uint64_t> offsets;
-    std::vector<std::uint64_t> counts;
+    /// Of the strips or tiles: how many there are, whether one of them is empty, and the first.
+    std::size_t strips = 0;
+    bool hasEmptyStrip = false;
+    Extent firstStrip = {};
     /// Whether it holds fields that could change the page, or any that are not well formed.
     bool doubtful = false;
 };
 
 /// The directories of the pages in their order. Throws ToolError when one of them, or a strip or
-/// tile of its image, does not lie inside the file.
+/// tile of its image, does not lie inside the file, or when its tables overlap.
 std::vector<TiffDirectory> tiffDirectories(FileBytes &file);

@@ -33,10 +33,8 @@ bool isCopyable(const TiffDirectory &page)
            (page.fillOrder == 1 || page.fillOrder == lowestBitFirst) && page.orientation >= 1 &&
            page.orientation <= 8 && (page.subfileType == 0 || page.subfileType == pageOfSeveral) &&
            page.resolutionUnit >= 1 && page.resolutionUnit <= 3 && isSide(page.width) &&
-           isSide(page.height) && rows > 0 &&
-           page.offsets.size() == (page.height + rows - 1) / rows &&
-           page.counts.size() == page.offsets.size() &&
-           std::find(page.counts.begin(), page.counts.end(), 0) == page.counts.end();
+           isSide(page.height) && rows > 0 && page.strips == (page.height + rows - 1) / rows &&
+           !page.hasEmptyStrip;
 }
 
 Density densityOf(const TiffDirectory &page)
@@ -89,17 +87,16 @@ bool endsWithMark(FileBytes &bytes, const Extent &strip)
 void requireWhole(const TiffDirectory &page, int file)
 {
     if (isFax(page) && !isWholeFax(file, page.offset))
-        throw ToolError("the picture is damaged: rows of a fax are missing");
+        throw ToolError("the image is damaged: rows of a fax are missing");
 }
 
 std::optional<std::vector<Extent>> dataOf(const TiffDirectory &directory, FileBytes &bytes,
                                           int file, Spool &spool)
 {
-    if (directory.offsets.size() == 1 && directory.fillOrder != lowestBitFirst) {
-        const Extent strip = {directory.offsets[0], directory.counts[0]};
-        if (!endsWithMark(bytes, strip))
+    if (directory.strips == 1 && directory.fillOrder != lowestBitFirst) {
+        if (!endsWithMark(bytes, directory.firstStrip))
             requireWhole(directory, file);
-        return std::vector<Extent>{strip};
+        return std::vector<Extent>{directory.firstStrip};
     }
     const std::optional<std::string> strip = asOneStrip(file, directory.offset);
     return strip ? std::optional(std::vector<Extent>{spool.add(*strip)}) : std::nullopt;
