@@ -339,7 +339,7 @@ void ConvertPagesTest::shrunkJpegHasTheRealSize_data()
 {
     QTest::addColumn<QSize>("size");
     for (const QSize size : {QSize(2480, 3508), QSize(3508, 2480), QSize(1999, 1501),
-                             QSize(2381, 811), QSize(4001, 17), QSize(333, 2222)})
+                             QSize(2381, 811), QSize(4001, 171), QSize(333, 2222)})
         QTest::addRow("%dx%d", size.width(), size.height()) << size;
 }
 
