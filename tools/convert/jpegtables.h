@@ -16,12 +16,12 @@ struct QuantizationSegment
     std::string content;
 };
 
-/// The segment, with its marker, with those of its tables alone whose numbers are in `used`: "" when
-/// there are none. Nothing when it is malformed.
+/// The segment, with its marker, with those of its tables alone whose numbers are in `used`: ""
+/// when there are none. Nothing when it is malformed.
 std::optional<std::string> withUsedTables(const QuantizationSegment &segment,
                                           const std::set<int> &used);
 
-/// Puts `replacement`, or nothing, in the place of the bytes `part` of `extents`, one of which holds
-/// them whole.
+/// Puts `replacement`, or nothing, in the place of the bytes `part` of `extents`, one of which
+/// holds them whole.
 void replacePart(std::vector<Extent> &extents, const Extent &part,
                  const std::optional<Extent> &replacement);
