@@ -318,6 +318,8 @@ void RowsTest::addedRowsShowInEveryList()
     WindowFixture fixture;
     auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     table->horizontalHeader()->setSortIndicator(sortedBy, Qt::AscendingOrder);
+    QVERIFY(QTest::qWaitForWindowExposed(&fixture.window));
+    QCoreApplication::processEvents(); // a layout that is still due would find the rows by itself
     fixture.addImages({u"b.jpg"_s, u"a.jpg"_s});
     fixture.addImages({u"c.jpg"_s});
     QCOMPARE(table->verticalHeader()->count(), 3);
@@ -374,7 +376,7 @@ void RowsTest::tipOfACutOffRowIsItsFile()
         return QTextDocumentFragment::fromHtml(html).toPlainText().remove(QChar(0x200e));
     };
     if (tip.isEmpty())
-        QVERIFY(!QToolTip::text().contains(path));
+        QCOMPARE(QToolTip::text(), table->toolTip());
     else
         QCOMPARE(plain(QToolTip::text()), tip);
     QToolTip::hideText();
