@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <csignal>
 #include <cstdio>
 
 #include <jpeglib.h>
@@ -24,6 +25,7 @@ private slots:
     void damageThatImageMagickReportsIsRefused();
     void faxWithMissingRowsIsRefused_data();
     void faxWithMissingRowsIsRefused();
+    void longFaxStopsOnASignal();
     void oddImageIsConverted_data();
     void oddImageIsConverted();
 };
@@ -315,6 +317,33 @@ void DamagedImagesTest::faxWithMissingRowsIsRefused()
     const RunResult result = convert(file, u"x.tif"_s, options, folder);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains("rows of a fax are missing"), result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{u"x.tif"_s});
+}
+
+// Its last page is damaged, which is found when all others have been decoded.
+void DamagedImagesTest::longFaxStopsOnASignal()
+{
+    constexpr int pages = 40'000;
+    QByteArray file = tiffFile({});
+    const auto first = qFromLittleEndian<quint32>(file.constData() + 4);
+    const qsizetype size = 2 + 12 * qFromLittleEndian<quint16>(file.constData() + first) + 4;
+    const QByteArray directory = file.mid(first, size);
+    const QByteArray damaged = withHalfOfItsData(file).mid(first, size);
+    qsizetype last = first;
+    for (int page = 1; page < pages; ++page) {
+        file = patched(std::move(file), last + size - 4, quint32(file.size()));
+        last = file.size();
+        file += page == pages - 1 ? damaged : directory;
+    }
+    const QTemporaryDir folder;
+    writeContent(folder.filePath(u"x.tif"_s), file);
+    const auto call = startProgram(bundledTool(u"convert"_s),
+                                   turned + QStringList{u"x.tif"_s, u"o.pdf"_s}, folder.path());
+    QTRY_COMPARE(namesIn(folder.path()).size(), 2);
+    kill(static_cast<pid_t>(call->processId()), SIGTERM);
+    QVERIFY(call->waitForFinished(60000));
+    const QByteArray errors = call->readAllStandardError();
+    QVERIFY2(errors.contains("ended by signal 15"), errors.constData());
     QCOMPARE(namesIn(folder.path()), QStringList{u"x.tif"_s});
 }
 
