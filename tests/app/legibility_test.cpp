@@ -27,6 +27,7 @@ class LegibilityTest : public QObject
 private slots:
     void initTestCase();
     void cleanup();
+    void fontSetInPixelsFits();
     void textsFitTheirPlaces_data();
     void textsFitTheirPlaces();
     void textsDoNotRunIntoEachOther_data();
@@ -129,6 +130,17 @@ void LegibilityTest::useFont()
     QApplication::setFont(font);
     QFETCH(QString, language);
     speak(*qApp, language);
+}
+
+void LegibilityTest::fontSetInPixelsFits()
+{
+    QFont large = usual;
+    large.setPixelSize(30);
+    QApplication::setFont(large);
+    WindowFixture fixture;
+    const auto *label = fixture.find<QLabel>("label_12");
+    QVERIFY(label->font().pointSizeF() >= 6.5);
+    QVERIFY(label->sizeHint().width() <= label->width());
 }
 
 void LegibilityTest::textsFitTheirPlaces_data()
