@@ -1,5 +1,6 @@
 #include "startcommand.h"
 
+#include "sandboxsupport.h"
 #include "startarguments.h"
 #include "startup.h"
 #include "translation.h"
@@ -88,8 +89,10 @@ bool answerQuestion(int argc, char **argv)
     QCoreApplication application(argc, argv);
     speak(application, wantedLanguage());
     const QString answer =
-        asked.wantsHelp ? startHelp()
-                        : QStringLiteral("Tessaro Image to PDF Converter " TESSARO_VERSION "\n");
+        asked.wantsHelp
+            ? startHelp()
+            : QStringLiteral("Tessaro Image to PDF Converter " TESSARO_VERSION "\nSandbox: ") +
+                  QString::fromStdString(describeSandbox()) + QLatin1Char('\n');
     std::fputs(answer.toLocal8Bit().constData(), stdout);
     return true;
 }

@@ -47,6 +47,13 @@ bool readsFrom(int file)
     return file >= 0 && read(file, &byte, 1) == 1;
 }
 
+// Its number may belong to another file by now.
+bool readsSecret(int descriptor)
+{
+    std::string content(6, '\0');
+    return read(descriptor, content.data(), content.size()) > 0 && content == "secret";
+}
+
 bool reads(Path path)
 {
     return readsFrom(open(path, O_RDONLY));
@@ -291,7 +298,8 @@ std::vector<Attempt> attempts(const Knowledge &k)
          [=] { return done(setpriority(PRIO_PROCESS, static_cast<id_t>(victim), 5)); }},
         {"read the caller's secret variable",
          [] { return getenv("TESSARO_TEST_SECRET") && *getenv("TESSARO_TEST_SECRET") != '\0'; }},
-        {"read the caller's descriptor", [=] { return readsFrom(std::atoi(path("descriptor"))); }},
+        {"read the caller's descriptor",
+         [=] { return readsSecret(std::atoi(path("descriptor"))); }},
         {"type into a terminal", typesIntoTerminal},
         {"make shared memory", [] { return done(shmget(IPC_PRIVATE, 4096, 0600)); }},
         {"reach the keyring",

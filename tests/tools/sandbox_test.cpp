@@ -106,7 +106,7 @@ class UserFiles
 public:
     UserFiles()
     {
-        for (const QString &folder : {u"home/.ssh"_s, u"in"_s, u"out/.tessaro-abcdef"_s})
+        for (const QString &folder : {u"home/.ssh"_s, u"in"_s, u"out/private"_s})
             QDir(m_folder.path()).mkpath(folder);
         for (const QString &file :
              {u"home/.ssh/id"_s, u"home/remove"_s, u"home/rename"_s, u"home/move"_s,
@@ -124,7 +124,7 @@ public:
                 u"other-input="_s + path(u"in/other.bmp"_s),
                 u"output="_s + path(u"out/o.pdf"_s),
                 u"output-folder="_s + path(u"out"_s),
-                u"other-private="_s + path(u"out/.tessaro-abcdef"_s),
+                u"other-private="_s + path(u"out/private"_s),
                 u"to-remove="_s + path(u"home/remove"_s),
                 u"to-rename="_s + path(u"home/rename"_s),
                 u"to-move="_s + path(u"home/move"_s)};
@@ -146,6 +146,8 @@ private slots:
     void imageToolIsConfined_data();
     void imageToolIsConfined();
     void everyAttemptIsListed();
+    void readersAreConfined_data();
+    void readersAreConfined();
     void processLeftBehindIsEnded();
     void missingSandboxIsLogged();
 
@@ -245,6 +247,34 @@ void SandboxTest::imageToolIsConfined()
 void SandboxTest::everyAttemptIsListed()
 {
     QCOMPARE(m_outside.size(), static_cast<qsizetype>(attempts.size()));
+}
+
+void SandboxTest::readersAreConfined_data()
+{
+    QTest::addColumn<QByteArray>("signature");
+    QTest::newRow("JPEG") << QByteArray("\xFF\xD8\xFF");
+    QTest::newRow("PNG") << QByteArray("\x89PNG\r\n\x1A\n");
+    QTest::newRow("TIFF") << QByteArray("II*\0", 4);
+}
+
+// They start the image tool, and so may start processes; but no other program.
+void SandboxTest::readersAreConfined()
+{
+    QFETCH(QByteArray, signature);
+    const UserFiles files;
+    lseek(m_secret.handle(), 0, SEEK_SET);
+    const ToolBundle bundle({u"/bin/false"_s});
+    QVERIFY(QFile::remove(bundle.tool(u"convert"_s)));
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_HOSTILECONVERT), bundle.tool(u"convert"_s)));
+    writeContent(files.path(u"in/own.bmp"_s),
+                 signature + '\n' + knowledge(files).join(u'\n').toUtf8() + '\n');
+    const RunResult result =
+        runProgram(bundle.tool(u"convert"_s),
+                   {files.path(u"in/own.bmp"_s), files.path(u"out/o.pdf"_s)}, files.path(u"out"_s));
+    const Fates fates = fatesIn(result.errors);
+    QCOMPARE(fates.size(), static_cast<qsizetype>(attempts.size()));
+    QCOMPARE(fates.keys(u"succeeded"_s).join(u", "_s), u"start a process"_s);
+    QCOMPARE(namesIn(files.path(u"out"_s)), QStringList({u"o.pdf"_s, u"private"_s}));
 }
 
 // Without a sandbox a tool can start what outlives it, in a session of its own, and writes without

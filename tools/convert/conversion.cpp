@@ -3,6 +3,7 @@
 #include "error.h"
 #include "magick.h"
 #include "magickwarnings.h"
+#include "outputtransaction.h"
 #include "text.h"
 
 #include <algorithm>
@@ -45,11 +46,14 @@ std::string titleOf(const std::string &output)
 
 } // namespace
 
-Conversion::Conversion(const ConvertCall &call)
+Conversion::Conversion(const ConvertCall &call, const WorkDirectory &folder,
+                       const WorkDirectory &pixels)
     : m_call(call)
     , m_concurrency(maxConcurrency(machineCores(), machineMemory()))
-    , m_output(call.output)
-    , m_spool(m_output.folder().addFile("spool"))
+    , m_folder(folder)
+    , m_pixels(pixels)
+    , m_spool(folder.addFile("spool"))
+    , m_inputs(pixels)
 {
 }
 
@@ -70,7 +74,7 @@ std::string Conversion::run()
 bool Conversion::startNext()
 {
     while (m_runs.empty() && m_planned < m_call.inputs.size()) {
-        requireNoSignal();
+        m_pool.requireNoSignal();
         plan(m_call.inputs[m_planned++]);
     }
     if (m_runs.empty())
@@ -116,7 +120,7 @@ void Conversion::addRuns(const std::string &path, const ConvertedImage &image,
                           part,
                           {.pages = count, .bytes = bytes}});
         DocumentPart &made = m_parts.emplace_back();
-        made.path = m_output.folder().path() + "/" + runFolder(part) + "/" + pageName;
+        made.path = m_folder.path() + "/" + runFolder(part) + "/" + pageName;
         made.minPages = isSplit ? count : 1;
     }
 }
@@ -124,23 +128,21 @@ void Conversion::addRuns(const std::string &path, const ConvertedImage &image,
 // Each run has folders of its own, for the page and for its pixels.
 void Conversion::start(const Run &run)
 {
-    if (!m_pixels)
-        m_pixels = WorkDirectory::inFirstOf(pixelFolders(folderOf(m_call.output)));
     const std::string name = runFolder(run.part);
-    const FileDescriptor folder = m_output.folder().addFolder(name);
-    m_pixels->addFolder(name);
+    const FileDescriptor folder = m_folder.addFolder(name);
+    m_pixels.addFolder(name);
     const std::string input =
         m_inputs.add(folder.get(), run.path, inputName(run.part + 1, run.path)) + run.selector;
     Workload work = run.work;
     const bool alone = m_call.inputs.size() == 1 && m_runs.empty() && m_parts.size() == 1;
     work.concurrency = alone ? 1 : m_concurrency;
     ChildSpec spec = magickCommand(pageArguments(m_call.options, run.image, input, pageName),
-                                   limitsFor(work, machineMemory(), freeBytesIn(m_pixels->path())),
-                                   m_pixels->path() + "/" + name);
+                                   limitsFor(work, machineMemory(), freeBytesIn(m_pixels.path())),
+                                   m_pixels.path() + "/" + name);
     spec.folder = folder.get();
-    spec.sandbox = magickSandbox(
-        spec.command.front(), absolutePath(run.path),
-        {m_output.folder().plainPath() + "/" + name, m_pixels->plainPath() + "/" + name});
+    spec.sandbox =
+        magickSandbox(spec.command.front(), absolutePath(run.path),
+                      {m_folder.plainPath() + "/" + name, m_pixels.plainPath() + "/" + name});
     m_pool.start(std::move(spec), run.part);
 }
 
@@ -148,23 +150,16 @@ void Conversion::finish(ChildPool::Ended ended)
 {
     forgiveWrongFileSize(ended.result);
     const std::string warnings = m_inputs.requireSuccess(ended.result);
-    requireNoSignal();
+    m_pool.requireNoSignal();
     if (reportsDamage(ended.result.errors))
         throw ToolError({1, "", warnings + "the image is damaged or not complete\n"});
     m_warnings += warnings;
-    validatePdf(m_output.folder().descriptor(), runFolder(ended.number) + "/" + pageName);
+    validatePdf(m_folder.descriptor(), runFolder(ended.number) + "/" + pageName);
 }
 
 void Conversion::join()
 {
-    writeDocument(m_output.folder().addFile(OutputTransaction::resultName).get(), m_parts,
-                  m_spool.file(), titleOf(m_call.output), [this] { requireNoSignal(); });
-    requireNoSignal();
-    m_output.commit();
-}
-
-void Conversion::requireNoSignal()
-{
-    if (const int signal = m_pool.askedToEnd())
-        throw ToolError({1, "", "ended by signal " + std::to_string(signal) + "\n"});
+    writeDocument(m_folder.addFile(OutputTransaction::resultName).get(), m_parts, m_spool.file(),
+                  titleOf(m_call.output), [this] { m_pool.requireNoSignal(); });
+    m_pool.requireNoSignal();
 }

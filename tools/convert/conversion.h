@@ -5,11 +5,10 @@
 #include "document.h"
 #include "imageplan.h"
 #include "inputlinks.h"
-#include "outputtransaction.h"
 #include "subprocesspool.h"
+#include "workdirectory.h"
 
 #include <deque>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,8 +17,9 @@
 class Conversion
 {
 public:
-    /// Throws ToolError when nothing can be written beside the output.
-    explicit Conversion(const ConvertCall &call);
+    /// The document is made in `folder`, as the file OutputTransaction::resultName; pixels that do
+    /// not fit into memory go into `pixels`. Throws ToolError.
+    Conversion(const ConvertCall &call, const WorkDirectory &folder, const WorkDirectory &pixels);
 
     /// Returns what ImageMagick warned of. Throws ToolError.
     std::string run();
@@ -42,19 +42,16 @@ private:
     void start(const Run &run);
     void finish(ChildPool::Ended ended);
     void join();
-    void requireNoSignal();
 
     const ConvertCall &m_call;
     const size_t m_concurrency;
-    OutputTransaction m_output;
+    const WorkDirectory &m_folder;
+    const WorkDirectory &m_pixels;
     Spool m_spool;
     InputLinks m_inputs;
-    /// For pixels that do not fit into memory.
-    std::unique_ptr<WorkDirectory> m_pixels;
     std::vector<DocumentPart> m_parts;
     size_t m_planned = 0;
     std::deque<Run> m_runs;
     std::string m_warnings;
-    // Last, so that children end before their folders are removed.
     ChildPool m_pool;
 };

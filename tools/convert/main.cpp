@@ -1,9 +1,23 @@
 #include "bundle.h"
 #include "conversion.h"
 #include "error.h"
+#include "outputtransaction.h"
+#include "text.h"
 #include "toolmain.h"
 
 namespace {
+
+Sandbox sandboxFor(const ConvertCall &call, const std::vector<std::string> &folders)
+{
+    Sandbox sandbox = {.files = rulesToRun(realCommand("convert").front()),
+                       .startsProcesses = true};
+    sandbox.files.push_back({resourcesFolder(), Access::Read});
+    for (const std::string &input : call.inputs)
+        sandbox.files.push_back({input, Access::Read});
+    for (const std::string &folder : folders)
+        sandbox.files.push_back({folder, Access::Write});
+    return sandbox;
+}
 
 std::string run(const Arguments &arguments)
 {
@@ -14,7 +28,17 @@ std::string run(const Arguments &arguments)
         requireRegularFile(input);
     // Without a policy nothing is made, not even of images that are only copied.
     requirePolicy();
-    return Conversion(*call).run();
+    const OutputTransaction output(call->output);
+    const std::unique_ptr<WorkDirectory> pixels =
+        WorkDirectory::inFirstOf(pixelFolders(folderOf(call->output)));
+    ChildSpec bounds;
+    bounds.sandbox = sandboxFor(*call, {output.folder().plainPath(), pixels->plainPath()});
+    std::string warnings = runConfined("convert", bounds, [&] {
+        holdSignals();
+        return Conversion(*call, output.folder(), *pixels).run();
+    });
+    output.commit();
+    return warnings;
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "inputlinks.h"
 #include "outputtransaction.h"
 #include "pdftkcall.h"
-#include "signalwatch.h"
 #include "text.h"
 #include "toolmain.h"
 
@@ -65,9 +64,15 @@ std::string run(const Arguments &arguments)
         entries = entriesOf(*call->infoFile, charset);
     const std::optional<Encryption> encryption = encryptionOf(*call, charset);
     const OutputTransaction output(call->output);
-    const SignalWatch watch(output.folder(), timeFor(call->input));
-    writeFinishedPdf(call->input, entries, encryption,
-                     output.folder().addFile(OutputTransaction::resultName).get());
+    ChildSpec bounds;
+    bounds.deadline = timeFor(call->input);
+    bounds.sandbox = {
+        .files = {{call->input, Access::Read}, {output.folder().plainPath(), Access::Write}}};
+    runConfined("pdftk", bounds, [&] {
+        writeFinishedPdf(call->input, entries, encryption,
+                         output.folder().addFile(OutputTransaction::resultName).get());
+        return std::string();
+    });
     output.commit();
     return "";
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <string_view>
 
 #include <unistd.h>
@@ -28,4 +29,12 @@ std::vector<std::string> environmentWith(const std::vector<std::string> &additio
     }
     result.insert(result.end(), additions.begin(), additions.end());
     return result;
+}
+
+void wipeEnvironment()
+{
+    for (char **variable = environ; *variable; ++variable) {
+        if (!isPassedOn(*variable))
+            explicit_bzero(*variable, strlen(*variable));
+    }
 }

@@ -4,7 +4,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -27,53 +26,27 @@ void copyFile(const std::string &path, int folder, const std::string &name)
 
 } // namespace
 
-InputLinks::InputLinks()
-    : m_places(temporaryFolders())
-{
-}
-
-// vfat and exFAT know no links. A hard link or a copy never stands for anything but the file.
+// vfat and exFAT know no links. A copy never stands for anything but the file.
 std::string InputLinks::add(int folder, const std::string &path, const std::string &name)
 {
     const std::string origin = absolutePath(path);
     std::string word = name;
     if (symlinkat(origin.c_str(), folder, name.c_str()) != 0) {
-        if (const std::optional<std::string> elsewhere = addElsewhere(origin, name))
-            word = *elsewhere;
-        else if (linkat(AT_FDCWD, origin.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW) != 0)
+        if (symlinkat(origin.c_str(), m_elsewhere.descriptor(), name.c_str()) == 0)
+            word = m_elsewhere.plainPath() + "/" + name;
+        else
             copyFile(origin, folder, name);
     }
     m_originalPaths.emplace(word, path);
     return word;
 }
 
-std::optional<std::string> InputLinks::addElsewhere(const std::string &path,
-                                                    const std::string &name)
-{
-    for (; !m_places.empty(); m_places.erase(m_places.begin())) {
-        try {
-            if (!m_elsewhere)
-                m_elsewhere.emplace(m_places.front());
-        } catch (const ToolError &) {
-            continue;
-        }
-        if (symlinkat(path.c_str(), m_elsewhere->descriptor(), name.c_str()) == 0)
-            return m_elsewhere->plainPath() + "/" + name;
-        m_elsewhere.reset();
-    }
-    return std::nullopt;
-}
-
 std::string InputLinks::requireSuccess(const ChildResult &result) const
 {
-    std::string errors = replaced(result.errors, m_originalPaths);
-    if (result.succeeded())
-        return errors;
-    if (result.timedOut)
-        errors += "gave up: it took too long\n";
-    else if (WIFSIGNALED(result.waitStatus))
-        errors += "ended by signal " + std::to_string(WTERMSIG(result.waitStatus)) + "\n";
-    throw ToolError({result.exitStatus(), replaced(result.output, m_originalPaths), errors});
+    std::string errors = replaced(result.explainedErrors(), m_originalPaths);
+    if (!result.succeeded())
+        throw ToolError({result.exitStatus(), replaced(result.output, m_originalPaths), errors});
+    return errors;
 }
 
 void requireRegularFile(const std::string &path)

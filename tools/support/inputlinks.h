@@ -4,7 +4,6 @@
 #include "text.h"
 #include "workdirectory.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,11 +12,15 @@
 class InputLinks
 {
 public:
-    InputLinks();
+    /// `elsewhere` takes the links where the folder of a tool takes none.
+    explicit InputLinks(const WorkDirectory &elsewhere)
+        : m_elsewhere(elsewhere)
+    {
+    }
 
     /// Makes the file at `path` known as `name`, which no other input may have, to a tool that
-    /// works in `folder`, and returns the word for its command line. Where the folder takes no
-    /// links, they stand in a temporary folder; where none does, the file is copied. Throws
+    /// works in `folder`, and returns the word for its command line. Where no folder takes links,
+    /// the file is copied. Throws
     /// ToolError when that fails too.
     std::string add(int folder, const std::string &path, const std::string &name);
 
@@ -26,11 +29,7 @@ public:
     std::string requireSuccess(const ChildResult &result) const;
 
 private:
-    std::optional<std::string> addElsewhere(const std::string &path, const std::string &name);
-
-    /// Places for links that have not been tried yet, beginning with that of m_elsewhere.
-    std::vector<std::string> m_places;
-    std::optional<WorkDirectory> m_elsewhere;
+    const WorkDirectory &m_elsewhere;
     Replacements m_originalPaths;
 };
 

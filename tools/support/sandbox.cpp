@@ -384,15 +384,20 @@ private:
 
 void restrictCalls(const Sandbox &sandbox)
 {
+    // The filter of the first sandbox stays in force inside the second.
+    static bool isInside = false;
     CallFilter filter;
-    for (const char *call : refusedCalls)
-        filter.refuse(call);
-    for (const int number : refusedNumbers)
-        filter.refuse(number, ENOSYS);
-    for (const char *call : unseenCalls)
-        filter.refuse(call, ENOSYS);
-    for (const RefusedArgument &refused : refusedArguments)
-        filter.refuse(refused);
+    if (!isInside) {
+        for (const char *call : refusedCalls)
+            filter.refuse(call);
+        for (const int number : refusedNumbers)
+            filter.refuse(number, ENOSYS);
+        for (const char *call : unseenCalls)
+            filter.refuse(call, ENOSYS);
+        for (const RefusedArgument &refused : refusedArguments)
+            filter.refuse(refused);
+    }
+    isInside = true;
     if (!sandbox.startsProcesses) {
         for (const char *call : startingCalls)
             filter.refuse(call);
@@ -407,8 +412,12 @@ void restrictCalls(const Sandbox &sandbox)
 std::vector<FileRule> rulesToRun(const std::string &program)
 {
     std::vector<FileRule> rules = {{program, Access::Execute}};
+    const std::string prefix = folderOf(folderOf(program));
+    // Of the system's own folders what is needed is in the table.
+    if (prefix == "/" || prefix == "/usr")
+        return rules;
     for (const char *beside : {"/lib", "/etc", "/share"})
-        rules.push_back({folderOf(folderOf(program)) + beside, Access::Read});
+        rules.push_back({prefix + beside, Access::Read});
     return rules;
 }
 

@@ -11,6 +11,15 @@ int ChildResult::exitStatus() const
     return WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 1;
 }
 
+std::string ChildResult::explainedErrors() const
+{
+    if (timedOut)
+        return errors + "gave up: it took too long\n";
+    if (WIFSIGNALED(waitStatus))
+        return errors + "ended by signal " + std::to_string(WTERMSIG(waitStatus)) + "\n";
+    return errors;
+}
+
 void holdSignals()
 {
     // A caller that ignores these would hide the child's end, or keep it from ending with us.

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,6 +23,8 @@ struct ChildSpec
 {
     /// The program's path and its arguments.
     std::vector<std::string> command;
+    /// Instead of a program: what a copy of this process does before it exits with what comes back.
+    std::function<int()> task;
     /// The whole environment, as "NAME=value".
     std::vector<std::string> environment;
     /// Descriptor of the folder to work in; -1 stays in ours.
@@ -48,6 +51,8 @@ struct ChildResult
     bool succeeded() const { return waitStatus == 0; }
     /// The child's own exit status; 1 for one that was ended by a signal.
     int exitStatus() const;
+    /// The errors, and what ended a child that did not end by itself.
+    std::string explainedErrors() const;
 };
 
 /// From now on SIGCHLD, SIGTERM, SIGINT, SIGHUP and SIGQUIT wait for whoever runs a child. Of the

@@ -89,6 +89,12 @@ int ChildPool::askedToEnd()
     return m_signal;
 }
 
+void ChildPool::requireNoSignal()
+{
+    if (const int signal = askedToEnd())
+        throw ToolError({1, "", "ended by signal " + std::to_string(signal) + "\n"});
+}
+
 void ChildPool::step()
 {
     std::vector<pollfd> watched = {{m_signals.get(), POLLIN, 0}};

@@ -32,6 +32,8 @@ public:
     Ended wait();
     /// The last signal that has asked for an end, or 0; looks for one that nobody has taken yet.
     int askedToEnd();
+    /// Throws ToolError when there is one.
+    void requireNoSignal();
 
     /// What holdSignals() blocks.
     static sigset_t heldSignals();

@@ -79,7 +79,8 @@ void ChildProcess::start()
     int descriptor = -1;
     m_child = forkWithDescriptor(descriptor);
     if (m_child < 0)
-        throw systemError("cannot start", m_spec.command.front());
+        throw systemError("cannot start",
+                          m_spec.command.empty() ? "a process" : m_spec.command.front());
     if (m_child == 0)
         becomeChild(parent, arguments.data(), environment.data());
     m_descriptor = FileDescriptor(descriptor);
@@ -114,6 +115,8 @@ void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environmen
             throw systemError("cannot start", arguments[0]);
         if (m_spec.sandbox)
             enterSandbox(*m_spec.sandbox);
+        if (m_spec.task)
+            _exit(m_spec.task());
         execve(arguments[0], arguments, environment);
         throw systemError("cannot start", arguments[0]);
     } catch (const ToolError &error) {

@@ -1,9 +1,11 @@
 #include "toolmain.h"
 
 #include "calllog.h"
+#include "environment.h"
 #include "error.h"
 #include "filedescriptor.h"
 #include "hardening.h"
+#include "subprocesspool.h"
 #include "text.h"
 
 #include <algorithm>
@@ -48,16 +50,16 @@ bool printHelpOrVersion(const Tool &tool, const Arguments &arguments)
     return true;
 }
 
-ToolResult resultOf(const Tool &tool, const Arguments &arguments)
+ToolResult resultOf(const std::string &name, const std::function<std::string()> &work)
 {
     try {
-        return {0, "", tool.run(arguments)};
+        return {0, "", work()};
     } catch (const ToolError &error) {
-        return error.result(tool.name);
+        return error.result(name);
     } catch (const std::bad_alloc &) {
-        return {1, "", tool.name + ": not enough memory\n"};
+        return {1, "", name + ": not enough memory\n"};
     } catch (const std::exception &error) {
-        return {1, "", tool.name + ": " + error.what() + "\n"};
+        return {1, "", name + ": " + error.what() + "\n"};
     }
 }
 
@@ -70,7 +72,7 @@ int runGuarded(const Tool &tool, int argc, char **argv)
     prepareProcess();
     if (printHelpOrVersion(tool, arguments))
         return 0;
-    ToolResult result = resultOf(tool, arguments);
+    ToolResult result = resultOf(tool.name, [&] { return tool.run(arguments); });
     if (result.status != 0) {
         writeAll(STDOUT_FILENO, result.output);
         writeAll(STDERR_FILENO, result.errors);
@@ -96,4 +98,23 @@ int runTool(const Tool &tool, int argc, char **argv)
             writeAll(STDERR_FILENO, part);
     }
     return 1;
+}
+
+std::string runConfined(const std::string &name, ChildSpec bounds,
+                        const std::function<std::string()> &work)
+{
+    bounds.task = [&name, &work] {
+        wipeEnvironment();
+        const ToolResult result = resultOf(name, work);
+        writeAll(STDOUT_FILENO, result.output);
+        writeAll(STDERR_FILENO, result.errors);
+        return result.status;
+    };
+    ChildPool pool;
+    pool.start(std::move(bounds), 0);
+    const ChildResult result = pool.wait().result;
+    if (!result.succeeded())
+        throw ToolError({result.exitStatus(), result.output, result.explainedErrors()});
+    pool.requireNoSignal();
+    return result.errors;
 }

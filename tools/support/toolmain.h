@@ -1,5 +1,8 @@
 #pragma once
 
+#include "subprocess.h"
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,3 +24,10 @@ struct Tool
 /// and --version; on failure the messages are shown. Both are logged on request. Arguments that
 /// `tool` masks are wiped from `argv` before anything else.
 int runTool(const Tool &tool, int argc, char **argv);
+
+/// Does `work`, which reads files of strangers for the tool called `name`, in a copy of this
+/// process with the sandbox, limits and deadline of `bounds`. Returns what `work` returns, or
+/// throws ToolError with what it threw. Signals are passed on, and end the copy unless it holds
+/// them.
+std::string runConfined(const std::string &name, ChildSpec bounds,
+                        const std::function<std::string()> &work);

@@ -138,11 +138,6 @@ WorkDirectory::WorkDirectory(const std::string &parent)
 
 WorkDirectory::~WorkDirectory()
 {
-    remove();
-}
-
-void WorkDirectory::remove() const
-{
     removeFolder(m_folder.get(), m_parent.get(), m_name.c_str());
 }
 

@@ -27,9 +27,6 @@ public:
     /// failure of the last.
     static std::unique_ptr<WorkDirectory> inFirstOf(const std::vector<std::string> &parents);
 
-    /// Removes the folder at once, for a process that ends without its destructors.
-    void remove() const;
-
     int descriptor() const { return m_folder.get(); }
     /// As a path below the parent as it was given.
     std::string path() const { return m_parentPath + "/" + m_name; }
