@@ -29,6 +29,7 @@ private slots:
     void closedStreamsChangeNothing_data();
     void closedStreamsChangeNothing();
     void noCoreIsDumped();
+    void theRealToolHasTheUsualStack();
     void lackOfMemoryIsASentence();
     void smallStackIsEnough();
     void limitOnFileSizesIsAFailure();
@@ -235,6 +236,14 @@ void ToolProcessesTest::noCoreIsDumped()
                                         bundle.tool(u"convert"_s), converting, m_folder.path());
     QCOMPARE(result.errors.simplified(),
              QByteArray("Max core file size 1 1 bytes Max core file size 1 1 bytes"));
+}
+
+void ToolProcessesTest::theRealToolHasTheUsualStack()
+{
+    const ToolBundle bundle(shellTool(u"ulimit -s >&2; exit 1"_s));
+    const RunResult result =
+        runInShell(u"ulimit -S -s 65536"_s, bundle.tool(u"convert"_s), converting, m_folder.path());
+    QCOMPARE(result.errors, QByteArray("8192\n"));
 }
 
 void ToolProcessesTest::lackOfMemoryIsASentence()

@@ -25,6 +25,17 @@ void openStandardStreams()
     close(stream);
 }
 
+// The window raises the limit for long command lines; a real tool gets Linux's usual one.
+void lowerStackLimit()
+{
+    constexpr rlim_t usual = rlim_t(8) * 1024 * 1024;
+    rlimit stack = {};
+    if (getrlimit(RLIMIT_STACK, &stack) == 0 && stack.rlim_cur > usual) {
+        stack.rlim_cur = usual;
+        setrlimit(RLIMIT_STACK, &stack);
+    }
+}
+
 } // namespace
 
 // Linux takes a limit of one byte as "never", for dumps to a file and to a program alike; a limit
@@ -42,6 +53,7 @@ void prepareProcess()
 {
     close_range(STDERR_FILENO + 1, ~0U, 0);
     openStandardStreams();
+    lowerStackLimit();
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     maskAtStart = umask(forUserAlone);
     holdSignals();
