@@ -37,7 +37,7 @@ QString localPath(const QUrl &url)
 QString asTyped(const QString &name, const QStringList &arguments)
 {
     for (const QString &argument : arguments) {
-        const QString option = argument.section(QLatin1Char('='), 0, 0);
+        QString option = argument.section(QLatin1Char('='), 0, 0);
         if (option == QLatin1Char('-') + name || option == QLatin1String("--") + name)
             return option;
     }
