@@ -1,25 +1,13 @@
-// The order of the list's rows: moved by keys, dragged, sorted, and 10,000 changes at random beside
-// a plain list that is changed alike.
+// The order of the list's rows: moved by keys, dragged and sorted.
 
-#include "filetable.h"
-#include "windowfixture.h"
+#include "filelistrows.h"
 
-#include <QAction>
-#include <QDropEvent>
 #include <QHeaderView>
 #include <QMimeData>
-
-#include <algorithm>
-#include <random>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-FileTable &listOf(WindowFixture &fixture)
-{
-    return *dynamic_cast<FileTable *>(fixture.find<QTableWidget>("inputfiletableWidget"));
-}
 
 /// The list's file names with a blank between them, the selected ones in capitals.
 QString namesOf(WindowFixture &fixture)
@@ -32,49 +20,6 @@ QString namesOf(WindowFixture &fixture)
     }
     return names.join(u' ');
 }
-
-void selectRows(FileTable &list, const QList<int> &rows)
-{
-    list.clearSelection();
-    for (const int row : rows)
-        list.selectionModel()->setCurrentIndex(
-            list.model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-/// Drops the selected rows before row `place`: below the middle of the row above, or above the
-/// middle of the row itself.
-void dropRows(FileTable &list, int place, bool belowTheRowAbove)
-{
-    struct Opened : FileTable
-    {
-        using FileTable::dropEvent;
-    };
-    const int row = belowTheRowAbove ? place - 1 : place;
-    list.scrollTo(list.model()->index(row, 0));
-    const int y = list.rowViewportPosition(row) + (belowTheRowAbove ? list.rowHeight(row) - 1 : 0);
-    const QMimeData rows;
-    QDropEvent event(QPointF(5, y), Qt::MoveAction, &rows, Qt::LeftButton, Qt::NoModifier);
-    (list.*(&Opened::dropEvent))(&event);
-}
-
-void sortBy(WindowFixture &fixture, const QString &actionText)
-{
-    const auto actions = listOf(fixture).actions();
-    const auto action = std::ranges::find(actions, actionText, &QAction::text);
-    if (action == actions.end())
-        qFatal("no such action");
-    (*action)->trigger();
-}
-
-void clickHeader(FileTable &list, int column)
-{
-    QHeaderView *header = list.horizontalHeader();
-    const QPoint place(header->sectionViewportPosition(column) + 20, header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-}
-
-const QString byName = u"Sort by Name, 2 before 10"_s;
-const QString asAdded = u"Sort as Added"_s;
 
 } // namespace
 
@@ -98,7 +43,6 @@ private slots:
     void selectedRowsAreDragged();
     void otherRowsAreSweptOver();
     void stepOfARunTakesTheRowAtItsIndex();
-    void noRowIsEverLost();
 };
 
 void RowOrderTest::keysMoveTheSelectedRows_data()
@@ -321,148 +265,6 @@ void RowOrderTest::stepOfARunTakesTheRowAtItsIndex()
     for (const ToolCall &call : calls)
         images << call.arguments.first().section(u'/', -1);
     QCOMPARE(images, QStringList({u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s}));
-}
-
-namespace {
-
-/// A list of files as simple as can be, changed as the window's is.
-struct PlainList
-{
-    struct Row
-    {
-        QString name; // "FOLDER/pNUMBER"
-        int added;
-        bool selected = false;
-
-        QString folder() const { return name.section(u'/', 0, 0); }
-        int number() const { return name.section(u'p', 1).toInt(); }
-    };
-
-    QList<Row> rows;
-
-    void moveTo(int place)
-    {
-        QList<Row> before, selected, behind;
-        for (int row = 0; row < rows.size(); ++row) {
-            if (rows[row].selected)
-                selected << rows[row];
-            else
-                (row < place ? before : behind) << rows[row];
-        }
-        rows = before + selected + behind;
-    }
-
-    void moveByOne(int step)
-    {
-        const auto edge = step < 0 ? 0 : rows.size() - 1;
-        if (rows.isEmpty() || rows[edge].selected)
-            return;
-        QList<Row> result = rows;
-        for (auto row = edge; row >= 0 && row < rows.size(); row -= step) {
-            if (rows[row].selected)
-                result.swapItemsAt(row, row + step);
-        }
-        rows = result;
-    }
-
-    template <class Less>
-    void sort(Less less)
-    {
-        std::stable_sort(rows.begin(), rows.end(), less);
-    }
-};
-
-} // namespace
-
-void RowOrderTest::noRowIsEverLost()
-{
-    WindowFixture fixture;
-    FileTable &list = listOf(fixture);
-    fixture.activate();
-    list.setFocus();
-    PlainList plain;
-    int files = 0;
-    std::mt19937 random(20261121);
-    const auto below = [&random](qsizetype limit) {
-        return static_cast<int>(random() % static_cast<unsigned>(limit));
-    };
-
-    const std::function<void()> changes[] = {
-        [&] { // add
-            QList<QUrl> urls;
-            for (int file = below(6); file >= 0 && plain.rows.size() < 60; --file) {
-                const QString name =
-                    u"%1/p%2"_s.arg(QChar(u'x' + below(3))).arg(below(900) * 100 + files % 100);
-                plain.rows.append({name, files++});
-                urls << QUrl::fromLocalFile(u"/n/"_s + name);
-            }
-            list.horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-            fixture.drop(urls);
-        },
-        [&] { // select
-            QList<int> selected;
-            for (int row = 0; row < plain.rows.size(); ++row) {
-                plain.rows[row].selected = below(4) == 0;
-                if (plain.rows[row].selected)
-                    selected << row;
-            }
-            selectRows(list, selected);
-        },
-        [&] { QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier), plain.moveByOne(-1); },
-        [&] { QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier), plain.moveByOne(1); },
-        [&] { QTest::keyClick(&list, Qt::Key_Home, Qt::AltModifier), plain.moveTo(0); },
-        [&] {
-            QTest::keyClick(&list, Qt::Key_End, Qt::AltModifier);
-            plain.moveTo(static_cast<int>(plain.rows.size()));
-        },
-        [&] { // drag
-            if (plain.rows.isEmpty())
-                return;
-            const int place = below(plain.rows.size() + 1);
-            dropRows(list, place, place == plain.rows.size() || (place > 0 && below(2) == 0));
-            plain.moveTo(place);
-        },
-        [&] {
-            sortBy(fixture, byName);
-            plain.sort([](const auto &a, const auto &b) {
-                return std::pair(a.folder(), a.number()) < std::pair(b.folder(), b.number());
-            });
-        },
-        [&] {
-            sortBy(fixture, asAdded);
-            plain.sort([](const auto &a, const auto &b) { return a.added < b.added; });
-        },
-        [&] { // by the header
-            clickHeader(list, 0);
-            const bool isUp = list.horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
-            plain.sort([isUp](const auto &a, const auto &b) {
-                return isUp ? a.name < b.name : b.name < a.name;
-            });
-        },
-        [&] { // remove, now and then all
-            const bool all = below(20) == 0;
-            fixture.press(all ? "removeallButton" : "removeButton");
-            plain.rows.removeIf([all](const auto &row) { return all || row.selected; });
-            list.clearSelection(); // what is selected after a removal is not this test's affair
-            for (auto &row : plain.rows)
-                row.selected = false;
-        },
-    };
-
-    for (int change = 0; change < 10000; ++change) {
-        const int kind = below(static_cast<int>(std::size(changes)));
-        changes[kind]();
-        QStringList expected, actual;
-        for (const auto &row : std::as_const(plain.rows))
-            expected << row.name + (row.selected ? u"*"_s : QString());
-        for (int row = 0; row < list.rowCount(); ++row)
-            actual << list.item(row, 0)->text().mid(3) +
-                          (list.item(row, 0)->isSelected() ? u"*"_s : QString());
-        if (actual != expected)
-            qWarning("change %d of kind %d", change, kind);
-        QCOMPARE(actual, expected);
-    }
-    QVERIFY(files > 1000);
 }
 
 QTEST_MAIN(RowOrderTest)
