@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QStyleOptionComboBox>
 #include <QTableWidget>
@@ -81,6 +82,25 @@ std::pair<int, int> columnsOf(const QImage &image, const std::function<bool(QCol
     return {first, last};
 }
 
+/// How many pixels thick the dark line is that begins at `edge`, a place of `widget`; 0 when the
+/// pixels there are no line between two lighter sides.
+int lineThickness(QWidget &widget, QPoint edge, QPoint inward)
+{
+    constexpr int reach = 4;
+    constexpr int clearlyDarker = 40;
+    const QImage shown = widget.window()->grab().toImage();
+    const qreal ratio = shown.devicePixelRatio();
+    const QPoint middle = (QPointF(widget.mapTo(widget.window(), edge)) * ratio).toPoint();
+    QString tones; // across the line: "l" for light, "d" for dark
+    const int ground = qGray(shown.pixel(middle + reach * inward));
+    for (int step = -reach; step <= reach; ++step) {
+        const int tone = qGray(shown.pixel(middle + step * inward));
+        tones += QLatin1Char(ground - tone > clearlyDarker ? 'd' : 'l');
+    }
+    static const QRegularExpression line(u"^l+(d+)l+$"_s);
+    return static_cast<int>(line.match(tones).capturedLength(1));
+}
+
 } // namespace
 
 class ControlStyleTest : public QObject
@@ -88,6 +108,8 @@ class ControlStyleTest : public QObject
     Q_OBJECT
 
 private slots:
+    void frameHasWholeLines_data();
+    void frameHasWholeLines();
     void everyBorderStandsOut_data();
     void everyBorderStandsOut();
     void rotateHasALineBeforeItsArrow_data();
@@ -249,6 +271,38 @@ void ControlStyleTest::disabledControlsArePale()
     const QPalette colours = QApplication::palette();
     QVERIFY(luminance(colours.color(QPalette::Disabled, role)) >
             luminance(colours.color(QPalette::Active, role)) + 0.2);
+}
+
+void ControlStyleTest::frameHasWholeLines_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("frame");
+    QTest::addColumn<QPoint>("edge");
+    QTest::addColumn<QPoint>("inward");
+    const QPoint left(-1, 0), right(1, 0), up(0, -1), down(0, 1);
+    QTest::newRow("left of the preview") << 0 << u"previewframe"_s << QPoint(0, 20) << right;
+    QTest::newRow("right of the preview") << 0 << u"previewframe"_s << QPoint(150, 20) << left;
+    QTest::newRow("above the preview") << 0 << u"previewframe"_s << QPoint(20, 0) << down;
+    QTest::newRow("below the preview") << 0 << u"previewframe"_s << QPoint(20, 150) << up;
+    QTest::newRow("above the files") << 0 << u"frame_6"_s << QPoint(25, 0) << down;
+    QTest::newRow("above the appearance") << 1 << u"frame_4"_s << QPoint(25, 0) << down;
+    QTest::newRow("below the appearance") << 1 << u"frame_4"_s << QPoint(25, 300) << up;
+    QTest::newRow("above the description") << 2 << u"frame_2"_s << QPoint(25, 0) << down;
+    QTest::newRow("above the security") << 3 << u"frame_3"_s << QPoint(25, 0) << down;
+    QTest::newRow("above the side buttons") << 0 << u"frame_8"_s << QPoint(25, 0) << down;
+    QTest::newRow("below the side buttons") << 0 << u"frame_8"_s << QPoint(25, 80) << up;
+}
+
+void ControlStyleTest::frameHasWholeLines()
+{
+    QFETCH(int, page);
+    QFETCH(QString, frame);
+    QFETCH(QPoint, edge);
+    QFETCH(QPoint, inward);
+    WindowFixture fixture;
+    fixture.find<QStackedWidget>("stackedWidget_dialog")->setCurrentIndex(page);
+    auto *widget = fixture.find<QWidget>(qPrintable(frame));
+    QCOMPARE(lineThickness(*widget, edge, inward), static_cast<int>(widget->devicePixelRatioF()));
 }
 
 int main(int argc, char *argv[])

@@ -59,4 +59,3 @@ inline void clickHeader(FileTable &list, int column)
 
 inline const QString byName = QStringLiteral("Sort by Name, 2 before 10");
 inline const QString asAdded = QStringLiteral("Sort as Added");
-

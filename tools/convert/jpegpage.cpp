@@ -2,6 +2,7 @@
 
 #include "density.h"
 #include "error.h"
+#include "jpegmarkers.h"
 #include "jpegtables.h"
 #include "metadata.h"
 
@@ -10,27 +11,6 @@
 #include <string_view>
 
 namespace {
-
-enum Marker : int {
-    baseline = 0xC0,
-    progressive = 0xC2,
-    huffmanTables = 0xC4,
-    firstRestart = 0xD0,
-    lastRestart = 0xD7,
-    startOfImage = 0xD8,
-    endOfImage = 0xD9,
-    startOfScan = 0xDA,
-    quantization = 0xDB,
-    restartInterval = 0xDD,
-    application0 = 0xE0,
-    application1 = 0xE1,
-    application2 = 0xE2,
-    application13 = 0xED,
-    application14 = 0xEE,
-    application15 = 0xEF,
-    losslessLs = 0xF7,
-    comment = 0xFE,
-};
 
 constexpr std::string_view jfif("JFIF\0", 5);
 constexpr std::string_view exif("Exif\0\0", 6);
