@@ -180,7 +180,6 @@ std::string encoded(CodePointsView text)
 
 std::string localeCharset()
 {
-    setlocale(LC_CTYPE, "");
-    const std::string charset = nl_langinfo(CODESET);
+    static const std::string charset = (setlocale(LC_CTYPE, ""), nl_langinfo(CODESET));
     return charset == "ANSI_X3.4-1968" ? "UTF-8" : charset;
 }

@@ -110,6 +110,8 @@ std::string runConfined(const std::string &name, ChildSpec bounds,
         writeAll(STDERR_FILENO, result.errors);
         return result.status;
     };
+    // Kept for `work`: inside there is no environment that names a locale.
+    localeCharset();
     ChildPool pool;
     pool.start(std::move(bounds), 0);
     const ChildResult result = pool.wait().result;
