@@ -143,7 +143,8 @@ inline constexpr auto refusedNumbers = std::to_array<int>({452, 463, 466, 467, 4
 inline constexpr auto unseenCalls = std::to_array<const char *>({"clone3", "openat2"});
 
 // What only those need that start other processes.
-inline constexpr auto startingCalls = std::to_array<const char *>({"fork", "vfork", "pidfd_send_signal"});
+inline constexpr auto startingCalls =
+    std::to_array<const char *>({"fork", "vfork", "pidfd_send_signal"});
 
 struct RefusedArgument
 {
