@@ -1,6 +1,7 @@
 // Preloaded into a program, does once what TESSARO_FAULTINJECTION says: "full" makes the first
 // write of a large piece of data fail as on a full disk; "signal" ends the program politely
-// (SIGTERM) at that write; any other value is a file that changes when it is read first.
+// (SIGTERM) at that write, or with status 99 when it goes on to write ten more; any other value is
+// a file that changes when it is read first.
 
 #include <cerrno>
 #include <csignal>
@@ -60,8 +61,13 @@ extern "C" ssize_t write(int file, const void *data, size_t size)
         errno = ENOSPC;
         return -1;
     }
-    if (wanted == "signal")
+    static int writesLeft = -1;
+    if (size >= large && writesLeft > 0 && --writesLeft == 0)
+        _exit(99);
+    if (wanted == "signal") {
         signalItself();
+        writesLeft = 10;
+    }
     return real(file, data, size);
 }
 

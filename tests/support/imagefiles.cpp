@@ -309,4 +309,26 @@ QByteArray tiff(const TiffForm &form)
     return file.readAll();
 }
 
+QByteArray tiledTiff()
+{
+    constexpr uint32_t side = 200;
+    constexpr uint32_t tileSide = 112;
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("no temporary file");
+    TIFF *tiff = TIFFOpen(file.fileName().toLocal8Bit().constData(), "wl");
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, side);
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, side);
+    TIFFSetField(tiff, TIFFTAG_TILEWIDTH, tileSide);
+    TIFFSetField(tiff, TIFFTAG_TILELENGTH, tileSide);
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK);
+    QByteArray pixels(tileSide * tileSide, '\x55');
+    for (uint32_t tile = 0; tile < 4; ++tile)
+        TIFFWriteEncodedTile(tiff, tile, pixels.data(), pixels.size());
+    TIFFClose(tiff);
+    return file.readAll();
+}
+
 } // namespace imagefiles

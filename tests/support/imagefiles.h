@@ -85,5 +85,7 @@ struct TiffForm
     bool big = false;
 };
 QByteArray tiff(const TiffForm &form);
+/// Grey, not compressed, in four tiles.
+QByteArray tiledTiff();
 
 } // namespace imagefiles

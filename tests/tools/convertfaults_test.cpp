@@ -15,7 +15,7 @@ private slots:
     void init();
     void imageThatChangesAtTheFirstReadIsRefused_data();
     void imageThatChangesAtTheFirstReadIsRefused();
-    void signalDuringTheJoiningKeepsTheOlderPdf();
+    void signalEndsALongMergeAtOnce();
     void pageThatTheToolDropsIsAFailure();
     void copyCutShortIsAFailure();
 
@@ -61,10 +61,12 @@ void ConvertFaultsTest::imageThatChangesAtTheFirstReadIsRefused()
     QCOMPARE(contentOf(place(u"o.pdf"_s)), QByteArray("older"));
 }
 
-void ConvertFaultsTest::signalDuringTheJoiningKeepsTheOlderPdf()
+// 300 pages, of which the signal comes while the first ones are written.
+void ConvertFaultsTest::signalEndsALongMergeAtOnce()
 {
     makeImage(place(u"x.jpg"_s), {1000, 1000});
-    const RunResult result = convert({bundledTool(u"convert"_s), u"x.jpg"_s}, u"signal"_s);
+    const RunResult result =
+        convert(QStringList{bundledTool(u"convert"_s)} + QStringList(300, u"x.jpg"_s), u"signal"_s);
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors, QByteArray("ended by signal 15\n"));
     QCOMPARE(contentOf(place(u"o.pdf"_s)), QByteArray("older"));

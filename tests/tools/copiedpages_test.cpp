@@ -24,6 +24,8 @@ private slots:
     void pageHasTheRealSize();
     void pictureIsTheRealOne_data();
     void pictureIsTheRealOne();
+    void indexBeyondThePaletteIsDamage_data();
+    void indexBeyondThePaletteIsDamage();
     void privateDataStaysBehind_data();
     void privateDataStaysBehind();
 };
@@ -80,6 +82,23 @@ void addRows(const QList<CopyableFile> &files)
     QTest::addColumn<bool>("isCopied");
     for (const CopyableFile &file : files)
         QTest::newRow(file.name.constData()) << file.bytes << file.isCopied;
+}
+
+// 40 x 30 indices up to 254, and a palette of 200 colours.
+QByteArray pngWithFewColours()
+{
+    imagefiles::PngForm form;
+    form.colourType = 3;
+    const QByteArray whole = imagefiles::png(form);
+    const qsizetype palette = whole.indexOf("PLTE") - 4;
+    return whole.left(palette) + imagefiles::chunk("PLTE", whole.mid(palette + 8, 3 * 200)) +
+           whole.mid(palette + 12 + 3 * 256);
+}
+
+// One pixel of colour 3, and a palette of two.
+QByteArray gifWithFewColours()
+{
+    return "GIF89a" + QByteArray::fromHex("01000100800000ffffff0000002c00000000010001000002025c01003b");
 }
 
 } // namespace
@@ -146,6 +165,29 @@ void CopiedPagesTest::pictureIsTheRealOne()
         QImage source = QImage::fromData(bytes).convertToFormat(QImage::Format_RGB888);
         source.setColorSpace({});
         QCOMPARE(drawnBy(u"mutool"_s, folder.path(), u"ours"_s), source);
+    }
+}
+
+void CopiedPagesTest::indexBeyondThePaletteIsDamage_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("PNG") << pngWithFewColours();
+    QTest::newRow("GIF") << gifWithFewColours();
+}
+
+// Whatever is asked for.
+void CopiedPagesTest::indexBeyondThePaletteIsDamage()
+{
+    QFETCH(const QByteArray, bytes);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath(u"picture"_s), bytes);
+    for (const QStringList &options : {QStringList{}, {u"-rotate"_s, u"90"_s}}) {
+        const RunResult result = runBundled(
+            u"convert"_s, options + QStringList{u"picture"_s, u"ours.pdf"_s}, folder.path());
+        QCOMPARE(result.status, 1);
+        const QByteArray words = result.errors.toLower().replace(" ", "");
+        QVERIFY2(words.contains("invalidcolormapindex"), result.errors.constData());
+        QCOMPARE(namesIn(folder.path()), QStringList{u"picture"_s});
     }
 }
 

@@ -1,5 +1,6 @@
 // Images that are damaged become no PDF, and those that are only odd do.
 
+#include "imagefiles.h"
 #include "pdffacts.h"
 #include "toolbench.h"
 
@@ -224,6 +225,7 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
     const QByteArray strips =
         tiffFile({.compression = COMPRESSION_NONE, .rowsPerStrip = 50, .isBilevel = false});
     const QByteArray runs = tiffFile({.compression = COMPRESSION_PACKBITS, .isBilevel = false});
+    const QByteArray tiles = imagefiles::tiledTiff();
     const QByteArray inTiff = tiffFile({.compression = COMPRESSION_JPEG, .isBilevel = false});
     const QByteArray restarting = jpegFile({.restartRows = 2});
 
@@ -254,6 +256,9 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
         QTest::addRow("TIFF file with half of its field %d", tag)
             << "x.tif" << patched(strips, placeOf(strips, tag) + 4, 2) << QStringList{}
             << QByteArray("Incorrect count for \"Strip");
+    QTest::newRow("TIFF file with half of its tiles")
+        << "x.tif" << patched(tiles, placeOf(tiles, TIFFTAG_TILEOFFSETS) + 4, 2)
+        << QStringList{} << QByteArray("Incorrect count for \"Tile");
     QTest::newRow("run of bytes longer than its strip")
         << "x.tif" << withHalfOverwritten(runs, '\x81') << QStringList{}
         << QByteArray("to avoid buffer overrun");

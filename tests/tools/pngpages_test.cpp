@@ -5,6 +5,10 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
 using namespace imagefiles;
 
 class PngPagesTest : public QObject
@@ -15,6 +19,8 @@ private slots:
     void imageDataIsCopied();
     void isCopiedOrLeftToImageMagick_data();
     void isCopiedOrLeftToImageMagick();
+    void indexBeyondThePaletteIsNotCopied_data();
+    void indexBeyondThePaletteIsNotCopied();
     void incompleteFileIsRefused_data();
     void incompleteFileIsRefused();
     void profileTravels();
@@ -66,6 +72,49 @@ QByteArray withHeader(int colourType, int depth, const QByteArray &methods,
            chunk("IHDR",
                  size + static_cast<char>(depth) + static_cast<char>(colourType) + methods) +
            file.mid(8 + 25);
+}
+
+// What each of a PNG file's five filters leaves of a byte.
+quint8 filtered(int filter, int byte, int left, int above, int corner)
+{
+    const int toLeft = std::abs(above - corner);
+    const int toAbove = std::abs(left - corner);
+    const int toCorner = std::abs(left + above - 2 * corner);
+    const int paeth = toLeft <= toAbove && toLeft <= toCorner ? left
+                      : toAbove <= toCorner                   ? above
+                                                              : corner;
+    const std::array predictions = {0, left, above, (left + above) / 2, paeth};
+    return static_cast<quint8>(byte - predictions.at(static_cast<size_t>(filter)));
+}
+
+// An image of 11 x 9 indices, `last` the greatest and in one place only, with a palette of `colours`.
+QByteArray indexed(int bits, int filter, int colours, int last)
+{
+    const QSize size(11, 9);
+    const int rowBytes = (size.width() * bits + 7) / 8;
+    QByteArray rows;
+    QByteArray above(rowBytes, '\0');
+    for (int y = 0; y < size.height(); ++y) {
+        // The bits behind the last index are ones: they are no index.
+        QByteArray row(rowBytes, '\0');
+        row.back() = static_cast<char>((1 << (8 * rowBytes - size.width() * bits)) - 1);
+        for (int x = 0; x < size.width(); ++x) {
+            const bool isGreatest = x == size.width() - 1 && y == size.height() - 1;
+            const int index = isGreatest ? last : (x * 5 + y * 3) % std::min(last, colours);
+            row[x * bits / 8] =
+                static_cast<char>(row[x * bits / 8] | index << (8 - bits - x * bits % 8));
+        }
+        rows += static_cast<char>(filter);
+        for (int at = 0; at < rowBytes; ++at)
+            rows += static_cast<char>(filtered(filter, quint8(row[at]), at ? quint8(row[at - 1]) : 0,
+                                               quint8(above[at]), at ? quint8(above[at - 1]) : 0));
+        above = row;
+    }
+    const QByteArray sides = big32(quint32(size.width())) + big32(quint32(size.height()));
+    return png({}).left(8) +
+           chunk("IHDR", sides + static_cast<char>(bits) + QByteArray("\3\0\0\0", 4)) +
+           chunk("PLTE", QByteArray(3 * colours, '\7')) + chunk("IDAT", qCompress(rows).mid(4)) +
+           chunk("IEND", {});
 }
 
 QByteArray profileChunk(const QByteArray &profile)
@@ -143,6 +192,11 @@ void PngPagesTest::isCopiedOrLeftToImageMagick_data()
     row("an international text", withText("iTXt", "Description"), true);
     row("a date of ImageMagick's", withText("tEXt", "date:create"), true);
     row("a label, which ImageMagick prints", withText("tEXt", "Label"), false);
+    row("a page, which ImageMagick takes for a canvas", withText("tEXt", "page"), false);
+    row("a page in capitals, compressed", withText("zTXt", "Page"), false);
+    row("a colour space as text", withText("tEXt", "colorspace"), false);
+    row("a colour space in capitals, behind the image data",
+        withLaterChunk(chunk("tEXt", QByteArray("Colorspace\0Gray", 15))), false);
     row("a density as text", withText("tEXt", "exif:XResolution"), false);
     row("a whole profile as text", withText("zTXt", "Raw profile type exif"), false);
     row("XMP", withText("iTXt", "XML:com.adobe.xmp"), false);
@@ -181,6 +235,26 @@ void PngPagesTest::isCopiedOrLeftToImageMagick_data()
 }
 
 void PngPagesTest::isCopiedOrLeftToImageMagick()
+{
+    compareReading();
+}
+
+void PngPagesTest::indexBeyondThePaletteIsNotCopied_data()
+{
+    addReadingRows();
+    for (int filter = 0; filter < 5; ++filter) {
+        for (const int bits : {2, 4, 8}) {
+            const int colours = (1 << bits) - 1;
+            QTest::addRow("filter %d, %d bits", filter, bits)
+                << indexed(bits, filter, colours, colours) << false;
+            QTest::addRow("filter %d, %d bits, the last colour", filter, bits)
+                << indexed(bits, filter, colours, colours - 1) << true;
+        }
+    }
+    QTest::newRow("one bit, one colour") << indexed(1, 0, 1, 1) << false;
+}
+
+void PngPagesTest::indexBeyondThePaletteIsNotCopied()
 {
     compareReading();
 }

@@ -1,7 +1,6 @@
 #include "copiedpages.h"
 
 #include "error.h"
-#include "filebytes.h"
 #include "filedescriptor.h"
 
 #include <qpdf/Pipeline.hh>
@@ -16,6 +15,25 @@
 namespace {
 
 using Handle = QPDFObjectHandle;
+
+void copyExtent(int file, const Extent &extent, const std::string &path,
+                const std::function<void()> &check, Pipeline &pipeline)
+{
+    constexpr std::uint64_t blockSize = 65536;
+    std::vector<unsigned char> buffer(std::min(blockSize, extent.length));
+    for (std::uint64_t done = 0; done < extent.length;) {
+        check();
+        const size_t wanted = std::min<std::uint64_t>(buffer.size(), extent.length - done);
+        const ssize_t count =
+            pread(file, buffer.data(), wanted, static_cast<off_t>(extent.offset + done));
+        if (count < 0)
+            throw systemError("cannot read", path);
+        if (count == 0)
+            throw ToolError("'" + path + "' was changed meanwhile");
+        pipeline.write(buffer.data(), static_cast<size_t>(count));
+        done += static_cast<std::uint64_t>(count);
+    }
+}
 
 // The data of a page's image: from its file, which must be as it was when it was read, and from the
 // spool.
@@ -39,35 +57,38 @@ public:
             throw systemError("cannot read", m_path);
         requireUnchanged(file.get(), m_path, m_identity);
         for (const Extent &extent : m_extents)
-            copy(extent.isSpooled ? m_spool : file.get(), extent, *pipeline);
+            copyExtent(extent.isSpooled ? m_spool : file.get(), extent, m_path, m_check, *pipeline);
         requireUnchanged(file.get(), m_path, m_identity);
         pipeline->finish();
     }
 
 private:
-    void copy(int file, const Extent &extent, Pipeline &pipeline) const
-    {
-        std::vector<unsigned char> buffer(std::min<std::uint64_t>(blockSize, extent.length));
-        for (std::uint64_t done = 0; done < extent.length;) {
-            m_check();
-            const size_t wanted = std::min<std::uint64_t>(buffer.size(), extent.length - done);
-            const ssize_t count =
-                pread(file, buffer.data(), wanted, static_cast<off_t>(extent.offset + done));
-            if (count < 0)
-                throw systemError("cannot read", m_path);
-            if (count == 0)
-                throw ToolError("'" + m_path + "' was changed meanwhile");
-            pipeline.write(buffer.data(), static_cast<size_t>(count));
-            done += static_cast<std::uint64_t>(count);
-        }
-    }
-
-    static constexpr std::uint64_t blockSize = 65536;
-
     std::string m_path;
     FileIdentity m_identity;
     std::vector<Extent> m_extents;
     int m_spool;
+    const std::function<void()> &m_check;
+};
+
+class ProfileData : public Handle::StreamDataProvider
+{
+public:
+    ProfileData(int spool, const Extent &extent, const std::function<void()> &check)
+        : m_spool(spool)
+        , m_extent(extent)
+        , m_check(check)
+    {
+    }
+
+    void provideStreamData(const QPDFObjGen &, Pipeline *pipeline) override
+    {
+        copyExtent(m_spool, m_extent, "the pages", m_check, *pipeline);
+        pipeline->finish();
+    }
+
+private:
+    int m_spool;
+    Extent m_extent;
     const std::function<void()> &m_check;
 };
 
@@ -181,9 +202,9 @@ Handle CopiedPages::profileOf(const CopyablePage &page)
     const auto known = m_profiles.find(page.iccProfile->offset);
     if (known != m_profiles.end())
         return known->second;
-    FileBytes spool(m_spool);
-    spool.seek(page.iccProfile->offset);
-    Handle profile = Handle::newStream(&m_document, spool.read(page.iccProfile->length));
+    Handle profile = Handle::newStream(&m_document);
+    profile.replaceStreamData(std::make_shared<ProfileData>(m_spool, *page.iccProfile, m_check),
+                              Handle::newNull(), Handle::newNull());
     const int components = page.palette.empty() ? page.components : 3;
     profile.getDict().replaceKey("/N", Handle::newInteger(components));
     m_profiles.emplace(page.iccProfile->offset, profile);

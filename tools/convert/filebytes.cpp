@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 
 #include <sys/stat.h>
@@ -14,6 +15,16 @@ namespace {
 constexpr std::size_t blockCapacity = std::size_t{256} * 1024;
 
 } // namespace
+
+void requireNoSignal()
+{
+    sigset_t pending;
+    sigpending(&pending);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+        if (sigismember(&pending, signal) == 1)
+            throw ToolError("ended by signal " + std::to_string(signal));
+    }
+}
 
 FileBytes::FileBytes(int file)
     : m_file(file)
@@ -37,6 +48,7 @@ bool FileBytes::load()
         return true;
     if (m_offset >= m_size)
         return false;
+    requireNoSignal();
     ssize_t count = -1;
     do {
         count = pread(m_file, m_block.data(), m_block.size(), static_cast<off_t>(m_offset));

@@ -6,8 +6,11 @@
 #include <string>
 #include <vector>
 
+/// Throws ToolError when one of the signals that end the call waits (holdSignals()).
+void requireNoSignal();
+
 /// Reads a regular file forward in blocks, from its descriptor and without moving its offset.
-/// Throws ToolError where the system cannot read.
+/// Throws ToolError where the system cannot read, or when a signal ends the call.
 class FileBytes
 {
 public:

@@ -309,7 +309,8 @@ void JpegWalk::takeProfilePart(const std::string &bytes)
     const int parts = byteIn(bytes, iccProfile.size() + 1);
     m_doubtful |= number != ++m_profileParts || (number > 1 && parts != m_profilePartsPromised);
     m_profilePartsPromised = parts;
-    m_profile += bytes.substr(iccProfile.size() + 2);
+    if (!m_doubtful)
+        m_profile += bytes.substr(iccProfile.size() + 2);
 }
 
 void JpegWalk::takeAdobe(const std::string &bytes)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -23,9 +24,10 @@ Bytef *input(std::string_view bytes)
 
 } // namespace
 
-PngData::PngData(std::uint64_t rows, std::uint64_t rowBytes)
+PngData::PngData(std::uint64_t rows, std::uint64_t rowBytes, std::optional<PngIndices> indices)
     : m_output(outputSize)
     , m_rowSize(rowBytes + 1)
+    , m_indices(std::move(indices))
     , m_missing(rows * m_rowSize)
 {
     if (inflateInit(&m_stream) != Z_OK)
@@ -62,6 +64,8 @@ void PngData::check(std::size_t count)
     for (; at < used; at += m_rowSize)
         if (m_output[static_cast<std::size_t>(at)] > lastFilter)
             damaged();
+    for (std::uint64_t place = 0; m_indices && place < used; ++place)
+        m_indices->add(m_output[static_cast<std::size_t>(place)]);
     m_untilFilter = at - used;
     m_missing -= used;
 }
@@ -70,7 +74,7 @@ bool PngData::isExact() const
 {
     if (m_missing > 0)
         throw ToolError("the image is incomplete: rows are missing in the PNG file");
-    return m_exact && m_ended;
+    return m_exact && m_ended && (!m_indices || m_indices->areKnown());
 }
 
 std::optional<std::string> inflated(std::string_view compressed, std::size_t max)

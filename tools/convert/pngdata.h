@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pngindices.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -14,13 +16,15 @@
 class PngData
 {
 public:
-    PngData(std::uint64_t rows, std::uint64_t rowBytes);
+    /// `indices` are those of an image whose palette has no entry for some.
+    PngData(std::uint64_t rows, std::uint64_t rowBytes, std::optional<PngIndices> indices);
     ~PngData();
     PngData(const PngData &) = delete;
     PngData &operator=(const PngData &) = delete;
 
     void add(std::string_view compressed);
-    /// Whether there is nothing behind the last row; throws when that has not come.
+    /// Whether there is nothing behind the last row and no index beyond the palette; throws when
+    /// the last row has not come.
     bool isExact() const;
 
 private:
@@ -29,6 +33,7 @@ private:
     z_stream m_stream = {};
     std::vector<std::uint8_t> m_output;
     std::uint64_t m_rowSize;
+    std::optional<PngIndices> m_indices;
     std::uint64_t m_missing;
     std::uint64_t m_untilFilter = 0;
     bool m_ended = false;

@@ -16,6 +16,7 @@
 namespace {
 
 constexpr std::size_t signatureSize = 8;
+constexpr std::size_t paletteEntry = 3;
 constexpr std::size_t pieceSize = std::size_t{256} * 1024;
 // Larger chunks that are to be read whole are left to ImageMagick.
 constexpr std::uint32_t maxKept = std::uint32_t{4} * 1024 * 1024;
@@ -66,6 +67,7 @@ private:
 
     std::string nextChunk();
     void imageData(std::uint32_t length, unsigned long &sum);
+    std::optional<PngIndices> doubtfulIndices() const;
     std::string content(std::uint32_t length, unsigned long &sum);
     void header(const std::string &content);
     void palette(const std::string &content);
@@ -153,7 +155,9 @@ std::string PngWalk::nextChunk()
     if (stored.size() < sumSize || bigEndian32(stored, 0) != sum)
         throw ToolError("the image is damaged: a check sum in the PNG file is wrong");
     const bool mayRepeat = type == "IDAT" || type.ends_with("Xt") || rule == rules.end();
-    m_doubtful |= !m_seen.insert(type).second && !mayRepeat;
+    m_doubtful |= !mayRepeat && m_seen.count(type) != 0;
+    if (type == "IDAT" || rule != rules.end())
+        m_seen.insert(type);
     return type;
 }
 
@@ -165,7 +169,7 @@ void PngWalk::imageData(std::uint32_t length, unsigned long &sum)
         const std::uint64_t bits = std::uint64_t{m_page.width} *
                                    static_cast<std::uint64_t>(m_page.components) *
                                    static_cast<std::uint64_t>(m_page.bitsPerComponent);
-        m_data = std::make_unique<PngData>(m_page.height, (bits + 7) / 8);
+        m_data = std::make_unique<PngData>(m_page.height, (bits + 7) / 8, doubtfulIndices());
     }
     m_doubtful |= m_page.extents.size() >= maxExtents;
     if (length > 0 && !m_doubtful)
@@ -180,6 +184,14 @@ void PngWalk::imageData(std::uint32_t length, unsigned long &sum)
             m_data->add(piece);
         left -= static_cast<std::uint32_t>(piece.size());
     }
+}
+
+std::optional<PngIndices> PngWalk::doubtfulIndices() const
+{
+    const std::size_t colours = m_page.palette.size() / paletteEntry;
+    if (colours == 0 || colours == std::size_t{1} << m_page.bitsPerComponent)
+        return std::nullopt;
+    return PngIndices(m_page.width, m_page.bitsPerComponent, colours);
 }
 
 std::string PngWalk::content(std::uint32_t length, unsigned long &sum)
@@ -223,12 +235,11 @@ void PngWalk::header(const std::string &content)
 
 void PngWalk::palette(const std::string &content)
 {
-    constexpr std::size_t entry = 3;
     m_doubtful |= m_seen.count("IDAT") != 0;
     if (m_colourType != indexed)
         return;
-    const std::size_t entries = content.size() / entry;
-    m_doubtful |= content.size() % entry != 0 || entries == 0 ||
+    const std::size_t entries = content.size() / paletteEntry;
+    m_doubtful |= content.size() % paletteEntry != 0 || entries == 0 ||
                   entries > std::size_t{1} << std::min(m_page.bitsPerComponent, 8);
     m_page.palette = content;
 }

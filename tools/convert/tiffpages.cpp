@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <csignal>
 #include <optional>
 #include <utility>
 
@@ -85,19 +84,9 @@ bool endsWithMark(FileBytes &bytes, const Extent &strip)
     return end != 0 && (end >> std::countr_zero(end) & 0xFFFFFFU) == mark;
 }
 
-// The pages of a long fax take seconds together.
-void requireNoSignal()
-{
-    sigset_t pending;
-    sigpending(&pending);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
-        if (sigismember(&pending, signal) == 1)
-            throw ToolError("ended by signal " + std::to_string(signal));
-    }
-}
-
 void requireWhole(const TiffDirectory &page, int file)
 {
+    // The pages of a long fax take seconds together.
     requireNoSignal();
     if (isFax(page) && !isWholeFax(file, page.offset))
         throw ToolError("the image is damaged: rows of a fax are missing");
