@@ -3,6 +3,7 @@
 
 #include "pdffacts.h"
 #include "toolbench.h"
+#include "workdirectory.h"
 
 #include <QDir>
 #include <QImage>
@@ -13,6 +14,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +31,7 @@ private slots:
     void leftoversAreClearedAway();
     void leftoversAreFoundAmongManyFiles();
     void foreignFoldersAreLeftAlone();
+    void nestedFoldersAreRemoved();
     void inputsHavePlainNamesEverywhere_data();
     void inputsHavePlainNamesEverywhere();
     void inputsArePlainOnImages_data();
@@ -337,6 +340,29 @@ void ToolFoldersTest::tenPdftkCallsAtOnceInOneFolder()
     QCOMPARE(namesIn(folder.path()), expected);
     for (const QString &name : expected.mid(1))
         QVERIFY(!readPdf(folder.filePath(name), "b").needsPassword);
+}
+
+// Our own reader, once taken over, can leave them in the private folder: the process outside
+// removes them, and never what a link leads to.
+void ToolFoldersTest::nestedFoldersAreRemoved()
+{
+    const QTemporaryDir parent;
+    const QTemporaryDir users;
+    writeContent(users.filePath(u"kept"_s), "kept");
+    const QString deep = u"/run-1"_s + u"/folder"_s.repeated(100) + u"/moved-0/moved-1"_s;
+    {
+        const WorkDirectory work(parent.path().toStdString());
+        const QString path = QString::fromStdString(work.path());
+        QVERIFY(QDir().mkpath(path + deep));
+        QVERIFY(QDir().mkpath(path + u"/moved-0/moved-0/.tessaro/moved-1"_s));
+        writeContent(path + deep + u"/.tessaro"_s, "x");
+        for (const QString &place : {path, path + u"/run-1"_s, path + deep})
+            QVERIFY(QFile::link(users.path(), place + u"/link"_s));
+        for (const QString &place : {path + u"/moved-0/moved-0"_s, path + u"/run-1"_s})
+            QCOMPARE(chmod(qPrintable(place), 0), 0);
+    }
+    QCOMPARE(namesIn(parent.path()), QStringList());
+    QCOMPARE(contentOf(users.filePath(u"kept"_s)), QByteArray("kept"));
 }
 
 QTEST_GUILESS_MAIN(ToolFoldersTest)

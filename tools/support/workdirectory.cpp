@@ -66,25 +66,55 @@ bool isMarked(int folder)
     return fstatat(folder, mark, &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-void removeEntries(int folder, bool withFolders)
+// The names of the folders that are left.
+std::vector<std::string> removeFiles(int folder)
 {
+    std::vector<std::string> folders;
     const Directory directory = entriesOf(folder);
     while (const dirent *entry = directory ? readdir(directory.get()) : nullptr) {
         const std::string_view name = entry->d_name;
-        if (name == "." || name == ".." || name == mark ||
-            unlinkat(folder, entry->d_name, 0) == 0 || !withFolders)
-            continue;
-        const FileDescriptor subfolder(
-            openat(folder, entry->d_name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        if (subfolder.valid())
-            removeEntries(subfolder.get(), false);
-        unlinkat(folder, entry->d_name, AT_REMOVEDIR);
+        const bool stays = name == "." || name == ".." || (name == mark && entry->d_type != DT_DIR);
+        if (!stays && unlinkat(folder, entry->d_name, 0) != 0)
+            folders.emplace_back(name);
     }
+    return folders;
+}
+
+// Whatever its mode is; never what a link leads to.
+FileDescriptor openAsOwner(int parent, const std::string &name)
+{
+    const FileDescriptor folder(
+        openat(parent, name.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    chmod(descriptorPath(folder.get()).c_str(), 0700);
+    return FileDescriptor(openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
 void removeFolder(int folder, int parent, const char *name)
 {
-    removeEntries(folder, true);
+    // A tool that was taken over can leave folders nested to any depth: what is in one is moved up,
+    // until none is left.
+    int moved = 0;
+    std::vector<std::string> folders = removeFiles(folder);
+    while (!folders.empty()) {
+        const std::string current = std::move(folders.back());
+        folders.pop_back();
+        const FileDescriptor subfolder = openAsOwner(folder, current);
+        if (!subfolder.valid())
+            continue;
+        for (const std::string &nested : removeFiles(subfolder.get())) {
+            std::string newName;
+            int result = -1;
+            const FileDescriptor opened = openAsOwner(subfolder.get(), nested);
+            do {
+                newName = "moved-" + std::to_string(moved++);
+                result = renameat(subfolder.get(), nested.c_str(), folder, newName.c_str());
+            } while (result != 0 && (errno == ENOTEMPTY || errno == EEXIST));
+            if (result == 0)
+                folders.push_back(newName);
+        }
+        unlinkat(subfolder.get(), mark, 0);
+        unlinkat(folder, current.c_str(), AT_REMOVEDIR);
+    }
     // Last, so that another call can take up a removal that was cut short.
     unlinkat(folder, mark, 0);
     unlinkat(parent, name, AT_REMOVEDIR);
