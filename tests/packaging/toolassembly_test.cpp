@@ -19,6 +19,7 @@ private slots:
     void wrongMachinesAreNamed_data();
     void wrongMachinesAreNamed();
     void aPolicyThatDoesNotHoldIsFound();
+    void missingRightIsNamed();
     void missingProgramsAreNamed();
     void assemblingTwiceGivesTheSame();
     void magickAloneIsCalledAsConvert();
@@ -113,6 +114,19 @@ void ToolAssemblyTest::aPolicyThatDoesNotHoldIsFound()
     QCOMPARE(result.errors,
              QByteArray("assemble-tools: the image policy does not hold: a forbidden "
                         "file (postscript) was converted.\n"));
+}
+
+void ToolAssemblyTest::missingRightIsNamed()
+{
+    const ToolBundle bundle({});
+    const RunResult result = assembleTools(
+        bundle.contents(), {{u"TESSARO_CONVERT"_s, QStringLiteral(TESSARO_OUTSIDETOOL)}});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors,
+             QByteArray("assemble-tools: the sandbox gives the image tool no right to read "
+                        "'" TESSARO_OUTSIDELIBRARY "': install ImageMagick with its libraries in "
+                        "/usr, or bin and lib in one folder.\n"));
+    QVERIFY(!QFile::exists(bundle.contents() + u"/Resources/verified"_s));
 }
 
 void ToolAssemblyTest::missingProgramsAreNamed()
