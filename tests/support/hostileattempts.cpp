@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <string_view>
 
 #include <arpa/inet.h>
 #include <dirent.h>
@@ -249,6 +250,19 @@ std::vector<Attempt> attempts(const Knowledge &k)
          [=] { return done(link(path("key"), "linked")); }},
         {"make a symbolic link in the home",
          [=] { return done(symlink("/", inFolder(home, "link").c_str())); }},
+        {"make a folder", [] { return done(mkdir("made", 0700)); }},
+        {"link a descriptor of the input into the private folder",
+         [=] {
+             const int file = open(path("input"), O_RDONLY);
+             return done(linkat(AT_FDCWD, ("/proc/self/fd/" + std::to_string(file)).c_str(),
+                                AT_FDCWD, "linked-input", AT_SYMLINK_FOLLOW));
+         }},
+        {"write over the input by its descriptor",
+         [=] {
+             const int file = open(path("input"), O_RDONLY);
+             return done(open(("/proc/self/fd/" + std::to_string(file)).c_str(), O_WRONLY));
+         }},
+        {"make a FIFO", [] { return done(mkfifo("fifo", 0600)); }},
         {"read through a symbolic link",
          [=] {
              symlink(path("key"), "out");
@@ -261,6 +275,10 @@ std::vector<Attempt> attempts(const Knowledge &k)
          [=] { return done(chown(path("input"), getuid(), getgid())); }},
         {"change the input's time",
          [=] { return done(utimensat(AT_FDCWD, path("input"), nullptr, 0)); }},
+        {"list the attributes of the user's key",
+         [=] { return done(listxattr(path("key"), nullptr, 0)); }},
+        {"read an attribute of the user's key",
+         [=] { return getxattr(path("key"), "user.x", nullptr, 0) >= 0 || errno == ENODATA; }},
         {"set an attribute of the input",
          [=] { return done(setxattr(path("input"), "user.x", "x", 1, 0)); }},
         {"watch the home",
@@ -278,6 +296,9 @@ std::vector<Attempt> attempts(const Knowledge &k)
         {"connect to an abstract Unix socket", [=] { return connectsToUnix(path("abstract")); }},
         {"open a netlink socket", [] { return done(socket(AF_NETLINK, SOCK_RAW, NETLINK_ROUTE)); }},
         {"signal another process", [=] { return done(kill(victim, SIGURG)); }},
+        {"signal a thread of another process",
+         [=] { return done(syscall(SYS_tgkill, victim, victim, SIGURG)); }},
+        {"signal the caller's processes", [] { return done(kill(0, SIGURG)); }},
         {"signal by a descriptor", [=] { return done(syscall(SYS_pidfd_open, victim, 0)); }},
         {"trace another process", [=] { return traces(victim); }},
         {"read another process's memory", [=] { return readsMemoryOf(victim); }},
@@ -288,6 +309,8 @@ std::vector<Attempt> attempts(const Knowledge &k)
          }},
         {"read another process's environment",
          [=] { return reads(("/proc/" + k.at("victim") + "/environ").c_str()); }},
+        {"list the mounts", [] { return reads("/proc/self/mountinfo"); }},
+        {"list the network's connections", [] { return reads("/proc/self/net/unix"); }},
         {"list the processes", [] { return lists("/proc"); }},
         {"limit another process",
          [=] {
@@ -331,7 +354,10 @@ Knowledge knowledgeFrom(const std::vector<std::string> &lines)
 
 void tryEverything(const Knowledge &knowledge)
 {
+    const auto only = knowledge.find("only");
     for (const Attempt &attempt : attempts(knowledge)) {
+        if (only != knowledge.end() && !std::string_view(attempt.name).starts_with(only->second))
+            continue;
         errno = 0;
         const bool succeeded = attempt.succeeds();
         const std::string line =

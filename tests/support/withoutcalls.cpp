@@ -1,9 +1,10 @@
 // Runs a program whose kernel refuses some system calls:
 //
-//   withoutcalls symlinks|links|sandbox PROGRAM [ARGUMENT...]
+//   withoutcalls symlinks|links|landlock|sandbox PROGRAM [ARGUMENT...]
 //
-// symlinks and links: as in a file system that knows no symbolic links, or none at all. sandbox: as
-// in a container that offers neither Landlock nor seccomp.
+// symlinks and links: as in a file system that knows no symbolic links, or none at all. landlock:
+// as in a kernel without Landlock. sandbox: as in a container that offers neither Landlock nor
+// seccomp.
 
 #include <cerrno>
 #include <cstddef>
@@ -41,6 +42,8 @@ std::vector<unsigned> callsNamed(std::string_view word)
         return {SYS_symlinkat, oldSymlink};
     if (word == "links")
         return {SYS_symlinkat, SYS_linkat};
+    if (word == "landlock")
+        return {SYS_landlock_create_ruleset};
     if (word == "sandbox")
         return {SYS_landlock_create_ruleset, SYS_seccomp};
     return {};

@@ -44,6 +44,10 @@ constexpr auto attempts = std::to_array<Attempt>({
     {"move the user's file into the private folder"},
     {"link the user's key into the private folder"},
     {"make a symbolic link in the home"},
+    {"make a folder"},
+    {"link a descriptor of the input into the private folder"},
+    {"write over the input by its descriptor"},
+    {"make a FIFO"},
     {"read through a symbolic link"},
     {"change the input's mode"},
     // Linux 6.6.
@@ -51,6 +55,8 @@ constexpr auto attempts = std::to_array<Attempt>({
     {"change the input's owner"},
     {"change the input's time"},
     // Not on every file system.
+    {"list the attributes of the user's key"},
+    {"read an attribute of the user's key", false},
     {"set an attribute of the input", false},
     {"watch the home"},
     {"start a process"},
@@ -66,12 +72,16 @@ constexpr auto attempts = std::to_array<Attempt>({
     {"connect to an abstract Unix socket"},
     {"open a netlink socket"},
     {"signal another process"},
+    {"signal a thread of another process"},
+    {"signal the caller's processes"},
     {"signal by a descriptor"},
     // Yama forbids these to users.
     {"trace another process", false},
     {"read another process's memory", false},
     {"open another process's memory", false},
     {"read another process's environment"},
+    {"list the mounts"},
+    {"list the network's connections"},
     {"list the processes"},
     {"limit another process"},
     {"slow another process down"},
@@ -148,13 +158,17 @@ private slots:
     void everyAttemptIsListed();
     void readersAreConfined_data();
     void readersAreConfined();
+    void pdfReaderIsConfined();
+    void signalsAreRefusedWithoutLandlock();
+    void programOfTheUserSeesItsLibrariesAlone();
     void processLeftBehindIsEnded();
     void missingSandboxIsLogged();
 
 private:
     QStringList knowledge(const UserFiles &files) const;
     Fates fatesOutside() const;
-    Fates fatesInImageTool() const;
+    Fates fatesInImageTool(const QStringList &moreKnowledge = {},
+                           const QStringList &wrapper = {}) const;
 
     QTcpServer m_tcp;
     QUdpSocket m_udp;
@@ -212,17 +226,18 @@ Fates SandboxTest::fatesOutside() const
 }
 
 // As the tool of the first of two images that are merged.
-Fates SandboxTest::fatesInImageTool() const
+Fates SandboxTest::fatesInImageTool(const QStringList &moreKnowledge,
+                                    const QStringList &wrapper) const
 {
     const UserFiles files;
     lseek(m_secret.handle(), 0, SEEK_SET);
     const ToolBundle bundle(QStringList{QStringLiteral(TESSARO_HOSTILETOOL), u"input-1.bmp"_s} +
-                            knowledge(files));
-    const RunResult result = runProgram(
-        bundle.tool(u"convert"_s),
-        {files.path(u"in/own.bmp"_s), files.path(u"in/other.bmp"_s), files.path(u"out/o.pdf"_s)},
-        files.path(u"out"_s));
-    return fatesIn(result.errors);
+                            knowledge(files) + moreKnowledge);
+    QStringList command =
+        wrapper + QStringList{bundle.tool(u"convert"_s), files.path(u"in/own.bmp"_s),
+                              files.path(u"in/other.bmp"_s), files.path(u"out/o.pdf"_s)};
+    const QString program = command.takeFirst();
+    return fatesIn(runProgram(program, command, files.path(u"out"_s)).errors);
 }
 
 void SandboxTest::imageToolIsConfined_data()
@@ -275,6 +290,59 @@ void SandboxTest::readersAreConfined()
     QCOMPARE(fates.size(), static_cast<qsizetype>(attempts.size()));
     QCOMPARE(fates.keys(u"succeeded"_s).join(u", "_s), u"start a process"_s);
     QCOMPARE(namesIn(files.path(u"out"_s)), QStringList({u"o.pdf"_s, u"private"_s}));
+}
+
+// It starts no process at all.
+void SandboxTest::pdfReaderIsConfined()
+{
+    const UserFiles files;
+    lseek(m_secret.handle(), 0, SEEK_SET);
+    const QString input = files.path(u"in/own.pdf"_s);
+    writeContent(input, knowledge(files).join(u'\n').toUtf8() + '\n');
+    const RunResult result =
+        runProgram(QStringLiteral(TESSARO_HOSTILEPDFTK),
+                   {input, u"output"_s, files.path(u"out/o.pdf"_s), u"user_pw"_s, u"use"_s},
+                   files.path(u"out"_s));
+    const Fates fates = fatesIn(result.errors);
+    QCOMPARE(fates.size(), static_cast<qsizetype>(attempts.size()));
+    QCOMPARE(fates.keys(u"succeeded"_s).join(u", "_s), QString());
+    QCOMPARE(namesIn(files.path(u"out"_s)), QStringList({u"o.pdf"_s, u"private"_s}));
+}
+
+// As before Linux 6.12.
+void SandboxTest::signalsAreRefusedWithoutLandlock()
+{
+    const Fates fates =
+        fatesInImageTool({u"only=signal"_s}, {QStringLiteral(TESSARO_WITHOUTCALLS), u"landlock"_s});
+    for (const QString &name : {u"signal another process"_s, u"signal the caller's processes"_s,
+                                u"signal a thread of another process"_s})
+        QVERIFY2(fates.value(name).startsWith(u"refused"_s), qPrintable(name));
+}
+
+// One below ~/.local would have the user's data beside it.
+void SandboxTest::programOfTheUserSeesItsLibrariesAlone()
+{
+    const QTemporaryDir prefix;
+    for (const QString &folder : {u"bin"_s, u"lib"_s, u"share"_s, u"own-libraries"_s})
+        QDir(prefix.path()).mkdir(folder);
+    const QString program = prefix.filePath(u"bin/tool"_s);
+    QVERIFY(QFile::copy(QStringLiteral(TESSARO_HOSTILETOOL), program));
+    const QString link = prefix.filePath(u"link"_s);
+    QVERIFY(QFile::link(program, link));
+    const auto fateOf = [&](const QString &tool, const QString &key) {
+        const UserFiles files;
+        writeContent(prefix.filePath(key), "secret");
+        const ToolBundle bundle(QStringList{tool, u"input-1.bmp"_s} + knowledge(files) +
+                                QStringList{u"key="_s + prefix.filePath(key)});
+        const RunResult result = runProgram(
+            bundle.tool(u"convert"_s), {files.path(u"in/own.bmp"_s), files.path(u"out/o.pdf"_s)},
+            files.path(u"out"_s), {{u"LD_LIBRARY_PATH"_s, prefix.filePath(u"own-libraries"_s)}});
+        return fatesIn(result.errors).value(u"read the user's key"_s);
+    };
+    QCOMPARE(fateOf(program, u"lib/x"_s), u"succeeded"_s);
+    QCOMPARE(fateOf(link, u"lib/x"_s), u"succeeded"_s);
+    QCOMPARE(fateOf(program, u"own-libraries/x"_s), u"succeeded"_s);
+    QVERIFY(fateOf(program, u"share/x"_s).startsWith(u"refused"_s));
 }
 
 // Without a sandbox a tool can start what outlives it, in a session of its own, and writes without

@@ -38,6 +38,7 @@ inline constexpr auto refusedCalls = std::to_array<const char *>({
     "pidfd_getfd",
     "rt_sigqueueinfo",
     "rt_tgsigqueueinfo",
+    "tkill",
     "perf_event_open",
     "setpriority",
     "ioprio_set",
@@ -83,6 +84,10 @@ inline constexpr auto refusedCalls = std::to_array<const char *>({
     "removexattr",
     "lremovexattr",
     "fremovexattr",
+    "getxattr",
+    "lgetxattr",
+    "listxattr",
+    "llistxattr",
     "truncate",
     "inotify_init",
     "inotify_init1",
@@ -136,8 +141,8 @@ inline constexpr auto refusedCalls = std::to_array<const char *>({
 });
 
 // The same, known to Linux by numbers only where libseccomp is 2.5 (Debian 12): fchmodat2,
-// setxattrat, removexattrat, open_tree_attr, file_setattr.
-inline constexpr auto refusedNumbers = std::to_array<int>({452, 463, 466, 467, 469});
+// setxattrat, getxattrat, listxattrat, removexattrat, open_tree_attr, file_getattr, file_setattr.
+inline constexpr auto refusedNumbers = std::to_array<int>({452, 463, 464, 465, 466, 467, 468, 469});
 
 // Their arguments lie in memory, where no filter sees them. Callers use older calls instead.
 inline constexpr auto unseenCalls = std::to_array<const char *>({"clone3", "openat2"});

@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 
@@ -42,7 +43,6 @@ const std::vector<FileRule> systemFiles = {
     {"/etc/localtime", Access::Read},
     {"/etc/ImageMagick-6", Access::Read},
     {"/etc/ImageMagick-7", Access::Read},
-    {"/proc/self", Access::Read},
     {"/sys/devices/system/cpu", Access::Read},
     {"/sys/devices/system/node", Access::Read},
     {"/dev/null", Access::Write},
@@ -72,9 +72,11 @@ constexpr auto landlockSteps = std::to_array<LandlockStep>({
 });
 
 constexpr std::uint64_t readRights = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
-constexpr std::uint64_t writeRights =
-    readRights | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateRight | LANDLOCK_ACCESS_FS_MAKE_REG |
-    LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR;
+constexpr std::uint64_t writeRights = readRights | LANDLOCK_ACCESS_FS_WRITE_FILE | truncateRight |
+                                      LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE;
+// For the folders and links that other processes are given.
+constexpr std::uint64_t preparingRights =
+    LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_REMOVE_DIR | LANDLOCK_ACCESS_FS_MAKE_SYM;
 constexpr std::uint64_t rightsOnOneFile = LANDLOCK_ACCESS_FS_EXECUTE |
                                           LANDLOCK_ACCESS_FS_READ_FILE |
                                           LANDLOCK_ACCESS_FS_WRITE_FILE | truncateRight;
@@ -149,8 +151,8 @@ void restrictFiles(const Sandbox &sandbox, int abi)
     for (const FileRule &rule : systemFiles)
         ruleset.allow(rule);
     for (const FileRule &rule : sandbox.files) {
-        const bool links = sandbox.startsProcesses && rule.access == Access::Write;
-        ruleset.allow(rule, links ? LANDLOCK_ACCESS_FS_MAKE_SYM : 0);
+        const bool prepares = sandbox.startsProcesses && rule.access == Access::Write;
+        ruleset.allow(rule, prepares ? preparingRights : 0);
     }
     ruleset.enforce();
 }
@@ -205,6 +207,7 @@ void restrictCalls(const Sandbox &sandbox)
 {
     // The filter of the first sandbox stays in force inside the second.
     static bool isInside = false;
+    const auto ownProcess = static_cast<scmp_datum_t>(getpid());
     CallFilter filter;
     if (!isInside) {
         for (const char *call : refusedCalls)
@@ -215,15 +218,35 @@ void restrictCalls(const Sandbox &sandbox)
             filter.refuse(call, ENOSYS);
         for (const RefusedArgument &refused : refusedArguments)
             filter.refuse(refused);
+        // Landlock refuses signals from ABI 6 on.
+        filter.refuse({"kill", {0, SCMP_CMP_NE, ownProcess, 0}});
     }
     isInside = true;
     if (!sandbox.startsProcesses) {
         for (const char *call : startingCalls)
             filter.refuse(call);
-        // Threads are all that is left.
+        // What is left: threads, and signals to itself.
+        filter.refuse({"tgkill", {0, SCMP_CMP_NE, ownProcess, 0}});
         filter.refuse({"clone", bits(0, CLONE_THREAD, 0)});
     }
     filter.enforce();
+}
+
+// The loader takes a folder that is not absolute as one in the current folder: not here.
+std::vector<std::string> libraryPath()
+{
+    const char *variable = getenv("LD_LIBRARY_PATH");
+    std::string folders = variable ? variable : "";
+    replaceAll(folders, ":", "\n");
+    std::vector<std::string> result = linesOf(folders);
+    std::erase_if(result, [](const std::string &folder) { return !folder.starts_with('/'); });
+    return result;
+}
+
+std::string withoutLinks(const std::string &path)
+{
+    const std::unique_ptr<char, decltype(&free)> resolved(realpath(path.c_str(), nullptr), free);
+    return resolved ? resolved.get() : path;
 }
 
 } // namespace
@@ -231,11 +254,15 @@ void restrictCalls(const Sandbox &sandbox)
 std::vector<FileRule> rulesToRun(const std::string &program)
 {
     std::vector<FileRule> rules = {{program, Access::Execute}};
-    const std::string prefix = folderOf(folderOf(program));
+    for (const std::string &folder : libraryPath())
+        rules.push_back({folder, Access::Read});
+    const std::string prefix = folderOf(folderOf(withoutLinks(program)));
     // Of the system's own folders what is needed is in the table.
     if (prefix == "/" || prefix == "/usr")
         return rules;
-    for (const char *beside : {"/lib", "/etc", "/share"})
+    // Not all of "share" and "etc": below ~/.local they are full of the user's data.
+    for (const char *beside : {"/lib", "/etc/ImageMagick-6", "/etc/ImageMagick-7",
+                               "/share/ImageMagick-6", "/share/ImageMagick-7"})
         rules.push_back({prefix + beside, Access::Read});
     return rules;
 }

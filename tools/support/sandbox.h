@@ -25,12 +25,12 @@ struct Sandbox
 {
     /// Beside the system's libraries and their data.
     std::vector<FileRule> files;
-    /// Whether it starts other processes, and makes symbolic links for them.
+    /// Whether it starts other processes, and makes folders and symbolic links for them.
     bool startsProcesses = false;
 };
 
-/// Rules for running `program`, which is in the file system at that path: the program itself, and
-/// what lies beside it where it was not installed in /usr.
+/// Rules for running `program`, which is in the file system at that path: the program itself, the
+/// libraries that LD_LIBRARY_PATH names, and what ImageMagick has beside it outside of /usr.
 std::vector<FileRule> rulesToRun(const std::string &program);
 
 /// Confines this process and all that it starts, for good; a second sandbox narrows the first.
