@@ -14,7 +14,7 @@
 
 inline FileTable &listOf(WindowFixture &fixture)
 {
-    return *dynamic_cast<FileTable *>(fixture.find<QTableWidget>("inputfiletableWidget"));
+    return dynamic_cast<FileTable &>(*fixture.find<QTableWidget>("inputfiletableWidget"));
 }
 
 inline void selectRows(FileTable &list, const QList<int> &rows)

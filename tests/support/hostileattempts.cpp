@@ -320,7 +320,10 @@ std::vector<Attempt> attempts(const Knowledge &k)
         {"slow another process down",
          [=] { return done(setpriority(PRIO_PROCESS, static_cast<id_t>(victim), 5)); }},
         {"read the caller's secret variable",
-         [] { return getenv("TESSARO_TEST_SECRET") && *getenv("TESSARO_TEST_SECRET") != '\0'; }},
+         [] {
+             const char *secret = getenv("TESSARO_TEST_SECRET");
+             return secret && *secret != '\0';
+         }},
         {"read the caller's descriptor",
          [=] { return readsSecret(std::atoi(path("descriptor"))); }},
         {"type into a terminal", typesIntoTerminal},

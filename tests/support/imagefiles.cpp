@@ -300,7 +300,8 @@ QByteArray tiff(const TiffForm &form)
         QByteArray row((form.size.width() + 7) / 8, '\0');
         for (int y = 0; y < form.size.height(); ++y) {
             for (qsizetype x = 0; x < row.size(); ++x)
-                row[x] = static_cast<char>((x * 31 + qsizetype{y} * 7 + page * 60) & 0xFC);
+                row[x] =
+                    static_cast<char>((x * 31 + qsizetype{y} * 7 + qsizetype{page} * 60) & 0xFC);
             TIFFWriteScanline(tiff, row.data(), static_cast<uint32_t>(y), 0);
         }
         TIFFWriteDirectory(tiff);
@@ -324,7 +325,7 @@ QByteArray tiledTiff()
     TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
     TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
     TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK);
-    QByteArray pixels(tileSide * tileSide, '\x55');
+    QByteArray pixels(qsizetype{tileSide} * tileSide, '\x55');
     for (uint32_t tile = 0; tile < 4; ++tile)
         TIFFWriteEncodedTile(tiff, tile, pixels.data(), pixels.size());
     TIFFClose(tiff);

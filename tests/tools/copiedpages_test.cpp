@@ -98,7 +98,8 @@ QByteArray pngWithFewColours()
 // One pixel of colour 3, and a palette of two.
 QByteArray gifWithFewColours()
 {
-    return "GIF89a" + QByteArray::fromHex("01000100800000ffffff0000002c00000000010001000002025c01003b");
+    return "GIF89a" +
+           QByteArray::fromHex("01000100800000ffffff0000002c00000000010001000002025c01003b");
 }
 
 } // namespace

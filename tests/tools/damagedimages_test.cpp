@@ -105,8 +105,7 @@ struct TiffForm
     bool isBilevel = true;
 };
 
-constexpr uint32_t tiffWidth = 200;
-constexpr uint32_t tiffHeight = 200;
+constexpr uint32_t tiffWidth = 200, tiffHeight = 200;
 
 QByteArray tiffFile(const TiffForm &form)
 {
@@ -225,7 +224,6 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
     const QByteArray strips =
         tiffFile({.compression = COMPRESSION_NONE, .rowsPerStrip = 50, .isBilevel = false});
     const QByteArray runs = tiffFile({.compression = COMPRESSION_PACKBITS, .isBilevel = false});
-    const QByteArray tiles = imagefiles::tiledTiff();
     const QByteArray inTiff = tiffFile({.compression = COMPRESSION_JPEG, .isBilevel = false});
     const QByteArray restarting = jpegFile({.restartRows = 2});
 
@@ -252,13 +250,13 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
     QTest::newRow("Group 4 without its last row")
         << "x.tif" << withField(endOfStrip, TIFFTAG_STRIPBYTECOUNTS, bytes - 9)
         << QStringList{u"-compress"_s, u"JPEG"_s} << QByteArray("Premature EOF");
-    for (const quint16 tag : {quint16(TIFFTAG_STRIPOFFSETS), quint16(TIFFTAG_STRIPBYTECOUNTS)})
+    for (const auto &[tiff, tag, table] :
+         {std::tuple(strips, quint16(TIFFTAG_STRIPOFFSETS), "Strip"),
+          std::tuple(strips, quint16(TIFFTAG_STRIPBYTECOUNTS), "Strip"),
+          std::tuple(imagefiles::tiledTiff(), quint16(TIFFTAG_TILEOFFSETS), "Tile")})
         QTest::addRow("TIFF file with half of its field %d", tag)
-            << "x.tif" << patched(strips, placeOf(strips, tag) + 4, 2) << QStringList{}
-            << QByteArray("Incorrect count for \"Strip");
-    QTest::newRow("TIFF file with half of its tiles")
-        << "x.tif" << patched(tiles, placeOf(tiles, TIFFTAG_TILEOFFSETS) + 4, 2)
-        << QStringList{} << QByteArray("Incorrect count for \"Tile");
+            << "x.tif" << patched(tiff, placeOf(tiff, tag) + 4, 2) << QStringList{}
+            << QByteArray("Incorrect count for \"") + table;
     QTest::newRow("run of bytes longer than its strip")
         << "x.tif" << withHalfOverwritten(runs, '\x81') << QStringList{}
         << QByteArray("to avoid buffer overrun");

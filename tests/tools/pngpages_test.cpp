@@ -87,7 +87,8 @@ quint8 filtered(int filter, int byte, int left, int above, int corner)
     return static_cast<quint8>(byte - predictions.at(static_cast<size_t>(filter)));
 }
 
-// An image of 11 x 9 indices, `last` the greatest and in one place only, with a palette of `colours`.
+// An image of 11 x 9 indices, `last` the greatest and in one place only, with a palette of
+// `colours`.
 QByteArray indexed(int bits, int filter, int colours, int last)
 {
     const QSize size(11, 9);
@@ -106,8 +107,9 @@ QByteArray indexed(int bits, int filter, int colours, int last)
         }
         rows += static_cast<char>(filter);
         for (int at = 0; at < rowBytes; ++at)
-            rows += static_cast<char>(filtered(filter, quint8(row[at]), at ? quint8(row[at - 1]) : 0,
-                                               quint8(above[at]), at ? quint8(above[at - 1]) : 0));
+            rows +=
+                static_cast<char>(filtered(filter, quint8(row[at]), at ? quint8(row[at - 1]) : 0,
+                                           quint8(above[at]), at ? quint8(above[at - 1]) : 0));
         above = row;
     }
     const QByteArray sides = big32(quint32(size.width())) + big32(quint32(size.height()));

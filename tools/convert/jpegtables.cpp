@@ -13,7 +13,7 @@ std::optional<std::string> withUsedTables(const QuantizationSegment &segment,
         const std::size_t size = 1 + values * (head >> 4U == 0 ? 1 : 2);
         if (head >> 4U > 1 || size > content.size() - at)
             return std::nullopt;
-        if (used.count(head & 0x0FU) != 0)
+        if (used.count(static_cast<int>(head & 0x0FU)) != 0)
             tables += content.substr(at, size);
         at += size;
     }

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-/// Undoes the filters of an indexed PNG image's rows, byte by byte, to find indices that its palette
-/// has no entry for.
+/// Undoes the filters of an indexed PNG image's rows, byte by byte, to find indices that its
+/// palette has no entry for.
 class PngIndices
 {
 public:
