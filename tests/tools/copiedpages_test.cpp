@@ -91,8 +91,8 @@ QByteArray pngWithFewColours()
     form.colourType = 3;
     const QByteArray whole = imagefiles::png(form);
     const qsizetype palette = whole.indexOf("PLTE") - 4;
-    return whole.left(palette) + imagefiles::chunk("PLTE", whole.mid(palette + 8, 3 * 200)) +
-           whole.mid(palette + 12 + 3 * 256);
+    return whole.left(palette) + imagefiles::chunk("PLTE", whole.mid(palette + 8, 600)) +
+           whole.mid(palette + 12 + 768);
 }
 
 // One pixel of colour 3, and a palette of two.

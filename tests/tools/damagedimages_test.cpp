@@ -141,7 +141,7 @@ qsizetype placeOf(const QByteArray &tiff, quint16 tag, int page = 0)
 {
     quint32 directory = qFromLittleEndian<quint32>(tiff.constData() + 4);
     for (;; --page) {
-        const auto entries = qFromLittleEndian<quint16>(tiff.constData() + directory);
+        const qsizetype entries = qFromLittleEndian<quint16>(tiff.constData() + directory);
         for (qsizetype place = directory + 2; place < directory + 2 + 12 * entries; place += 12) {
             if (page == 0 && qFromLittleEndian<quint16>(tiff.constData() + place) == tag)
                 return place;
@@ -334,7 +334,7 @@ void DamagedImagesTest::longFaxStopsOnASignal()
     const QByteArray damaged = withHalfOfItsData(file).mid(first, size);
     qsizetype last = first;
     for (int page = 1; page < pages; ++page) {
-        file = patched(std::move(file), last + size - 4, quint32(file.size()));
+        qToLittleEndian(quint32(file.size()), file.data() + last + size - 4);
         last = file.size();
         file += page == pages - 1 ? damaged : directory;
     }

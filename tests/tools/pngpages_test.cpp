@@ -115,8 +115,8 @@ QByteArray indexed(int bits, int filter, int colours, int last)
     const QByteArray sides = big32(quint32(size.width())) + big32(quint32(size.height()));
     return png({}).left(8) +
            chunk("IHDR", sides + static_cast<char>(bits) + QByteArray("\3\0\0\0", 4)) +
-           chunk("PLTE", QByteArray(3 * colours, '\7')) + chunk("IDAT", qCompress(rows).mid(4)) +
-           chunk("IEND", {});
+           chunk("PLTE", QByteArray(qsizetype{3} * colours, '\7')) +
+           chunk("IDAT", qCompress(rows).mid(4)) + chunk("IEND", {});
 }
 
 QByteArray profileChunk(const QByteArray &profile)

@@ -197,7 +197,8 @@ void TiffPagesTest::sharedTablesAreRefused()
     const QByteArray fields =
         field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) + field(279, strips, 8);
     const auto size = static_cast<quint32>(2 + fields.size() + 4);
-    QByteArray file = QByteArray("II*\0", 4) + little(first, 4) + QByteArray(4 * strips, '\0');
+    QByteArray file =
+        QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
     for (quint32 directory = 1; directory <= directories; ++directory)
         file += little(4, 2) + fields +
                 little(directory == directories ? 0 : first + directory * size, 4);
