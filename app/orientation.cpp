@@ -105,9 +105,8 @@ QImageIOHandler::Transformations uprightTransformation(const QImageReader &reade
 
 QImage transformed(const QImage &image, QImageIOHandler::Transformations transformation)
 {
-    const QImage mirrored =
-        image.mirrored(transformation.testFlag(QImageIOHandler::TransformationMirror),
-                       transformation.testFlag(QImageIOHandler::TransformationFlip));
+    QImage mirrored = image.mirrored(transformation.testFlag(QImageIOHandler::TransformationMirror),
+                                     transformation.testFlag(QImageIOHandler::TransformationFlip));
     if (!transformation.testFlag(QImageIOHandler::TransformationRotate90))
         return mirrored;
     return mirrored.transformed(QTransform().rotate(90));
