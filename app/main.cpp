@@ -10,7 +10,7 @@
 int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
-    if (answerQuestion(argc, argv))
+    if (printHelpOrVersion(argc, argv))
         return 0;
     if (reportStartFailure(argc, argv))
         return notStarted;

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr qint64 headerBytes = 8;       // of a chunk, in PNG and WEBP
-constexpr qint64 mostExifBytes = 65536; // what a JPEG can hold
+constexpr qint64 maxExifBytes = 65536; // what a JPEG can hold
 
 QByteArray exifOfPng(QIODevice &file)
 {
@@ -22,7 +22,7 @@ QByteArray exifOfPng(QIODevice &file)
             break;
         const qint64 size = qFromBigEndian<quint32>(header.constData());
         if (header.endsWith("eXIf"))
-            return file.read(qMin(size, mostExifBytes));
+            return file.read(qMin(size, maxExifBytes));
         place += headerBytes + size + checksumBytes;
     }
     return {};
@@ -36,7 +36,7 @@ QByteArray exifOfWebp(QIODevice &file)
             break;
         const qint64 size = qFromLittleEndian<quint32>(header.constData() + 4);
         if (header.startsWith("EXIF"))
-            return file.read(qMin(size, mostExifBytes));
+            return file.read(qMin(size, maxExifBytes));
         place += headerBytes + size + size % 2;
     }
     return {};

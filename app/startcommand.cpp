@@ -17,7 +17,7 @@
 namespace {
 
 // One line, whatever a file's name holds.
-void complain(QString message)
+void printError(QString message)
 {
     for (QChar &letter : message) {
         if (letter.category() == QChar::Other_Control)
@@ -47,8 +47,8 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
 {
     if (type != QtFatalMsg)
         return;
-    speak(*QCoreApplication::instance(), wantedLanguage());
-    complain(
+    installTranslators(*QCoreApplication::instance(), wantedLanguage());
+    printError(
         QCoreApplication::translate("CommandLine", "There is no display to show the window on."));
     std::_Exit(notStarted);
 }
@@ -61,7 +61,7 @@ bool isDisplayNamed()
 QString startFailureSentence(const StartFailure &failure, int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    speak(application, wantedLanguage());
+    installTranslators(application, wantedLanguage());
     return QCoreApplication::translate("CommandLine", failure.sentence)
         .arg(qEnvironmentVariable(failure.variable));
 }
@@ -69,7 +69,7 @@ QString startFailureSentence(const StartFailure &failure, int argc, char **argv)
 void report(const StartFailure &failure, int argc, char **argv)
 {
     const QString sentence = startFailureSentence(failure, argc, argv);
-    complain(sentence);
+    printError(sentence);
     if (isatty(STDERR_FILENO) != 0 || !isDisplayNamed())
         return;
     const std::unique_ptr<QApplication> application = makeApplication(argc, argv);
@@ -78,7 +78,7 @@ void report(const StartFailure &failure, int argc, char **argv)
 
 } // namespace
 
-bool answerQuestion(int argc, char **argv)
+bool printHelpOrVersion(int argc, char **argv)
 {
     QStringList words;
     for (int i = 0; i < argc; ++i)
@@ -87,7 +87,7 @@ bool answerQuestion(int argc, char **argv)
     if (!asked.wantsHelp && !asked.wantsVersion)
         return false;
     QCoreApplication application(argc, argv);
-    speak(application, wantedLanguage());
+    installTranslators(application, wantedLanguage());
     const QString answer =
         asked.wantsHelp
             ? startHelp()
@@ -113,7 +113,7 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
     qInstallMessageHandler(endWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(nullptr);
-    prepare(*application);
+    setUpApplication(*application);
     return application;
 }
 
@@ -121,7 +121,7 @@ std::optional<QStringList> startFiles(const QStringList &arguments, const QStrin
 {
     const StartArguments asked = readStartArguments(arguments);
     if (!asked.unknownOptions.isEmpty()) {
-        complain(QCoreApplication::translate("CommandLine", "There is no option %1; see --help.")
+        printError(QCoreApplication::translate("CommandLine", "There is no option %1; see --help.")
                      .arg(asked.unknownOptions.first()));
         return std::nullopt;
     }
@@ -131,7 +131,7 @@ std::optional<QStringList> startFiles(const QStringList &arguments, const QStrin
         if (QFileInfo::exists(file))
             files << file;
         else
-            complain(QCoreApplication::translate("CommandLine", "There is no file %1.")
+            printError(QCoreApplication::translate("CommandLine", "There is no file %1.")
                          .arg(file.isEmpty() ? argument : file));
     }
     return files;

@@ -15,7 +15,7 @@ inline constexpr int wrongUsage = 2;
 
 /// Prints the help or the version if the command line asks for it, and says whether it did. Needs
 /// no display; to be called before there is an application object.
-bool answerQuestion(int argc, char **argv);
+bool printHelpOrVersion(int argc, char **argv);
 
 /// Whether the command that an installation starts says, in the environment, why this user's
 /// program cannot be set up (launcher/main.cpp). If so, that is reported: a line on standard error,

@@ -24,7 +24,7 @@ void raiseArgumentLimit()
     setrlimit(RLIMIT_STACK, &stack);
 }
 
-void prepare(QApplication &application)
+void setUpApplication(QApplication &application)
 {
     const QString executableFolder = QCoreApplication::applicationDirPath();
     QCoreApplication::setLibraryPaths({pluginFolder(executableFolder)});
@@ -36,7 +36,7 @@ void prepare(QApplication &application)
     attachPopups(application);
     keepFixedSizes(application);
     if (const QString language = wantedLanguage(); !language.isEmpty())
-        speak(application, language);
+        installTranslators(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
     // Two page slots have no button of their name in the layout, and a broken image is no news:
     // neither is worth a line on the terminal, the latter at every refresh of the preview.

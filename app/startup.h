@@ -9,4 +9,4 @@ void raiseArgumentLimit();
 /// Prepares `application` for its window: plug-ins from the bundle alone, the bundle's folder as
 /// the current directory, the window's own look, the user's language, and a bound on what one
 /// image may take. Nothing is reported when a folder is missing.
-void prepare(QApplication &application);
+void setUpApplication(QApplication &application);

@@ -46,7 +46,7 @@ bool isTranslated()
                 .isEmpty();
 }
 
-void speak(QCoreApplication &application, const QString &language)
+void installTranslators(QCoreApplication &application, const QString &language)
 {
     qDeleteAll(application.findChildren<QTranslator *>(Qt::FindDirectChildrenOnly));
     if (!language.isEmpty()) {

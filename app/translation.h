@@ -17,4 +17,4 @@ bool isTranslated();
 /// Shows the texts of the windows made from now on in `language`, Qt's own too where the system
 /// has translations of them (qt6-translations-l10n), and lets them run in its direction.
 /// "" is English. Numbers and the like stay as the environment's locale writes them.
-void speak(QCoreApplication &application, const QString &language);
+void installTranslators(QCoreApplication &application, const QString &language);

@@ -18,7 +18,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     if (argc != 3 && argc != 5)
         return 2;
     WindowControls controls;

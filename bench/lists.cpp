@@ -206,7 +206,7 @@ Samples samplesOf(const QByteArray &mode, const QList<QUrl> &urls, int turns)
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     if (argc != 4)
         return 2;
     const QByteArray mode(argv[1]);

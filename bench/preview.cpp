@@ -141,7 +141,7 @@ void measureWait(Process &window, const QString &path, int turns)
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     if (argc < 3)
         return 2;
     const QString path = QString::fromLocal8Bit(argv[2]);

@@ -89,7 +89,7 @@ void runBare(const QString &folder, int count)
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     if (argc != 4)
         return 2;
     const auto run = QByteArray(argv[1]) == "bare" ? runBare : runInWindow;

@@ -11,7 +11,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     Process window(nullptr);
     const EndAtFirstPaint end(window);
     window.show();

@@ -7,7 +7,7 @@
 
 namespace {
 
-QString inWords(const char *text)
+QString plain(const char *text)
 {
     return QCoreApplication::translate("CommandLine", text);
 }
@@ -16,15 +16,15 @@ void describe(QCommandLineParser &parser)
 {
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
-        inWords(QT_TRANSLATE_NOOP("CommandLine", "Turns images into PDF documents.")));
+        plain(QT_TRANSLATE_NOOP("CommandLine", "Turns images into PDF documents.")));
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
-        inWords(QT_TRANSLATE_NOOP("CommandLine", "Images to list when the window opens.")),
+        plain(QT_TRANSLATE_NOOP("CommandLine", "Images to list when the window opens.")),
         QStringLiteral("[FILE ...]"));
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                      inWords(QT_TRANSLATE_NOOP("CommandLine", "Show this help and end."))});
+                      plain(QT_TRANSLATE_NOOP("CommandLine", "Show this help and end."))});
     parser.addOption({{QStringLiteral("v"), QStringLiteral("version")},
-                      inWords(QT_TRANSLATE_NOOP("CommandLine", "Show the version and end."))});
+                      plain(QT_TRANSLATE_NOOP("CommandLine", "Show the version and end."))});
 }
 
 QString localPath(const QUrl &url)

@@ -190,7 +190,7 @@ int main(int argc, char *argv[])
         require(folder.mkpath(QLatin1String(name)), u"write to "_s + folder.path());
     }
 
-    prepare(application);
+    setUpApplication(application);
     WindowDriver driver;
     require(driver.show(), u"show the window"_s);
     const bool first = oneByOne(driver, images, folder);

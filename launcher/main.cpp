@@ -30,8 +30,8 @@ fs::path installedBundle()
 // Written by packaging/setup-tools where the tools could not be set up: nothing would be converted.
 void checkTools(const fs::path &bundle)
 {
-    std::ifstream failure(bundle / "Contents/Resources/failure");
-    if (std::string sentence; std::getline(failure, sentence))
+    std::ifstream reason(bundle / "Contents/Resources/setup-error");
+    if (std::string sentence; std::getline(reason, sentence))
         throw std::runtime_error(sentence);
 }
 

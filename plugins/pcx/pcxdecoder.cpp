@@ -9,7 +9,7 @@ namespace pcx {
 namespace {
 
 constexpr std::uint8_t fileMark = 0x0A;
-constexpr int longestRun = 63;
+constexpr int maxRun = 63;
 constexpr std::uint8_t lowestCount = 0xC0;
 constexpr std::size_t bufferSize = 65536;
 constexpr std::size_t headerPaletteSize = 16;
@@ -113,7 +113,7 @@ bool Header::wantsEndPalette() const
 std::uint64_t Header::smallestDataSize() const
 {
     const std::uint64_t decoded = std::uint64_t{lineSize()} * static_cast<unsigned>(height);
-    return runLength ? decoded / longestRun * 2 : decoded;
+    return runLength ? decoded / maxRun * 2 : decoded;
 }
 
 std::optional<Header> parseHeader(Bytes bytes)
@@ -194,7 +194,7 @@ bool LineDecoder::startRun()
     std::optional<std::uint8_t> byte = takeByte();
     m_runLeft = 1;
     if (byte && m_runLength && isCount(*byte)) {
-        m_runLeft = *byte & longestRun;
+        m_runLeft = *byte & maxRun;
         byte = takeByte();
     }
     m_runValue = byte.value_or(0);

@@ -308,7 +308,7 @@ void ControlStyleTest::frameHasWholeLines()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     ControlStyleTest test;
     return QTest::qExec(&test, argc, argv);
 }

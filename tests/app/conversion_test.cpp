@@ -140,7 +140,7 @@ void ConversionTest::progressCountsStartedImages()
     QCOMPARE(bar->value(), 0);
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     QCOMPARE(bar->value(), 1);
     QCOMPARE(bar->maximum(), 3);
@@ -235,7 +235,7 @@ void ConversionTest::optionsAreReadAgainWhenPdftkStarts()
     fixture.setOutputFolder();
     fixture.fill("lineEdit_title", u"T"_s);
     fixture.check("checkBox_allowprint");
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     fixture.fill("lineEdit_title", u""_s);
     fixture.fill("lineEdit_ownerpwd", u"late"_s);
@@ -252,7 +252,7 @@ void ConversionTest::intermediateFileStaysInTheFolderThatConvertWasGiven()
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
     fixture.check("checkBox_allowprint");
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     fixture.fill("outputfolderEdit", QDir::tempPath());
     fixture.openGate();
@@ -279,7 +279,7 @@ void ConversionTest::rowsAddedMidRunAreConvertedToo()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     fixture.addImages({u"b.jpg"_s});
     QList<int> seen; // a bar takes no value above its maximum
@@ -308,7 +308,7 @@ void ConversionTest::failedToolsDoNotStopTheRun()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert(u"output=none exit=1"_s);
+    fixture.scriptConvert(u"output=none exit=1"_s);
     fixture.fill("lineEdit_title", u"T"_s);
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());

@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The named widgets in the order in which they joined their parents; the first time counts.
-class ChildLog : public QObject
+class ChildEventLog : public QObject
 {
 public:
-    ChildLog() { qApp->installEventFilter(this); }
+    ChildEventLog() { qApp->installEventFilter(this); }
 
     QStringList names() const
     {
@@ -55,7 +55,7 @@ private slots:
 
 void CreationTest::widgetsAreMadeInTheirOrder()
 {
-    ChildLog log;
+    ChildEventLog log;
     QWidget window;
     Ui_process().setupUi(&window);
     QStringList expected;

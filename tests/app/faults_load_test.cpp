@@ -53,8 +53,8 @@ void FaultsLoadTest::windowAnswersWhileAToolTakesLongOrTalksMuch()
     QFETCH(Mode, mode);
     FaultFixture fixture(mode);
     fixture.find<QTableWidget>("inputfiletableWidget")->removeRow(1);
-    fixture.tellConvert(convert);
-    fixture.tellPdftk(pdftk);
+    fixture.scriptConvert(convert);
+    fixture.scriptPdftk(pdftk);
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(pdftk.isEmpty() ? 1 : 2));
     QVERIFY(fixture.answers()); // in the middle of the call

@@ -209,8 +209,8 @@ void FaultsMidrunTest::changeDuringTheRun()
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
     const QString gate = fixture.holdTool();
-    fixture.tellConvert(moment == WhileConverting ? gate : QString());
-    fixture.tellPdftk(moment == WhileFinishing ? gate : QString());
+    fixture.scriptConvert(moment == WhileConverting ? gate : QString());
+    fixture.scriptPdftk(moment == WhileFinishing ? gate : QString());
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(moment == WhileConverting ? 1 : 2));
     QVERIFY(fixture.answers());
@@ -242,8 +242,8 @@ void FaultsMidrunTest::runButtonPressedAgain()
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
     const QString gate = fixture.holdTool();
-    fixture.tellConvert(gate);
-    fixture.tellPdftk(gate);
+    fixture.scriptConvert(gate);
+    fixture.scriptPdftk(gate);
     for (int i = 0; i < count; ++i)
         fixture.press("runButton");
     const int chains = mode.merged ? count : 2; // the third press finds no row left
@@ -269,7 +269,7 @@ void FaultsMidrunTest::runButtonPressedAgain()
 void FaultsMidrunTest::threePressesWithOptionsEndWithEveryPdfFinished()
 {
     FaultFixture fixture(singleFull());
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     for (int i = 0; i < 3; ++i)
         fixture.press("runButton");
     fixture.openGate();
@@ -301,7 +301,7 @@ void FaultsMidrunTest::mergingDuringTheFinishingOfALaterImageLeavesBothItsFiles(
     FaultFixture fixture(singleFull());
     const QString gate = fixture.holdTool();
     fixture.press("runButton");
-    fixture.tellPdftk(gate);
+    fixture.scriptPdftk(gate);
     QVERIFY(fixture.waitForCalls(2));
     fixture.openGate();
     QVERIFY(fixture.waitForToolsAlone());

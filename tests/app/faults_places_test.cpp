@@ -184,7 +184,7 @@ void FaultsPlacesTest::faultDuringTheRun()
     QFETCH(Mode, mode);
     QFETCH(Outcome, expected);
     FaultFixture fixture(mode);
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     QVERIFY(fixture.answers());
@@ -260,8 +260,8 @@ void FaultsPlacesTest::olderPdfStandsInForTheOneThatFailed()
     QFile older(fixture.outputPath(u"a.pdf"_s));
     QVERIFY(older.open(QIODevice::WriteOnly) && older.write("older") > 0);
     older.close();
-    fixture.tellConvert(u"output=none exit=1"_s);
-    fixture.tellPdftk(pdftk);
+    fixture.scriptConvert(u"output=none exit=1"_s);
+    fixture.scriptPdftk(pdftk);
     fixture.press("runButton");
     QVERIFY(fixture.waitUntilQuiet());
     QTEST(fixture.outputFiles(), "files");
@@ -280,7 +280,7 @@ void FaultsPlacesTest::folderFieldIsEmptiedByTheBoxAlone()
     QFETCH(bool, merged);
     QFETCH(bool, emptied);
     FaultFixture fixture(merged ? mergedPlain() : singlePlain());
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
     removeOutput(fixture);

@@ -151,8 +151,8 @@ void FaultsToolsTest::everyFaultEndsAsTheModeSays()
     const auto convertAway = absentTool(u"convert"_s, convert);
     const auto pdftkAway = absentTool(u"pdftk"_s, pdftk);
     FaultFixture fixture(mode);
-    fixture.tellConvert(convert);
-    fixture.tellPdftk(pdftk);
+    fixture.scriptConvert(convert);
+    fixture.scriptPdftk(pdftk);
 
     fixture.press("runButton");
     const bool hangs = convert == QLatin1String("hang") || pdftk == QLatin1String("hang");
@@ -196,10 +196,10 @@ void FaultsToolsTest::nextPressGoesOnBehindTheRowOfAMissingTool()
 void FaultsToolsTest::killedToolLetsTheRunGoOn()
 {
     FaultFixture fixture(singlePlain());
-    fixture.tellConvert(u"hang"_s);
+    fixture.scriptConvert(u"hang"_s);
     fixture.press("runButton");
     QVERIFY(fixture.waitForCalls(1));
-    fixture.tellConvert({});
+    fixture.scriptConvert({});
     kill(static_cast<pid_t>(fixture.calls().first().pid), SIGKILL);
     QVERIFY(fixture.waitUntilQuiet());
     const Outcome expected{u"cc"_s, {u"b.pdf: convert(b.png)"_s}, 0, u"0/2"_s};

@@ -28,7 +28,7 @@ private:
 void HostilePreviewTest::initTestCase()
 {
     const QStringList systemPlugins = QCoreApplication::libraryPaths();
-    prepare(*qApp);
+    setUpApplication(*qApp);
     // This program's own bundle has no plug-ins.
     QCoreApplication::setLibraryPaths(systemPlugins);
     for (const char *format : {"gif", "jpeg", "pcx", "tiff"})
@@ -62,7 +62,7 @@ void HostilePreviewTest::everyFileIsListedAndPreviewed()
     }
     qInfo("slowest preview: %lld ms (%s); peak memory of the window: %lld MiB", slowest,
           qPrintable(slowestFile), peakMemory(RUSAGE_SELF) >> 20);
-    QVERIFY(peakMemory(RUSAGE_SELF) < mostMemory);
+    QVERIFY(peakMemory(RUSAGE_SELF) < maxMemory);
 }
 
 void HostilePreviewTest::pictureAboveTwoGibibytesIsUnreadable_data()

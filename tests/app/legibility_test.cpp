@@ -97,7 +97,7 @@ void LegibilityTest::initTestCase()
 void LegibilityTest::cleanup()
 {
     QApplication::setFont(usual);
-    speak(*qApp, {});
+    installTranslators(*qApp, {});
 }
 
 void LegibilityTest::addFonts()
@@ -129,7 +129,7 @@ void LegibilityTest::useFont()
     QCOMPARE(QFontInfo(font).family(), family);
     QApplication::setFont(font);
     QFETCH(QString, language);
-    speak(*qApp, language);
+    installTranslators(*qApp, language);
 }
 
 void LegibilityTest::fontSetInPixelsFits()
@@ -252,7 +252,7 @@ void LegibilityTest::everyLetterHasAPicture_data()
 void LegibilityTest::everyLetterHasAPicture()
 {
     QFETCH(QString, language);
-    speak(*qApp, language);
+    installTranslators(*qApp, language);
     WindowFixture fixture;
     const auto widgets = partsOf(fixture);
     for (const QWidget *widget : widgets) {

@@ -92,7 +92,7 @@ void MessagesTest::losingTheOutputFolderMidRunEndsIt()
     WindowFixture fixture;
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s});
     fixture.setOutputFolder();
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.press("runButton");
     fixture.fill("outputfolderEdit", u"/nowhere"_s);
     QString title;

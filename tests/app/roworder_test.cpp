@@ -253,7 +253,7 @@ void RowOrderTest::stepOfARunTakesTheRowAtItsIndex()
 {
     WindowFixture fixture;
     fixture.setOutputFolder();
-    fixture.tellConvert(fixture.holdTool());
+    fixture.scriptConvert(fixture.holdTool());
     fixture.addImages({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     fixture.press("runButton");
     selectRows(listOf(fixture), {2});

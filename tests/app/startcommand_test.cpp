@@ -20,7 +20,7 @@ namespace {
 
 /// Lines that `work` writes to standard error.
 template <class Work>
-QStringList complaintsOf(const Work &work)
+QStringList errorsOf(const Work &work)
 {
     QTemporaryFile file;
     if (!file.open())
@@ -55,12 +55,12 @@ void StartCommandTest::existingFilesAreTakenInOrder()
     WindowFixture fixture;
     const QString b = fixture.makeFile(u"b.png"_s), a = fixture.makeFile(u"a b.png"_s);
     std::optional<QStringList> files;
-    const QStringList complaints = complaintsOf([&] {
+    const QStringList errors = errorsOf([&] {
         files = startFiles(
             {u"tessaro"_s, u"b.png"_s, QUrl::fromLocalFile(a).toString(), u"b.png"_s, u"."_s},
             fixture.inputPath(u"."_s));
     });
-    QCOMPARE(complaints, QStringList());
+    QCOMPARE(errors, QStringList());
     QCOMPARE(files.value().mid(0, 3),
              QStringList({fixture.inputPath(u"./b.png"_s), a, fixture.inputPath(u"./b.png"_s)}));
     QCOMPARE(files->size(), 4); // a folder is listed as a dropped one is
@@ -71,12 +71,12 @@ void StartCommandTest::eachMissingFileIsOneLine()
     WindowFixture fixture;
     const QString there = fixture.makeFile(u"there.png"_s);
     std::optional<QStringList> files;
-    const QStringList complaints = complaintsOf([&] {
+    const QStringList errors = errorsOf([&] {
         files = startFiles(
             {u"tessaro"_s, u"no.png"_s, there, u"no\nname"_s, u"file://other/a.png"_s}, u"/none"_s);
     });
     QCOMPARE(files.value(), QStringList(there));
-    QCOMPARE(complaints, QStringList({u"tessaro: There is no file /none/no.png."_s,
+    QCOMPARE(errors, QStringList({u"tessaro: There is no file /none/no.png."_s,
                                       u"tessaro: There is no file /none/no?name."_s,
                                       u"tessaro: There is no file file://other/a.png."_s}));
 }
@@ -84,11 +84,11 @@ void StartCommandTest::eachMissingFileIsOneLine()
 void StartCommandTest::unknownOptionIsRefused()
 {
     std::optional<QStringList> files;
-    const QStringList complaints = complaintsOf([&] {
+    const QStringList errors = errorsOf([&] {
         files = startFiles({u"tessaro"_s, u"--colour"_s, u"/"_s}, u"/"_s);
     });
     QVERIFY(!files.has_value());
-    QCOMPARE(complaints, QStringList(u"tessaro: There is no option --colour; see --help."_s));
+    QCOMPARE(errors, QStringList(u"tessaro: There is no option --colour; see --help."_s));
 }
 
 void StartCommandTest::firstRowIsCurrentAndItsPreviewShows()

@@ -49,7 +49,7 @@ void StartupTest::initTestCase()
     QVERIFY(dark.color(QPalette::WindowText).lightness() > 128);
     QApplication::setPalette(dark);
     QDir::setCurrent(u"/"_s);
-    prepare(*qApp);
+    setUpApplication(*qApp);
     bundle = QDir(QCoreApplication::applicationDirPath() + u"/../.."_s);
 }
 

@@ -359,7 +359,7 @@ int main(int argc, char *argv[])
     application.setProperty("desktopStyle", QApplication::style()->name());
     application.setProperty("desktopButtonFont", QApplication::font("QPushButton"));
     const QStringList plugins = QCoreApplication::libraryPaths();
-    prepare(application);
+    setUpApplication(application);
     QCoreApplication::setLibraryPaths(plugins); // the test's bundle has no plug-ins of its own
     StyleTest test;
     return QTest::qExec(&test, argc, argv);

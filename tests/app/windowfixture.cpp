@@ -16,8 +16,8 @@ WindowFixture::WindowFixture()
     QDir(folder.path()).mkpath(QStringLiteral("in"));
     QDir(folder.path()).mkpath(QStringLiteral("out"));
     qputenv("TESSARO_FAKE_LOG", QFile::encodeName(folder.filePath(QStringLiteral("calls"))));
-    tellConvert({});
-    tellPdftk({});
+    scriptConvert({});
+    scriptPdftk({});
     window.show();
 }
 

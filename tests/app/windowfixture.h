@@ -59,8 +59,8 @@ public:
     void activate();
 
     /// How the fake tools behave, see faketool.cpp; "" for good behaviour.
-    void tellConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
-    void tellPdftk(const QString &words) { qputenv("TESSARO_FAKE_PDFTK", words.toUtf8()); }
+    void scriptConvert(const QString &words) { qputenv("TESSARO_FAKE_CONVERT", words.toUtf8()); }
+    void scriptPdftk(const QString &words) { qputenv("TESSARO_FAKE_PDFTK", words.toUtf8()); }
 
     /// A file that holds fake tools back while it exists.
     QString holdTool();

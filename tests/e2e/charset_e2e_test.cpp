@@ -81,7 +81,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     CharsetE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -77,7 +77,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     CommandLinesE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

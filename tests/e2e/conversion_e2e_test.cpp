@@ -383,7 +383,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     ConversionE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -137,7 +137,7 @@ void HostileConversionTest::everyFileIsConvertedOrRefused()
     qInfo("%lld of 200 converted; slowest: %d ms (%s); largest: %lld MiB (%s)",
           qlonglong(expected.size()), slowest.duration, qPrintable(slowest.input),
           peaks.last() >> 20, qPrintable(calls.at(largest).input));
-    QVERIFY(peaks.last() < mostMemory);
+    QVERIFY(peaks.last() < maxMemory);
 }
 
 void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
@@ -157,7 +157,7 @@ int main(int argc, char *argv[])
     raiseArgumentLimit();
     qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(2 * runTimeout));
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     HostileConversionTest test;
     return QTest::qExec(&test, argc, argv);
 }

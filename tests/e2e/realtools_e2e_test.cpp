@@ -91,7 +91,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     RealToolsE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

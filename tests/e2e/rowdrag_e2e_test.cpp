@@ -211,7 +211,7 @@ void RowDragE2eTest::rowsDraggedOutOfTheWindowStay()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     RowDragE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -271,7 +271,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     SecretsTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -206,7 +206,7 @@ void ToolTipsTest::tipsOfTheFileDialogAreReadable()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     ToolTipsTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -86,7 +86,7 @@ int main(int argc, char *argv[])
 {
     raiseArgumentLimit();
     QApplication application(argc, argv);
-    prepare(application);
+    setUpApplication(application);
     UprightE2eTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -376,7 +376,7 @@ void LauncherTest::noexecIsNamed()
 
 void LauncherTest::toolsThatAreNotSetUpArePassedOn()
 {
-    write(u"Resources/failure"_s, "there is no program convert: install the package.\n");
+    write(u"Resources/setup-error"_s, "there is no program convert: install the package.\n");
     const Ended result = run(home(), {u"--version"_s});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,

@@ -41,9 +41,9 @@ void signalItself()
     event.sigev_notify = SIGEV_SIGNAL;
     event.sigev_signo = SIGTERM;
     timer_t timer = {};
-    const itimerspec atOnce = {{0, 0}, {0, 1}};
+    const itimerspec soon = {{0, 0}, {0, 1}};
     timer_create(CLOCK_MONOTONIC, &event, &timer);
-    timer_settime(timer, 0, &atOnce, nullptr);
+    timer_settime(timer, 0, &soon, nullptr);
     sigset_t pending;
     do {
         sigpending(&pending);

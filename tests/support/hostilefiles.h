@@ -47,7 +47,7 @@ private:
     QTemporaryDir folder;
 };
 
-constexpr qint64 mostMemory = qint64(4) * 1024 * 1024 * 1024;
+constexpr qint64 maxMemory = qint64(4) * 1024 * 1024 * 1024;
 
 /// Largest resident size so far, in bytes, of this process or of any of its ended children.
 inline qint64 peakMemory(int who)

@@ -77,12 +77,12 @@ int main(int argc, char *argv[])
     const QDir folder(QDir(arguments.takeFirst()).absolutePath());
     QFont font(arguments.takeFirst());
     font.setPointSizeF(arguments.takeFirst().toDouble());
-    prepare(application);
+    setUpApplication(application);
     QApplication::setFont(font);
     const QStringList languages =
         arguments.isEmpty() ? QStringList(QString()) + translatedLanguages() : arguments;
     for (const QString &language : languages) {
-        speak(application, language);
+        installTranslators(application, language);
         WindowControls controls;
         fillIn(controls);
         const QString name = language.isEmpty() ? QStringLiteral("en") : language;

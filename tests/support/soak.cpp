@@ -36,7 +36,7 @@ const QString password = u"secret"_s;
 struct Gaps
 {
     qint64 longest = 0;
-    qint64 longestWork = 0;
+    qint64 maxWork = 0;
 };
 
 struct Measures
@@ -108,7 +108,7 @@ Gaps runUntilQuiet()
     QObject::connect(&probe, &QTimer::timeout, [&] {
         const qint64 work = ownWork();
         gaps.longest = std::max(gaps.longest, sinceLast.restart());
-        gaps.longestWork = std::max(gaps.longestWork, work - workAtLast);
+        gaps.maxWork = std::max(gaps.maxWork, work - workAtLast);
         workAtLast = work;
     });
     sinceLast.start();
@@ -157,7 +157,7 @@ int main(int argc, char *argv[])
         std::fputs("Usage: soak fake|real COUNT\n", stderr);
         return 2;
     }
-    prepare(application);
+    setUpApplication(application);
     const Measures result = soak(count, arguments.at(1) == QLatin1String("real"));
     std::printf("%d images with the %s tools in %.1f s\n"
                 "  lost files                    %lld\n"
@@ -168,6 +168,6 @@ int main(int argc, char *argv[])
                 count, qPrintable(arguments.at(1)), double(result.duration) / 1000.0,
                 qlonglong(result.lost), qlonglong(result.descriptorsBefore),
                 qlonglong(result.descriptorsAfter), result.growth * 1024 / count,
-                result.gaps.longest, result.gaps.longestWork);
+                result.gaps.longest, result.gaps.maxWork);
     return result.lost == 0 && result.descriptorsAfter <= result.descriptorsBefore ? 0 : 1;
 }

@@ -26,7 +26,7 @@ class ToolFoldersTest : public QObject
 private slots:
     void initTestCase();
     void privateFolderIsForTheUserAlone();
-    void namesCannotBeForeseen();
+    void namesAreUnpredictable();
     void nothingIsLeftWithoutDescriptors();
     void leftoversAreClearedAway();
     void leftoversAreFoundAmongManyFiles();
@@ -85,7 +85,7 @@ void ToolFoldersTest::privateFolderIsForTheUserAlone()
     }
 }
 
-void ToolFoldersTest::namesCannotBeForeseen()
+void ToolFoldersTest::namesAreUnpredictable()
 {
     const QStringList tool = shellTool(u"cd ..; basename \"$PWD\" >&2; exit 1"_s);
     const ToolBundle bundle(tool);

@@ -77,7 +77,7 @@ QList<pid_t> toolsOf(const QProcess &call)
 }
 
 // Real tools that a call runs side by side, at the least.
-int atOnce()
+int concurrency()
 {
     return std::min(QThread::idealThreadCount(), 2);
 }
@@ -299,7 +299,7 @@ void ToolProcessesTest::realConvertStopsOnASignal()
     const QTemporaryDir folder, pixels;
     const auto call = startConverting(folder.path(), pixels.path());
     QList<pid_t> children;
-    QTRY_VERIFY((children = toolsOf(*call)).size() >= atOnce());
+    QTRY_VERIFY((children = toolsOf(*call)).size() >= concurrency());
     kill(pidOf(*call), SIGTERM);
     QVERIFY(call->waitForFinished());
     QVERIFY(call->exitCode() > 0);
@@ -313,7 +313,7 @@ void ToolProcessesTest::killedProgramTakesConvertAlong()
     const QTemporaryDir folder, pixels;
     const auto call = startConverting(folder.path(), pixels.path());
     QList<pid_t> children;
-    QTRY_VERIFY((children = toolsOf(*call)).size() >= atOnce());
+    QTRY_VERIFY((children = toolsOf(*call)).size() >= concurrency());
     kill(pidOf(*call), SIGKILL);
     QVERIFY(call->waitForFinished());
     QTRY_VERIFY(haveEnded(children));
@@ -334,7 +334,7 @@ void ToolProcessesTest::failureEndsThoseAtWork()
     const ToolBundle bundle(shellTool(u"case $1 in *input-1*) exec sleep "_s + word +
                                       u";; esac; while ! pgrep -f 'sleep "_s + word +
                                       u"' >/dev/null; do :; done; exit 9"_s));
-    if (atOnce() < 2)
+    if (concurrency() < 2)
         QSKIP("one core runs one tool at a time");
     const QTemporaryDir folder;
     for (const QString &name : {u"1"_s, u"2"_s})

@@ -85,7 +85,7 @@ QStringList runOf(WindowFixture &fixture, bool merged)
 
 QStringList resultsIn(const QString &language)
 {
-    speak(*qApp, language);
+    installTranslators(*qApp, language);
     QStringList results;
     for (const bool merged : {false, true}) {
         WindowFixture fixture;

@@ -34,8 +34,8 @@ class LanguagesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { speak(*qApp, {}); }
-    void cleanupTestCase() { speak(*qApp, {}); }
+    void init() { installTranslators(*qApp, {}); }
+    void cleanupTestCase() { installTranslators(*qApp, {}); }
     void everyKindOfTextIsTranslated();
     void englishComesBackToTheLetter();
     void invalidOrderStaysEnglish_data();
@@ -49,7 +49,7 @@ private slots:
 
 void LanguagesTest::everyKindOfTextIsTranslated()
 {
-    speak(*qApp, u"de"_s);
+    installTranslators(*qApp, u"de"_s);
     WindowFixture fixture;
     QCOMPARE(fixture.window.windowTitle(), u"Tessaro Bild-zu-PDF-Konverter"_s);
     QCOMPARE(fixture.find<QLabel>("label_2")->text(), u"Vorschau"_s);
@@ -64,8 +64,8 @@ void LanguagesTest::everyKindOfTextIsTranslated()
 
 void LanguagesTest::englishComesBackToTheLetter()
 {
-    speak(*qApp, u"ar"_s);
-    speak(*qApp, {});
+    installTranslators(*qApp, u"ar"_s);
+    installTranslators(*qApp, {});
     WindowFixture fixture;
     QCOMPARE(fixture.find<QPushButton>("removeButton")->text(), u"Romove"_s);
     QVERIFY(!fixture.window.isRightToLeft());
@@ -82,7 +82,7 @@ void LanguagesTest::invalidOrderStaysEnglish_data()
 void LanguagesTest::invalidOrderStaysEnglish()
 {
     QFETCH(QString, language);
-    speak(*qApp, language);
+    installTranslators(*qApp, language);
     WindowFixture fixture;
     QVERIFY(boxOf(fixture).first() != QLatin1String("Empty input"));
     fixture.addImages({u"a.jpg"_s});
@@ -95,7 +95,7 @@ void LanguagesTest::textsOfQtComeFromTheSystem()
     const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
     QCOMPARE(cancel(), u"Cancel"_s);
     QCoreApplication::setLibraryPaths({u"/nowhere"_s}); // as start-up narrows them
-    speak(*qApp, u"de"_s);
+    installTranslators(*qApp, u"de"_s);
     QVERIFY2(QFile::exists(QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_de.qm"_s),
              "install qt6-translations-l10n");
     QCOMPARE(cancel(), u"Abbrechen"_s);
@@ -114,7 +114,7 @@ void LanguagesTest::windowRunsInItsLanguagesDirection_data()
 void LanguagesTest::windowRunsInItsLanguagesDirection()
 {
     QFETCH(QString, language);
-    speak(*qApp, language);
+    installTranslators(*qApp, language);
     WindowFixture fixture;
     QTEST(fixture.window.isRightToLeft(), "rightToLeft");
 }
@@ -161,13 +161,13 @@ void LanguagesTest::programAsksTheEnvironment()
     };
     // One is answered before there is a window, the other after start-up is prepared.
     const QByteArray help = answerTo(u"--help"_s), complaint = answerTo(u"--nonsense"_s);
-    speak(*qApp, answer);
-    const auto inWords = [](const char *text) {
+    installTranslators(*qApp, answer);
+    const auto plain = [](const char *text) {
         return QCoreApplication::translate("CommandLine", text).toUtf8();
     };
-    QVERIFY2(help.contains(inWords("Turns images into PDF documents.")), help);
+    QVERIFY2(help.contains(plain("Turns images into PDF documents.")), help);
     const QByteArray expected =
-        inWords("There is no option %1; see --help.").replace("%1", "--nonsense");
+        plain("There is no option %1; see --help.").replace("%1", "--nonsense");
     QVERIFY2(complaint.contains(expected), complaint);
 }
 

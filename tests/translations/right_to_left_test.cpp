@@ -58,7 +58,7 @@ class RightToLeftTest : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { speak(*qApp, {}); }
+    void cleanup() { installTranslators(*qApp, {}); }
     void controlsAreMirrored();
     void optionDialogIsMirrored();
     void runButtonKeepsItsPlaceWhenSetAgain();
@@ -70,10 +70,10 @@ private slots:
 
 void RightToLeftTest::controlsAreMirrored()
 {
-    speak(*qApp, u"de"_s);
+    installTranslators(*qApp, u"de"_s);
     WindowFixture german;
     const auto expected = placesOf(german);
-    speak(*qApp, u"he"_s);
+    installTranslators(*qApp, u"he"_s);
     WindowFixture hebrew;
     const auto places = placesOf(hebrew);
     QCOMPARE(places.keys(), expected.keys());
@@ -93,7 +93,7 @@ void RightToLeftTest::controlsAreMirrored()
 
 void RightToLeftTest::optionDialogIsMirrored()
 {
-    speak(*qApp, u"ar"_s);
+    installTranslators(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto &dialog = ProcessProbe::optionDialog(fixture.window);
     QCOMPARE(dialog.findChild<QPushButton *>(u"okButton"_s)->geometry(), QRect(10, 310, 75, 23));
@@ -102,7 +102,7 @@ void RightToLeftTest::optionDialogIsMirrored()
 
 void RightToLeftTest::runButtonKeepsItsPlaceWhenSetAgain()
 {
-    speak(*qApp, u"ar"_s);
+    installTranslators(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto *button = fixture.find<QPushButton>("runButton");
     QCOMPARE(button->geometry(), QRect(571 - 444 - 71, 280, 71, 72));
@@ -112,7 +112,7 @@ void RightToLeftTest::runButtonKeepsItsPlaceWhenSetAgain()
 
 void RightToLeftTest::previewStaysAtItsLabelsEdge()
 {
-    speak(*qApp, u"ar"_s);
+    installTranslators(*qApp, u"ar"_s);
     WindowFixture fixture;
     const auto *frame = fixture.find<QFrame>("previewframe");
     const int edge = frame->geometry().right();
@@ -131,7 +131,7 @@ void RightToLeftTest::previewStaysAtItsLabelsEdge()
 
 void RightToLeftTest::fileButtonsStandInReadingOrder()
 {
-    speak(*qApp, u"he"_s);
+    installTranslators(*qApp, u"he"_s);
     WindowFixture fixture;
     QVERIFY(fixture.find<QWidget>("openfileButton")->x() >
             fixture.find<QWidget>("removeButton")->x());
@@ -143,7 +143,7 @@ void RightToLeftTest::fileButtonsStandInReadingOrder()
 
 void RightToLeftTest::pathsAndPasswordsRunFromLeftToRight()
 {
-    speak(*qApp, u"ar"_s);
+    installTranslators(*qApp, u"ar"_s);
     WindowFixture fixture;
     for (const char *name : {"outputfolderEdit", "lineEdit_ownerpwd", "lineEdit_userpwd"})
         QVERIFY2(!fixture.find<QLineEdit>(name)->isRightToLeft(), name);
@@ -173,7 +173,7 @@ void RightToLeftTest::pathInTheListIsPaintedFromLeftToRight()
     WindowFixture english;
     const QImage atTheRight =
         drawn(english, QString(path).replace(u'/', u"/\u200e"_s), Qt::AlignRight);
-    speak(*qApp, u"he"_s);
+    installTranslators(*qApp, u"he"_s);
     WindowFixture hebrew;
     QCOMPARE(drawn(hebrew, path, Qt::AlignLeft), atTheRight);
     QCOMPARE(hebrew.find<QTableWidget>("inputfiletableWidget")->item(0, 0)->text(), path);

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int lookInterval = 5; // ms
+constexpr int pollInterval = 5; // ms
 constexpr int quietLooks = 5;
 
 /// True while a child process of this program runs or waits to be reaped.
@@ -87,7 +87,7 @@ bool WindowControls::waitUntilQuiet(int timeout)
         if (quiet == quietLooks)
             loop.exit(0);
     });
-    look.start(lookInterval);
+    look.start(pollInterval);
     QTimer::singleShot(timeout, &loop, [&loop] { loop.exit(1); });
     return loop.exec() == 0;
 }

@@ -136,7 +136,7 @@ void Conversion::start(const Run &run)
     Workload work = run.work;
     const bool alone = m_call.inputs.size() == 1 && m_runs.empty() && m_parts.size() == 1;
     work.concurrency = alone ? 1 : m_concurrency;
-    ChildSpec spec = magickCommand(pageArguments(m_call.options, run.image, input, pageName),
+    SubprocessSpec spec = magickCommand(pageArguments(m_call.options, run.image, input, pageName),
                                    limitsFor(work, machineMemory(), freeBytesIn(m_pixels.path())),
                                    m_pixels.path() + "/" + name);
     spec.folder = folder.get();
@@ -146,7 +146,7 @@ void Conversion::start(const Run &run)
     m_pool.start(std::move(spec), run.part);
 }
 
-void Conversion::finish(ChildPool::Ended ended)
+void Conversion::finish(SubprocessPool::Ended ended)
 {
     forgiveWrongFileSize(ended.result);
     const std::string warnings = m_inputs.requireSuccess(ended.result);

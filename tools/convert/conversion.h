@@ -40,7 +40,7 @@ private:
     void plan(const std::string &path);
     void addRuns(const std::string &path, const ConvertedImage &image, unsigned long long bytes);
     void start(const Run &run);
-    void finish(ChildPool::Ended ended);
+    void finish(SubprocessPool::Ended ended);
     void join();
 
     const ConvertCall &m_call;
@@ -53,5 +53,5 @@ private:
     size_t m_planned = 0;
     std::deque<Run> m_runs;
     std::string m_warnings;
-    ChildPool m_pool;
+    SubprocessPool m_pool;
 };

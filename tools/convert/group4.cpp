@@ -86,17 +86,17 @@ int close(thandle_t)
     return 0;
 }
 
-// Whether libtiff has complained; it has one handler for all.
-thread_local bool complained = false;
+// Whether libtiff has reported an error; it has one handler for all.
+thread_local bool hasReported = false;
 
 void noteComplaint(const char *, const char *, va_list)
 {
-    complained = true;
+    hasReported = true;
 }
 
 void listenToLibtiff()
 {
-    complained = false;
+    hasReported = false;
     TIFFSetErrorHandler(noteComplaint);
     TIFFSetWarningHandler(noteComplaint);
 }
@@ -131,7 +131,7 @@ bool copyRows(TIFF *from, TIFF *to, std::uint32_t height)
 {
     std::vector<unsigned char> row(static_cast<std::size_t>(TIFFScanlineSize(from)));
     for (std::uint32_t y = 0; y < height; ++y)
-        if (TIFFReadScanline(from, row.data(), y, 0) != 1 || complained ||
+        if (TIFFReadScanline(from, row.data(), y, 0) != 1 || hasReported ||
             TIFFWriteScanline(to, row.data(), y, 0) != 1)
             return false;
     return TIFFFlushData(to) == 1;
@@ -160,9 +160,9 @@ struct StripRows
 
 void readRow(TIFF *tiff, std::uint32_t y, std::vector<unsigned char> &row, StripRows &strip)
 {
-    complained = false;
+    hasReported = false;
     const bool isRead = TIFFReadScanline(tiff, row.data(), y, 0) == 1;
-    const bool isFaulty = !isRead || complained;
+    const bool isFaulty = !isRead || hasReported;
     strip.count += 1;
     strip.faulty += isFaulty ? 1 : 0;
     strip.missing = isFaulty && (!isRead || isBlank(row)) ? strip.missing + 1 : 0;
@@ -209,8 +209,8 @@ std::optional<std::string> asOneStrip(int file, std::uint64_t directory)
         return std::nullopt;
     Source result;
     const TiffPointer to = openMemory(result, width, height);
-    complained = false;
-    if (!to || !copyRows(from.get(), to.get(), height) || complained)
+    hasReported = false;
+    if (!to || !copyRows(from.get(), to.get(), height) || hasReported)
         return std::nullopt;
     return onlyStrip(to.get(), result);
 }

@@ -32,7 +32,7 @@ constexpr std::array<const char *, 8> orientations = {
 
 // Of limits the policy that is read first holds, of rights the last: ImageMagick reads
 // MAGICK_CONFIGURE_PATH, then /etc, then XDG_CONFIG_HOME, then HOME (6.9.11 and 7.1).
-ChildSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
+SubprocessSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
                         const std::string &pixels)
 {
     const std::string configuration = policyFolder();
@@ -42,7 +42,7 @@ ChildSpec magickCommand(const std::vector<std::string> &arguments, const Convert
     variables.push_back("HOME=" + configuration);
     variables.push_back("MAGICK_TEMPORARY_PATH=" + pixels);
     variables.emplace_back("LC_ALL=C.UTF-8");
-    ChildSpec spec;
+    SubprocessSpec spec;
     spec.command = realCommand("convert");
     spec.command.insert(spec.command.end(), arguments.begin(), arguments.end());
     spec.environment = environmentWith(variables);

@@ -63,7 +63,7 @@ bool reportsDamage(std::string_view messages)
 }
 
 // Data that is short is an error of its own.
-void forgiveWrongFileSize(ChildResult &result)
+void forgiveWrongFileSize(SubprocessResult &result)
 {
     std::string others;
     for (const std::string &line : linesOf(result.errors)) {

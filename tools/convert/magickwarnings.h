@@ -11,4 +11,4 @@ bool reportsDamage(std::string_view messages);
 
 /// Makes a success of the `result` of an ImageMagick whose only error was the size that the header
 /// of a BMP states: it makes the whole page of such a file, and many programs write them.
-void forgiveWrongFileSize(ChildResult &result);
+void forgiveWrongFileSize(SubprocessResult &result);

@@ -31,7 +31,7 @@ std::string run(const Arguments &arguments)
     const OutputTransaction output(call->output);
     const std::unique_ptr<WorkDirectory> pixels =
         WorkDirectory::inFirstOf(pixelFolders(folderOf(call->output)));
-    ChildSpec bounds;
+    SubprocessSpec bounds;
     bounds.sandbox = sandboxFor(*call, {output.folder().plainPath(), pixels->plainPath()});
     std::string warnings = runConfined("convert", bounds, [&] {
         holdSignals();

@@ -127,14 +127,14 @@ std::uint64_t TiffWalk::number(const std::string &bytes, std::size_t at, std::si
 std::vector<TiffDirectory> TiffWalk::walk()
 {
     constexpr std::uint64_t bigVersion = 43;
-    constexpr std::size_t mostDirectories = 65535;
+    constexpr std::size_t maxDirectories = 65535;
     const std::string head = at(0, 8, "the header");
     m_littleEndian = head[0] == 'I';
     m_big = number(head, 2, 2) == bigVersion;
     std::uint64_t offset = m_big ? number(at(8, 8, "the header"), 0, 8) : number(head, 4, 4);
     std::vector<TiffDirectory> directories;
     std::set<std::uint64_t> seen;
-    while (offset != 0 && directories.size() < mostDirectories && seen.insert(offset).second) {
+    while (offset != 0 && directories.size() < maxDirectories && seen.insert(offset).second) {
         directories.push_back(directory(offset));
         offset = directories.back().next;
     }
@@ -146,7 +146,7 @@ std::vector<TiffDirectory> TiffWalk::walk()
 
 TiffDirectory TiffWalk::directory(std::uint64_t offset)
 {
-    constexpr std::uint64_t mostFields = 4096;
+    constexpr std::uint64_t maxFields = 4096;
     const std::size_t countSize = m_big ? 8 : 2;
     const std::size_t numberSize = m_big ? 8 : 4;
     const std::size_t fieldSize = 4 + 2 * numberSize;
@@ -154,7 +154,7 @@ TiffDirectory TiffWalk::directory(std::uint64_t offset)
     TiffDirectory result;
     result.offset = offset;
     const std::uint64_t count = number(at(offset, countSize, what), 0, countSize);
-    if (count > mostFields)
+    if (count > maxFields)
         throw ToolError("the image is damaged: a directory of the TIFF file is no directory");
     const std::string bytes = at(offset + countSize, count * fieldSize + numberSize, what);
     requireRoom(bytes.size());

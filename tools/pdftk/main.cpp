@@ -64,7 +64,7 @@ std::string run(const Arguments &arguments)
         entries = entriesOf(*call->infoFile, charset);
     const std::optional<Encryption> encryption = encryptionOf(*call, charset);
     const OutputTransaction output(call->output);
-    ChildSpec bounds;
+    SubprocessSpec bounds;
     bounds.deadline = timeFor(call->input);
     bounds.sandbox = {
         .files = {{call->input, Access::Read}, {output.folder().plainPath(), Access::Write}}};

@@ -41,7 +41,7 @@ std::string InputLinks::add(int folder, const std::string &path, const std::stri
     return word;
 }
 
-std::string InputLinks::requireSuccess(const ChildResult &result) const
+std::string InputLinks::requireSuccess(const SubprocessResult &result) const
 {
     std::string errors = replaced(result.explainedErrors(), m_originalPaths);
     if (!result.succeeded())

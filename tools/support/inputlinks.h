@@ -26,7 +26,7 @@ public:
 
     /// What a tool that succeeded wrote to its standard error, with the user's own paths. Throws
     /// ToolError with its messages when it failed.
-    std::string requireSuccess(const ChildResult &result) const;
+    std::string requireSuccess(const SubprocessResult &result) const;
 
 private:
     const WorkDirectory &m_elsewhere;

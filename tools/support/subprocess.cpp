@@ -4,14 +4,14 @@
 
 #include <sys/wait.h>
 
-int ChildResult::exitStatus() const
+int SubprocessResult::exitStatus() const
 {
     if (succeeded())
         return 0;
     return WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 1;
 }
 
-std::string ChildResult::explainedErrors() const
+std::string SubprocessResult::explainedErrors() const
 {
     if (timedOut)
         return errors + "gave up: it took too long\n";
@@ -29,13 +29,13 @@ void holdSignals()
     signal(SIGPIPE, SIG_IGN);
     // So would a file larger than the caller allows; writing it fails instead.
     signal(SIGXFSZ, SIG_IGN);
-    const sigset_t held = ChildPool::heldSignals();
+    const sigset_t held = SubprocessPool::heldSignals();
     sigprocmask(SIG_BLOCK, &held, nullptr);
 }
 
-ChildResult runChild(const ChildSpec &spec)
+SubprocessResult runSubprocess(const SubprocessSpec &spec)
 {
-    ChildPool pool;
+    SubprocessPool pool;
     pool.start(spec, 0);
     return pool.wait().result;
 }

@@ -19,7 +19,7 @@ struct ResourceLimit
 };
 
 /// How to start a real tool.
-struct ChildSpec
+struct SubprocessSpec
 {
     /// The program's path and its arguments.
     std::vector<std::string> command;
@@ -39,7 +39,7 @@ struct ChildSpec
     std::optional<Sandbox> sandbox;
 };
 
-struct ChildResult
+struct SubprocessResult
 {
     /// What waitpid tells.
     int waitStatus = 0;
@@ -62,4 +62,4 @@ void holdSignals();
 
 /// Runs the child to its end, passing those signals on to it; one that has not ended some seconds
 /// after the first of them is killed. Throws ToolError when it cannot be started.
-ChildResult runChild(const ChildSpec &spec);
+SubprocessResult runSubprocess(const SubprocessSpec &spec);

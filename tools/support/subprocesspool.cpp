@@ -37,7 +37,7 @@ void endOrphans()
 
 } // namespace
 
-ChildPool::ChildPool()
+SubprocessPool::SubprocessPool()
 {
     const sigset_t held = heldSignals();
     m_signals = FileDescriptor(signalfd(-1, &held, SFD_CLOEXEC | SFD_NONBLOCK));
@@ -45,7 +45,7 @@ ChildPool::ChildPool()
         throw systemError("cannot wait for", "the tool");
 }
 
-ChildPool::~ChildPool()
+SubprocessPool::~SubprocessPool()
 {
     endAll(SIGTERM);
     while (!m_children.empty())
@@ -53,7 +53,7 @@ ChildPool::~ChildPool()
     endOrphans();
 }
 
-sigset_t ChildPool::heldSignals()
+sigset_t SubprocessPool::heldSignals()
 {
     sigset_t set;
     sigemptyset(&set);
@@ -64,12 +64,12 @@ sigset_t ChildPool::heldSignals()
     return set;
 }
 
-void ChildPool::start(ChildSpec spec, size_t number)
+void SubprocessPool::start(SubprocessSpec spec, size_t number)
 {
-    m_children.push_back({number, std::make_unique<ChildProcess>(std::move(spec))});
+    m_children.push_back({number, std::make_unique<Subprocess>(std::move(spec))});
 }
 
-ChildPool::Ended ChildPool::wait()
+SubprocessPool::Ended SubprocessPool::wait()
 {
     while (true) {
         const auto ended = std::find_if(m_children.begin(), m_children.end(),
@@ -83,19 +83,19 @@ ChildPool::Ended ChildPool::wait()
     }
 }
 
-int ChildPool::askedToEnd()
+int SubprocessPool::askedToEnd()
 {
     takeSignals();
     return m_signal;
 }
 
-void ChildPool::requireNoSignal()
+void SubprocessPool::requireNoSignal()
 {
     if (const int signal = askedToEnd())
         throw ToolError({1, "", "ended by signal " + std::to_string(signal) + "\n"});
 }
 
-void ChildPool::step()
+void SubprocessPool::step()
 {
     std::vector<pollfd> watched = {{m_signals.get(), POLLIN, 0}};
     for (const Member &member : m_children) {
@@ -111,9 +111,9 @@ void ChildPool::step()
     }
 }
 
-int ChildPool::waitingTime() const
+int SubprocessPool::waitingTime() const
 {
-    using Clock = ChildProcess::Clock;
+    using Clock = Subprocess::Clock;
     auto next = Clock::time_point::max();
     for (const Member &member : m_children)
         next = std::min(next, member.child->nextDeadline().value_or(next));
@@ -124,7 +124,7 @@ int ChildPool::waitingTime() const
 }
 
 // SIGCHLD only wakes: several ends may share one.
-void ChildPool::takeSignals()
+void SubprocessPool::takeSignals()
 {
     signalfd_siginfo information = {};
     while (read(m_signals.get(), &information, sizeof information) > 0) {
@@ -136,7 +136,7 @@ void ChildPool::takeSignals()
     }
 }
 
-void ChildPool::endAll(int signal)
+void SubprocessPool::endAll(int signal)
 {
     for (const Member &member : m_children)
         member.child->endAfter(signal);

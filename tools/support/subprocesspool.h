@@ -6,27 +6,27 @@
 #include <memory>
 #include <vector>
 
-class ChildProcess;
+class Subprocess;
 
 /// Children at work side by side. SIGTERM, SIGINT, SIGHUP and SIGQUIT are passed on to all of them.
-class ChildPool
+class SubprocessPool
 {
 public:
     struct Ended
     {
         size_t number;
-        ChildResult result;
+        SubprocessResult result;
     };
 
-    ChildPool();
-    ChildPool(const ChildPool &) = delete;
-    ChildPool &operator=(const ChildPool &) = delete;
+    SubprocessPool();
+    SubprocessPool(const SubprocessPool &) = delete;
+    SubprocessPool &operator=(const SubprocessPool &) = delete;
     /// Ends those at work, by SIGTERM first and SIGKILL some seconds later, and then at once what
     /// any of them has left behind.
-    ~ChildPool();
+    ~SubprocessPool();
 
     /// Throws ToolError when the child cannot be started.
-    void start(ChildSpec spec, size_t number);
+    void start(SubprocessSpec spec, size_t number);
     size_t atWork() const { return m_children.size(); }
     /// Waits for the end of one of those at work; `number` is what it was started with.
     Ended wait();
@@ -42,7 +42,7 @@ private:
     struct Member
     {
         size_t number;
-        std::unique_ptr<ChildProcess> child;
+        std::unique_ptr<Subprocess> child;
     };
 
     void step();

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr size_t mostKept = 256UL * 1024;
+constexpr size_t maxKept = 256UL * 1024;
 constexpr std::chrono::seconds graceAfterSignal{3};
 // What a shell reports for a program that cannot be executed.
 constexpr int cannotExecute = 127;
@@ -40,7 +40,7 @@ pid_t forkWithDescriptor(int &descriptor)
 
 } // namespace
 
-ChildProcess::ChildProcess(ChildSpec spec)
+Subprocess::Subprocess(SubprocessSpec spec)
     : m_spec(std::move(spec))
 {
     if (m_spec.deadline.count() > 0)
@@ -48,7 +48,7 @@ ChildProcess::ChildProcess(ChildSpec spec)
     start();
 }
 
-ChildProcess::Pipe ChildProcess::makePipe()
+Subprocess::Pipe Subprocess::makePipe()
 {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0)
@@ -56,19 +56,19 @@ ChildProcess::Pipe ChildProcess::makePipe()
     return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
-void ChildProcess::Stream::readSome()
+void Subprocess::Stream::readSome()
 {
     std::array<char, 16384> buffer{};
     const ssize_t count = read(end.get(), buffer.data(), buffer.size());
     if (count > 0) {
-        const size_t room = mostKept - std::min(mostKept, kept->size());
+        const size_t room = maxKept - std::min(maxKept, kept->size());
         kept->append(buffer.data(), std::min(room, static_cast<size_t>(count)));
     } else if (count == 0 || errno != EAGAIN) {
         end.close();
     }
 }
 
-void ChildProcess::start()
+void Subprocess::start()
 {
     m_inputPipe = makePipe();
     m_outputPipe = makePipe();
@@ -94,7 +94,7 @@ void ChildProcess::start()
     m_inputPipe.writeEnd.close();
 }
 
-void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environment)
+void Subprocess::becomeChild(pid_t parent, char **arguments, char **environment)
 {
     prctl(PR_SET_PDEATHSIG, m_spec.signalOnOurDeath);
     // A parent that died before the line above will never be reported.
@@ -125,19 +125,19 @@ void ChildProcess::becomeChild(pid_t parent, char **arguments, char **environmen
     _exit(cannotExecute);
 }
 
-void ChildProcess::connectStreams()
+void Subprocess::connectStreams()
 {
     dup2(m_inputPipe.readEnd.get(), STDIN_FILENO);
     dup2(m_outputPipe.writeEnd.get(), STDOUT_FILENO);
     dup2(m_errorPipe.writeEnd.get(), STDERR_FILENO);
 }
 
-std::array<pollfd, 2> ChildProcess::watched() const
+std::array<pollfd, 2> Subprocess::watched() const
 {
     return {{{m_output.end.get(), POLLIN, 0}, {m_errors.end.get(), POLLIN, 0}}};
 }
 
-void ChildProcess::step(const std::array<pollfd, 2> &seen)
+void Subprocess::step(const std::array<pollfd, 2> &seen)
 {
     if (seen[0].revents != 0)
         m_output.readSome();
@@ -146,20 +146,20 @@ void ChildProcess::step(const std::array<pollfd, 2> &seen)
     enforceTime();
 }
 
-void ChildProcess::send(int signal) const
+void Subprocess::send(int signal) const
 {
     if (syscall(SYS_pidfd_send_signal, m_descriptor.get(), signal, nullptr, 0) != 0)
         kill(m_child, signal);
 }
 
-void ChildProcess::endAfter(int signal)
+void Subprocess::endAfter(int signal)
 {
     send(signal);
     if (!m_killAt)
         m_killAt = Clock::now() + graceAfterSignal;
 }
 
-bool ChildProcess::reap()
+bool Subprocess::reap()
 {
     if (waitpid(m_child, &m_result.waitStatus, WNOHANG) != m_child)
         return false;
@@ -167,7 +167,7 @@ bool ChildProcess::reap()
     return true;
 }
 
-void ChildProcess::enforceTime()
+void Subprocess::enforceTime()
 {
     const Clock::time_point now = Clock::now();
     if (m_killAt && now >= *m_killAt) {
@@ -180,7 +180,7 @@ void ChildProcess::enforceTime()
     }
 }
 
-void ChildProcess::drain()
+void Subprocess::drain()
 {
     // What fits into a pipe (64 KiB on Linux) four times over: a process that the child has left
     // behind could write for ever.

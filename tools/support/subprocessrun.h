@@ -9,16 +9,16 @@
 #include <poll.h>
 #include <sys/types.h>
 
-/// One child that has been started, for a loop of poll(): runChild() or ChildPool.
-class ChildProcess
+/// One child that has been started, for a loop of poll(): runSubprocess() or SubprocessPool.
+class Subprocess
 {
 public:
     using Clock = std::chrono::steady_clock;
 
     /// Throws ToolError when it cannot be started.
-    explicit ChildProcess(ChildSpec spec);
-    ChildProcess(const ChildProcess &) = delete;
-    ChildProcess &operator=(const ChildProcess &) = delete;
+    explicit Subprocess(SubprocessSpec spec);
+    Subprocess(const Subprocess &) = delete;
+    Subprocess &operator=(const Subprocess &) = delete;
 
     /// Its streams that end here, to be watched; step() takes them back with what poll() has seen.
     std::array<pollfd, 2> watched() const;
@@ -33,7 +33,7 @@ public:
     void endAfter(int signal);
     /// True once it has ended; result() is then complete.
     bool reap();
-    ChildResult &result() { return m_result; }
+    SubprocessResult &result() { return m_result; }
 
 private:
     struct Pipe
@@ -56,8 +56,8 @@ private:
     void enforceTime();
     void drain();
 
-    ChildSpec m_spec;
-    ChildResult m_result;
+    SubprocessSpec m_spec;
+    SubprocessResult m_result;
     Pipe m_inputPipe, m_outputPipe, m_errorPipe;
     Stream m_output{FileDescriptor(), &m_result.output};
     Stream m_errors{FileDescriptor(), &m_result.errors};

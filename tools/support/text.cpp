@@ -73,7 +73,7 @@ bool isBeyondUnicode(char32_t code)
 
 // Of the words that `text` may begin with, the longest is the last that does not sort behind it;
 // if that one is another word, the next shorter can only be a beginning that both share.
-Replacements::const_iterator longestBeginning(std::string_view text, const Replacements &words)
+Replacements::const_iterator longestPrefix(std::string_view text, const Replacements &words)
 {
     for (auto word = words.upper_bound(text); word != words.begin() && !text.empty();
          word = words.upper_bound(text)) {
@@ -130,7 +130,7 @@ std::string replaced(std::string_view text, const Replacements &words)
 {
     std::string result;
     while (!text.empty()) {
-        const auto word = longestBeginning(text, words);
+        const auto word = longestPrefix(text, words);
         if (word == words.end()) {
             result += text.front();
             text.remove_prefix(1);

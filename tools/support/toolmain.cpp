@@ -100,7 +100,7 @@ int runTool(const Tool &tool, int argc, char **argv)
     return 1;
 }
 
-std::string runConfined(const std::string &name, ChildSpec bounds,
+std::string runConfined(const std::string &name, SubprocessSpec bounds,
                         const std::function<std::string()> &work)
 {
     bounds.task = [&name, &work] {
@@ -112,9 +112,9 @@ std::string runConfined(const std::string &name, ChildSpec bounds,
     };
     // Kept for `work`: inside there is no environment that names a locale.
     localeCharset();
-    ChildPool pool;
+    SubprocessPool pool;
     pool.start(std::move(bounds), 0);
-    const ChildResult result = pool.wait().result;
+    const SubprocessResult result = pool.wait().result;
     if (!result.succeeded())
         throw ToolError({result.exitStatus(), result.output, result.explainedErrors()});
     pool.requireNoSignal();

@@ -29,5 +29,5 @@ int runTool(const Tool &tool, int argc, char **argv);
 /// process with the sandbox, limits and deadline of `bounds`. Returns what `work` returns, or
 /// throws ToolError with what it threw. Signals are passed on, and end the copy unless it holds
 /// them.
-std::string runConfined(const std::string &name, ChildSpec bounds,
+std::string runConfined(const std::string &name, SubprocessSpec bounds,
                         const std::function<std::string()> &work);
