@@ -121,6 +121,9 @@ void ToolProcessesTest::signalsArePassedOnAndCleanedUpAfter_data()
     QTest::newRow("SIGINT") << SIGINT;
     QTest::newRow("SIGHUP") << SIGHUP;
     QTest::newRow("SIGQUIT") << SIGQUIT;
+    QTest::newRow("SIGALRM") << SIGALRM;
+    QTest::newRow("SIGUSR1") << SIGUSR1;
+    QTest::newRow("SIGUSR2") << SIGUSR2;
 }
 
 void ToolProcessesTest::signalsArePassedOnAndCleanedUpAfter()
@@ -129,9 +132,9 @@ void ToolProcessesTest::signalsArePassedOnAndCleanedUpAfter()
     const QTemporaryDir folder;
     writeContent(folder.filePath(u"in.pdf"_s), "in");
     writeContent(folder.filePath(u"o.pdf"_s), "older");
-    const ToolBundle bundle(
-        shellTool(u"for s in TERM INT HUP QUIT; do trap \"echo $s >../../got; exit 7\" $s; done; "
-                  "touch ../../started; while :; do sleep 0.05; done"_s));
+    const ToolBundle bundle(shellTool(u"for s in TERM INT HUP QUIT ALRM USR1 USR2; do trap \"echo "
+                                      u"$s >../../got; exit 7\" $s; done; "
+                                      "touch ../../started; while :; do sleep 0.05; done"_s));
     const auto call = startProgram(bundle.tool(u"convert"_s), converting, folder.path());
     QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
     kill(pidOf(*call), signal);

@@ -1,6 +1,7 @@
 #include "filebytes.h"
 
 #include "error.h"
+#include "subprocess.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -20,7 +21,7 @@ void requireNoSignal()
 {
     sigset_t pending;
     sigpending(&pending);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+    for (const int signal : endingSignals) {
         if (sigismember(&pending, signal) == 1)
             throw ToolError("ended by signal " + std::to_string(signal));
     }

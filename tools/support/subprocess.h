@@ -2,6 +2,7 @@
 
 #include "sandbox.h"
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <functional>
@@ -55,9 +56,13 @@ struct SubprocessResult
     std::string explainedErrors() const;
 };
 
-/// From now on SIGCHLD, SIGTERM, SIGINT, SIGHUP and SIGQUIT wait for whoever runs a child. Of the
-/// last three, those that this process was told to ignore, by nohup perhaps, stay ignored by it and
-/// by its children.
+/// Signals that others send to end a program. Without an answer of ours to one of them its private
+/// folder would be left behind.
+inline constexpr std::array endingSignals = {SIGTERM, SIGINT,  SIGHUP, SIGQUIT,
+                                             SIGALRM, SIGUSR1, SIGUSR2};
+
+/// From now on SIGCHLD and `endingSignals` wait for whoever runs a child. All but SIGTERM that this
+/// process was told to ignore, by nohup perhaps, stay ignored by it and by its children.
 void holdSignals();
 
 /// Runs the child to its end, passing those signals on to it; one that has not ended some seconds

@@ -57,7 +57,8 @@ sigset_t SubprocessPool::heldSignals()
 {
     sigset_t set;
     sigemptyset(&set);
-    for (const int signal : {SIGCHLD, SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+    sigaddset(&set, SIGCHLD);
+    for (const int signal : endingSignals) {
         if (!isIgnored(signal))
             sigaddset(&set, signal);
     }

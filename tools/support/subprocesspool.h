@@ -8,7 +8,7 @@
 
 class Subprocess;
 
-/// Children at work side by side. SIGTERM, SIGINT, SIGHUP and SIGQUIT are passed on to all of them.
+/// Children at work side by side. `endingSignals` are passed on to all of them.
 class SubprocessPool
 {
 public:
