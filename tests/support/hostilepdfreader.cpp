@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 void writeFinishedPdf(const std::string &input, const std::vector<InfoEntry> &,
-                      const std::optional<Encryption> &, int)
+                      const std::optional<Encryption> &, FileOutput &)
 {
     std::ifstream content(input);
     std::vector<std::string> lines;

@@ -302,8 +302,10 @@ void PdftkRulesTest::infoFileIsRead()
     QFETCH(std::string, content);
     QFETCH(std::string, charset);
     QFETCH(Words, entries);
+    const std::optional<std::vector<InfoEntry>> read = infoEntries(content, charset);
+    QVERIFY(read);
     Words found;
-    for (const InfoEntry &entry : infoEntries(content, charset))
+    for (const InfoEntry &entry : *read)
         found.insert(found.end(), {entry.key, entry.value});
     QCOMPARE(found, entries);
 }
@@ -312,7 +314,7 @@ void PdftkRulesTest::otherFilesAreNoInfoFiles()
 {
     for (const char *content :
          {"InfoBegin\nInfoKey: Title\nInfoValue: a\n", "PageMediaBegin\n", "InfoKey:Title\n", "\n"})
-        QVERIFY_THROWS_EXCEPTION(ToolError, infoEntries(content, "UTF-8"));
+        QVERIFY(!infoEntries(content, "UTF-8"));
 }
 
 QTEST_APPLESS_MAIN(PdftkRulesTest)

@@ -285,6 +285,7 @@ void ToolFoldersTest::fullPlacesAreNamedAndLeftClean()
                    m_folder.path());
     QCOMPARE(result.status, 1);
     QCOMPARE(result.output, QByteArray("o.pdf\nolder\n"));
+    QVERIFY2(result.errors.contains("'" + full.path().toUtf8()), result.errors.constData());
     QVERIFY2(result.errors.contains("No space left on device"), result.errors.constData());
 }
 

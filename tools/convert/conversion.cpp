@@ -136,9 +136,10 @@ void Conversion::start(const Run &run)
     Workload work = run.work;
     const bool alone = m_call.inputs.size() == 1 && m_runs.empty() && m_parts.size() == 1;
     work.concurrency = alone ? 1 : m_concurrency;
-    SubprocessSpec spec = magickCommand(pageArguments(m_call.options, run.image, input, pageName),
-                                   limitsFor(work, machineMemory(), freeBytesIn(m_pixels.path())),
-                                   m_pixels.path() + "/" + name);
+    SubprocessSpec spec =
+        magickCommand(pageArguments(m_call.options, run.image, input, pageName),
+                      limitsFor(work, machineMemory(), freeBytesIn(m_pixels.path())),
+                      m_pixels.path() + "/" + name);
     spec.folder = folder.get();
     spec.sandbox =
         magickSandbox(spec.command.front(), absolutePath(run.path),
@@ -159,7 +160,8 @@ void Conversion::finish(SubprocessPool::Ended ended)
 
 void Conversion::join()
 {
-    writeDocument(m_folder.addFile(OutputTransaction::resultName).get(), m_parts, m_spool.file(),
-                  titleOf(m_call.output), [this] { m_pool.requireNoSignal(); });
+    FileOutput output(m_folder.addFile(OutputTransaction::resultName), m_call.output);
+    writeDocument(output, m_parts, m_spool.file(), titleOf(m_call.output),
+                  [this] { m_pool.requireNoSignal(); });
     m_pool.requireNoSignal();
 }

@@ -2,7 +2,6 @@
 
 #include "copiedpages.h"
 #include "error.h"
-#include "fileoutput.h"
 
 #include <qpdf/ClosedFileInputSource.hh>
 #include <qpdf/QPDF.hh>
@@ -103,7 +102,7 @@ public:
 
     void add(const DocumentPart &part);
     void describe(const std::string &title);
-    void write(int file);
+    void write(FileOutput &output);
 
 private:
     void addPdf(const DocumentPart &part);
@@ -176,9 +175,8 @@ void Document::describe(const std::string &title)
     m_pdf.getTrailer().replaceKey("/Info", m_pdf.makeIndirectObject(information));
 }
 
-void Document::write(int file)
+void Document::write(FileOutput &output)
 {
-    FileOutput output(file);
     QPDFWriter writer(m_pdf);
     writer.setOutputPipeline(&output);
     writer.setStreamDataMode(qpdf_s_preserve);
@@ -191,7 +189,7 @@ void Document::write(int file)
 
 } // namespace
 
-void writeDocument(int file, const std::vector<DocumentPart> &parts, int spool,
+void writeDocument(FileOutput &output, const std::vector<DocumentPart> &parts, int spool,
                    const std::string &title, const std::function<void()> &check)
 {
     try {
@@ -199,7 +197,7 @@ void writeDocument(int file, const std::vector<DocumentPart> &parts, int spool,
         for (const DocumentPart &part : parts)
             document.add(part);
         document.describe(title);
-        document.write(file);
+        document.write(output);
     } catch (const ToolError &) {
         throw;
     } catch (const std::bad_alloc &) {

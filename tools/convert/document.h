@@ -2,6 +2,7 @@
 
 #include "copyablepage.h"
 #include "fileidentity.h"
+#include "fileoutput.h"
 
 #include <cstddef>
 #include <functional>
@@ -21,9 +22,9 @@ struct DocumentPart
     std::size_t minPages = 1;
 };
 
-/// Writes the document of `parts` into `file`, an empty file open for writing: their pages in
+/// Writes the document of `parts` into `output`, an empty file: their pages in
 /// order, and the same information whatever made them. `spool` holds what the pages have in the
 /// spool. The data of one image at a time is in memory. `check` is called again and again, and may
 /// throw to end the work. Throws ToolError.
-void writeDocument(int file, const std::vector<DocumentPart> &parts, int spool,
+void writeDocument(FileOutput &output, const std::vector<DocumentPart> &parts, int spool,
                    const std::string &title, const std::function<void()> &check);

@@ -1,13 +1,14 @@
 #include "fileoutput.h"
 
 #include "error.h"
-#include "filedescriptor.h"
 
 #include <cerrno>
+#include <utility>
 
-FileOutput::FileOutput(int file)
+FileOutput::FileOutput(FileDescriptor file, std::string path)
     : Pipeline("the PDF", nullptr)
-    , m_file(file)
+    , m_file(std::move(file))
+    , m_path(std::move(path))
 {
 }
 
@@ -29,12 +30,12 @@ void FileOutput::requireSuccess()
     pass();
     errno = m_error;
     if (m_error != 0)
-        throw systemError("cannot write", "the PDF");
+        throw systemError("cannot write", m_path);
 }
 
 void FileOutput::pass()
 {
-    if (m_error == 0 && !writeAll(m_file, m_waiting))
+    if (m_error == 0 && !writeAll(m_file.get(), m_waiting))
         m_error = errno;
     m_waiting.clear();
 }

@@ -1,16 +1,19 @@
 #pragma once
 
+#include "filedescriptor.h"
+
 #include <qpdf/Pipeline.hh>
 
 #include <string>
 
-/// Writes what libqpdf makes to an open file. libqpdf's own way to a file takes no notice of a
+/// Writes what libqpdf makes to a file. libqpdf's own way to a file takes no notice of a
 /// write that fails when a later one succeeds. It also writes in destructors, which must not throw:
 /// so a failure is reported by requireSuccess() alone.
 class FileOutput : public Pipeline
 {
 public:
-    explicit FileOutput(int file);
+    /// `file` is open for writing; messages call it `path`.
+    FileOutput(FileDescriptor file, std::string path);
 
     void write(const unsigned char *data, size_t size) override;
     void finish() override;
@@ -21,7 +24,8 @@ public:
 private:
     void pass();
 
-    int m_file;
+    FileDescriptor m_file;
+    std::string m_path;
     int m_error = 0;
     std::string m_waiting;
 };

@@ -1,7 +1,6 @@
 #include "finishing.h"
 
 #include "error.h"
-#include "fileoutput.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>
@@ -10,6 +9,7 @@
 #include <qpdf/QUtil.hh>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -68,9 +68,8 @@ void encrypt(QPDFWriter &writer, const Encryption &encryption)
         allowed.printing ? qpdf_r3p_full : qpdf_r3p_none, encryptMetadata);
 }
 
-void write(QPDF &pdf, const std::optional<Encryption> &encryption, int file)
+void write(QPDF &pdf, const std::optional<Encryption> &encryption, FileOutput &output)
 {
-    FileOutput output(file);
     QPDFWriter writer(pdf);
     writer.setOutputPipeline(&output);
     writer.setStreamDataMode(qpdf_s_preserve);
@@ -84,13 +83,23 @@ void write(QPDF &pdf, const std::optional<Encryption> &encryption, int file)
 } // namespace
 
 void writeFinishedPdf(const std::string &input, const std::vector<InfoEntry> &entries,
-                      const std::optional<Encryption> &encryption, int output)
+                      const std::optional<Encryption> &encryption, FileOutput &output)
 {
-    QPDF pdf;
-    open(pdf, input);
-    requireAllPages(pdf, input);
-    describe(pdf, entries);
-    write(pdf, encryption, output);
-    if (pdf.anyWarnings())
-        throw pdf.getWarnings().front();
+    try {
+        QPDF pdf;
+        open(pdf, input);
+        requireAllPages(pdf, input);
+        describe(pdf, entries);
+        write(pdf, encryption, output);
+        if (pdf.anyWarnings())
+            throw pdf.getWarnings().front();
+    } catch (const ToolError &) {
+        throw;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const QPDFExc &error) {
+        throw ToolError("cannot read '" + input + "': " + error.getMessageDetail());
+    } catch (const std::exception &error) {
+        throw ToolError("cannot read '" + input + "': " + error.what());
+    }
 }

@@ -1,6 +1,5 @@
 #include "infofile.h"
 
-#include "error.h"
 #include "text.h"
 
 namespace {
@@ -29,7 +28,8 @@ std::vector<std::string> textLines(const std::string &content, const std::string
 
 } // namespace
 
-std::vector<InfoEntry> infoEntries(const std::string &content, const std::string &charset)
+std::optional<std::vector<InfoEntry>> infoEntries(const std::string &content,
+                                                  const std::string &charset)
 {
     const std::vector<std::string> lines = textLines(content, charset);
     std::vector<InfoEntry> entries;
@@ -44,7 +44,7 @@ std::vector<InfoEntry> infoEntries(const std::string &content, const std::string
         } else if (!entries.empty()) {
             entries.back().value += "\n" + lines[i];
         } else {
-            throw ToolError("the info file does not begin with InfoKey: and InfoValue:");
+            return std::nullopt;
         }
     }
     return entries;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ struct InfoEntry
 
 /// The entries of an info file: lines "InfoKey:KEY" with "InfoValue:VALUE" behind each. A line that
 /// belongs to no such pair goes on with the value before it. `content` is in `charset`, or in UTF-8
-/// if it begins with a byte order mark; lines may end in CR LF. Throws ToolError when it does not
+/// if it begins with a byte order mark; lines may end in CR LF. Nothing when it does not
 /// begin with a pair.
-std::vector<InfoEntry> infoEntries(const std::string &content, const std::string &charset);
+std::optional<std::vector<InfoEntry>> infoEntries(const std::string &content,
+                                                  const std::string &charset);

@@ -48,7 +48,11 @@ std::vector<InfoEntry> entriesOf(const std::string &infoFile, const std::string 
     const std::optional<std::string> content = readFile(infoFile);
     if (!content)
         throw systemError("cannot read", infoFile);
-    return infoEntries(*content, charset);
+    const std::optional<std::vector<InfoEntry>> entries = infoEntries(*content, charset);
+    if (!entries)
+        throw ToolError("cannot read '" + infoFile +
+                        "': it does not begin with a pair of lines, InfoKey: and InfoValue:");
+    return *entries;
 }
 
 std::string run(const Arguments &arguments)
@@ -69,8 +73,8 @@ std::string run(const Arguments &arguments)
     bounds.sandbox = {
         .files = {{call->input, Access::Read}, {output.folder().plainPath(), Access::Write}}};
     runConfined("pdftk", bounds, [&] {
-        writeFinishedPdf(call->input, entries, encryption,
-                         output.folder().addFile(OutputTransaction::resultName).get());
+        FileOutput finished(output.folder().addFile(OutputTransaction::resultName), call->output);
+        writeFinishedPdf(call->input, entries, encryption, finished);
         return std::string();
     });
     output.commit();
