@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 headerBytes = 8;       // of a chunk, in PNG and WEBP
+constexpr qint64 headerBytes = 8;      // of a chunk, in PNG and WEBP
 constexpr qint64 maxExifBytes = 65536; // what a JPEG can hold
 
 QByteArray exifOfPng(QIODevice &file)

@@ -122,7 +122,7 @@ std::optional<QStringList> startFiles(const QStringList &arguments, const QStrin
     const StartArguments asked = readStartArguments(arguments);
     if (!asked.unknownOptions.isEmpty()) {
         printError(QCoreApplication::translate("CommandLine", "There is no option %1; see --help.")
-                     .arg(asked.unknownOptions.first()));
+                       .arg(asked.unknownOptions.first()));
         return std::nullopt;
     }
     QStringList files;
@@ -132,7 +132,7 @@ std::optional<QStringList> startFiles(const QStringList &arguments, const QStrin
             files << file;
         else
             printError(QCoreApplication::translate("CommandLine", "There is no file %1.")
-                         .arg(file.isEmpty() ? argument : file));
+                           .arg(file.isEmpty() ? argument : file));
     }
     return files;
 }

@@ -77,8 +77,8 @@ void StartCommandTest::eachMissingFileIsOneLine()
     });
     QCOMPARE(files.value(), QStringList(there));
     QCOMPARE(errors, QStringList({u"tessaro: There is no file /none/no.png."_s,
-                                      u"tessaro: There is no file /none/no?name."_s,
-                                      u"tessaro: There is no file file://other/a.png."_s}));
+                                  u"tessaro: There is no file /none/no?name."_s,
+                                  u"tessaro: There is no file file://other/a.png."_s}));
 }
 
 void StartCommandTest::unknownOptionIsRefused()

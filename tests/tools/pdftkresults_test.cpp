@@ -30,6 +30,7 @@ private slots:
     void protectedInputsAreRefused();
     void damagedInputsAreRefused_data();
     void damagedInputsAreRefused();
+    void deepNestingIsASentence();
     void pagesAreNotHeldInMemory();
 
 private:
@@ -350,7 +351,36 @@ void PdftkResultsTest::damagedInputsAreRefused()
     const RunResult result = ours({u"output"_s, u"o.pdf"_s}, u"damaged.pdf"_s);
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors.count('\n'), 1);
-    QVERIFY2(result.errors.contains("damaged.pdf"), result.errors.constData());
+    QVERIFY2(result.errors.startsWith("pdftk: cannot read 'damaged.pdf': "),
+             result.errors.constData());
+    QCOMPARE(contentOf(file(u"o.pdf"_s)), QByteArray("older"));
+}
+
+// The length of each stream is another stream: more calls within calls than a stack holds.
+void PdftkResultsTest::deepNestingIsASentence()
+{
+    constexpr int count = 50'000;
+    QByteArray content = "%PDF-1.4\n";
+    QByteArray table = "xref\n0 " + QByteArray::number(count + 1) + "\n0000000000 65535 f \n";
+    int number = 0;
+    const auto add = [&](const QByteArray &object) {
+        table += QByteArray::number(content.size()).rightJustified(10, '0') + " 00000 n \n";
+        content += QByteArray::number(++number) + " 0 obj\n" + object + "\nendobj\n";
+    };
+    add("<< /Type /Catalog /Pages 2 0 R >>");
+    add("<< /Type /Pages /Count 1 /Kids [3 0 R] >>");
+    add("<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Contents 4 0 R >>");
+    while (number < count)
+        add("<< /Length " + QByteArray::number(number + 2) + " 0 R >>\nstream\n\nendstream");
+    const QByteArray end = "trailer\n<< /Root 1 0 R /Size " + QByteArray::number(count + 1) +
+                           " >>\nstartxref\n" + QByteArray::number(content.size()) + "\n%%EOF\n";
+    writeContent(file(u"deep.pdf"_s), content + table + end);
+    writeContent(file(u"o.pdf"_s), "older");
+    const RunResult result = ours({u"output"_s, u"o.pdf"_s}, u"deep.pdf"_s);
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors.count('\n'), 1);
+    QVERIFY2(result.errors.startsWith("pdftk: cannot read 'deep.pdf': "),
+             result.errors.constData());
     QCOMPARE(contentOf(file(u"o.pdf"_s)), QByteArray("older"));
 }
 

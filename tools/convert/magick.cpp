@@ -33,7 +33,7 @@ constexpr std::array<const char *, 8> orientations = {
 // Of limits the policy that is read first holds, of rights the last: ImageMagick reads
 // MAGICK_CONFIGURE_PATH, then /etc, then XDG_CONFIG_HOME, then HOME (6.9.11 and 7.1).
 SubprocessSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
-                        const std::string &pixels)
+                             const std::string &pixels)
 {
     const std::string configuration = policyFolder();
     std::vector<std::string> variables = limitVariables(limits);

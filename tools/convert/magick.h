@@ -10,7 +10,7 @@
 /// The real ImageMagick under our policy, within `limits`, with `pixels` as the folder for pixels
 /// that do not fit into memory.
 SubprocessSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
-                        const std::string &pixels);
+                             const std::string &pixels);
 
 /// What a run of `program`, the real ImageMagick, may do that reads `image` and writes into
 /// `folders`.

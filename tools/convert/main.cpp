@@ -33,7 +33,7 @@ std::string run(const Arguments &arguments)
         WorkDirectory::inFirstOf(pixelFolders(folderOf(call->output)));
     SubprocessSpec bounds;
     bounds.sandbox = sandboxFor(*call, {output.folder().plainPath(), pixels->plainPath()});
-    std::string warnings = runConfined("convert", bounds, [&] {
+    std::string warnings = runConfined("convert", "the images", bounds, [&] {
         holdSignals();
         return Conversion(*call, output.folder(), *pixels).run();
     });

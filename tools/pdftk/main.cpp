@@ -72,7 +72,7 @@ std::string run(const Arguments &arguments)
     bounds.deadline = timeFor(call->input);
     bounds.sandbox = {
         .files = {{call->input, Access::Read}, {output.folder().plainPath(), Access::Write}}};
-    runConfined("pdftk", bounds, [&] {
+    runConfined("pdftk", "'" + call->input + "'", bounds, [&] {
         FileOutput finished(output.folder().addFile(OutputTransaction::resultName), call->output);
         writeFinishedPdf(call->input, entries, encryption, finished);
         return std::string();

@@ -8,8 +8,8 @@ void forbidCoreDumps();
 
 /// Of the caller's descriptors only the standard streams stay, and these are open from now on (on
 /// /dev/null if need be, so that no file of ours takes their place). New files are for the user
-/// alone, signals wait for runSubprocess(), and processes that a child leaves behind become ours. Throws
-/// ToolError.
+/// alone, signals wait for runSubprocess(), and processes that a child leaves behind become ours.
+/// Throws ToolError.
 void prepareProcess();
 
 /// The umask that this process was started with, for the files that the user gets.

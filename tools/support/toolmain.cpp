@@ -14,6 +14,7 @@
 #include <exception>
 #include <new>
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -100,7 +101,7 @@ int runTool(const Tool &tool, int argc, char **argv)
     return 1;
 }
 
-std::string runConfined(const std::string &name, SubprocessSpec bounds,
+std::string runConfined(const std::string &name, const std::string &inputs, SubprocessSpec bounds,
                         const std::function<std::string()> &work)
 {
     bounds.task = [&name, &work] {
@@ -115,6 +116,11 @@ std::string runConfined(const std::string &name, SubprocessSpec bounds,
     SubprocessPool pool;
     pool.start(std::move(bounds), 0);
     const SubprocessResult result = pool.wait().result;
+    // Nested deeply enough, a file overflows the stack of the library that reads it.
+    if (WIFSIGNALED(result.waitStatus) && !result.timedOut && pool.askedToEnd() == 0)
+        throw ToolError("cannot read " + inputs + ": ended by signal " +
+                        std::to_string(WTERMSIG(result.waitStatus)) +
+                        ", by damage or too deep nesting perhaps");
     if (!result.succeeded())
         throw ToolError({result.exitStatus(), result.output, result.explainedErrors()});
     pool.requireNoSignal();

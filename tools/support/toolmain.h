@@ -25,9 +25,9 @@ struct Tool
 /// `tool` masks are wiped from `argv` before anything else.
 int runTool(const Tool &tool, int argc, char **argv);
 
-/// Does `work`, which reads files of strangers for the tool called `name`, in a copy of this
-/// process with the sandbox, limits and deadline of `bounds`. Returns what `work` returns, or
-/// throws ToolError with what it threw. Signals are passed on, and end the copy unless it holds
-/// them.
-std::string runConfined(const std::string &name, SubprocessSpec bounds,
+/// Does `work`, which reads files of strangers, called `inputs` in messages, for the tool called
+/// `name`, in a copy of this process with the sandbox, limits and deadline of `bounds`. Returns
+/// what `work` returns, or throws ToolError with what it threw. Signals are passed on, and end the
+/// copy unless it holds them.
+std::string runConfined(const std::string &name, const std::string &inputs, SubprocessSpec bounds,
                         const std::function<std::string()> &work);
