@@ -80,7 +80,10 @@ private slots:
     void foldersOfClosedWindowsAreUsedAgain();
     void failuresArePassedOn_data();
     void failuresArePassedOn();
+    void failureWithoutAProgramIsPrinted();
     void failureLeavesNoBundle();
+    void lockThatCannotBeMadeIsNamed();
+    void fileSystemWithoutLocksHasOneBundle();
     void noexecIsNamed();
     void toolsThatAreNotSetUpArePassedOn();
 
@@ -89,6 +92,8 @@ private:
     std::unique_ptr<QProcess> start(const Variables &variables,
                                     const QStringList &words = {}) const;
     Ended run(const Variables &variables, const QStringList &words = {}) const;
+    /// With system calls refused: tests/support/withoutcalls.cpp.
+    Ended runWithout(const QString &calls) const;
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString own(const QString &name) const
     {
@@ -138,6 +143,14 @@ std::unique_ptr<QProcess> LauncherTest::start(const Variables &variables,
 Ended LauncherTest::run(const Variables &variables, const QStringList &words) const
 {
     return ended(*start(variables, words));
+}
+
+Ended LauncherTest::runWithout(const QString &calls) const
+{
+    QProcess process;
+    process.setEnvironment(home());
+    process.start(QStringLiteral(TESSARO_WITHOUTCALLS), {calls, m_prefix + u"/bin/tessaro"_s});
+    return ended(process);
 }
 
 void LauncherTest::programIsACopyAndTheRestAreLinks()
@@ -196,17 +209,18 @@ void LauncherTest::foldersAreForTheUserAlone()
 
 void LauncherTest::secondStartTouchesNothing()
 {
-    const auto inodes = [this] {
-        QList<ino_t> found;
-        for (const QString &name :
-             {u"MacOS/tessaro"_s, u"MacOS/convert"_s, u"Plugins"_s, u"Resources"_s})
-            found << statusOf(own(name)).st_ino;
-        return found;
+    const QStringList names = {u"MacOS/tessaro"_s, u"MacOS/convert"_s, u"Plugins"_s,
+                               u"Resources"_s};
+    const auto kept = [this, &names](const QString &name) {
+        return path(u"kept-%1"_s.arg(names.indexOf(name)));
     };
     run(home());
-    const QList<ino_t> before = inodes();
+    // A second name keeps the number of a file that is removed from being given to the next one.
+    for (const QString &name : names)
+        QCOMPARE(link(own(name).toUtf8().constData(), kept(name).toUtf8().constData()), 0);
     QCOMPARE(run(home()).status, 7);
-    QCOMPARE(inodes(), before);
+    for (const QString &name : names)
+        QCOMPARE(statusOf(own(name)).st_ino, statusOf(kept(name)).st_ino);
 }
 
 void LauncherTest::changesAreTakenOver_data()
@@ -345,19 +359,36 @@ void LauncherTest::failuresArePassedOn()
     QVERIFY(result.output.endsWith("|--help\n")); // which the program answers
 }
 
+void LauncherTest::failureWithoutAProgramIsPrinted()
+{
+    QVERIFY(QFile::remove(m_prefix + u"/lib/tessaro/Tessaro.app/Contents/MacOS/tessaro"_s));
+    const Ended result = run({});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors, QByteArray("tessaro: HOME: No such file or directory\n"));
+}
+
 void LauncherTest::failureLeavesNoBundle()
 {
-    QProcess process;
-    process.setEnvironment(home());
-    process.start(QStringLiteral(TESSARO_WITHOUTCALLS),
-                  {u"symlinks"_s, m_prefix + u"/bin/tessaro"_s});
-    const Ended result = ended(process);
+    const Ended result = runWithout(u"symlinks"_s);
     QCOMPARE(result.status, 1);
     const QString folder = path(u"home/.local/share/tessaro"_s);
     QVERIFY2(result.errors.startsWith("place: " + folder.toUtf8() + "/Tessaro.app/Contents/"),
              result.errors.constData());
     QVERIFY(result.errors.contains(": Operation not permitted"));
     QVERIFY(!QFile::exists(folder + u"/Tessaro.app"_s));
+}
+
+void LauncherTest::lockThatCannotBeMadeIsNamed()
+{
+    const QString lock = path(u"home/.local/share/tessaro/Tessaro.app/lock"_s);
+    QVERIFY(QDir().mkpath(lock));
+    QCOMPARE(run(home()).errors, "place: " + lock.toUtf8() + ": Is a directory, tools: \n");
+}
+
+void LauncherTest::fileSystemWithoutLocksHasOneBundle()
+{
+    QCOMPARE(runWithout(u"locks"_s).status, 7);
+    QVERIFY(QFile::exists(own(u"MacOS/tessaro"_s)));
 }
 
 void LauncherTest::noexecIsNamed()
