@@ -36,7 +36,6 @@ private slots:
     void windowsBelongToTheMenuEntry();
     void argumentLimitIsRaisedAsFarAsAllowed();
     void argumentLimitIsRaised();
-    void desktopFileIsNamed();
     void listOfACompleterBelongsToItsWindow();
 
 private:
@@ -125,11 +124,6 @@ void StartupTest::argumentLimitIsRaised()
     raiseArgumentLimit();
     QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
     QCOMPARE(stack.rlim_cur, most);
-}
-
-void StartupTest::desktopFileIsNamed()
-{
-    QCOMPARE(QGuiApplication::desktopFileName(), u"org.example.tessaro"_s);
 }
 
 void StartupTest::listOfACompleterBelongsToItsWindow()
