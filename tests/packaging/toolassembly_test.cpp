@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <unistd.h>
@@ -23,6 +24,8 @@ private slots:
     void missingProgramsAreNamed();
     void assemblingTwiceGivesTheSame();
     void magickAloneIsCalledAsConvert();
+    void everythingThatDecidesIsWatched_data();
+    void everythingThatDecidesIsWatched();
     void changedToolsAreVerifiedAgain();
     void lostPolicyIsRestoredOnTheNextCheck();
     void noPolicyNoImage_data();
@@ -162,6 +165,33 @@ void ToolAssemblyTest::magickAloneIsCalledAsConvert()
     QCOMPARE(contentOf(bundle.contents() + u"/Resources/convert.tool"_s),
              (magick + u"\nconvert\n"_s).toUtf8());
     verifyWorking(bundle.tool(u"convert"_s), bundle.tool(u"pdftk"_s));
+}
+
+void ToolAssemblyTest::everythingThatDecidesIsWatched_data()
+{
+    QTest::addColumn<QString>("path");
+    const QByteArray tool = contentOf(bundleContents() + u"/Resources/convert.tool"_s);
+    QTest::newRow("ImageMagick") << QRegularExpression::escape(
+        QString::fromUtf8(tool).section(u'\n', 0, 0));
+    QTest::newRow("its library") << u"/libMagickCore-.*"_s;
+    QTest::newRow("the library of PDFs") << u"/libqpdf.*"_s;
+    QTest::newRow("the folder of formats") << u"/coders"_s;
+    QTest::newRow("the machine's policy") << u"/etc/ImageMagick-\\d/policy.xml"_s;
+    for (const char *ours :
+         {"/packaging/assemble-tools", "/packaging/find-imagemagick", "/packaging/verify-tools",
+          "/tools/policy/limits.xml", "/tools/policy/rights.xml", "/Contents/MacOS/convert",
+          "/Contents/MacOS/pdftk", "/Contents/Resources/magick/limits/policy.xml",
+          "/Contents/Resources/magick/rights/ImageMagick/policy.xml"})
+        QTest::newRow(ours) << QString::fromLatin1(ours);
+}
+
+void ToolAssemblyTest::everythingThatDecidesIsWatched()
+{
+    QFETCH(QString, path);
+    const QByteArray watched = contentOf(bundleContents() + u"/Resources/verified"_s);
+    const QRegularExpression line(u"^\\d+ \\S+ (/.*)?"_s + path + u'$',
+                                  QRegularExpression::MultilineOption);
+    QVERIFY2(QString::fromUtf8(watched).contains(line), watched.constData());
 }
 
 void ToolAssemblyTest::changedToolsAreVerifiedAgain()

@@ -229,6 +229,14 @@ void ConvertRulesTest::messagesReportDamage_data()
         true);
     row("convert: no room `a' @ fatal/cache.c/AcquirePixelCache/223.", true);
     row("Premature EOF at line 7 of strip 0 `Fax4Decode' @ warning/tiff.c/TIFFWarnings/", true);
+    row("Corrupt JPEG data: bad arithmetic code `a' @ warning/jpeg.c/", true);
+    row("Corrupt JPEG data: found marker 0xd5 instead of RST3 `a' @ warning/jpeg.c/", true);
+    row("convert: too many exceptions (exception processing is suspended) @ warning/x.c/", true);
+    row("convert: InvalidColormapIndex `a' @ warning/colormap-private.h/", true);
+    row("Incorrect count for \"StripOffsets\" `TIFFReadDirectory' @ warning/tiff.c/", true);
+    row("Incorrect count for \"TileByteCounts\" `TIFFReadDirectory' @ warning/tiff.c/", true);
+    row("Discarding 3 bytes to avoid buffer overrun `PackBitsDecode' @ warning/tiff.c/", true);
+    row("Improper JPEG strip/tile size, expected 9x9 `JPEGPreDecode' @ warning/tiff.c/", true);
     row("", false);
     row("Unknown field with tag 40000 `TIFFReadDirectory' @ warning/tiff.c/TIFFWarnings/", false);
     row("Corrupt JPEG data: 5 extraneous bytes before marker 0xd9 `a' @ warning/jpeg.c/", false);
