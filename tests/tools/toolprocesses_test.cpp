@@ -23,6 +23,7 @@ private slots:
     void signalsArePassedOnAndCleanedUpAfter_data();
     void signalsArePassedOnAndCleanedUpAfter();
     void signalsReachAToolThatIgnoresThem();
+    void signalAfterTheWorkKeepsTheOlderPdf();
     void pdftkEndsOnASignal_data();
     void pdftkEndsOnASignal();
     void ignoredSignalsStayIgnored();
@@ -185,6 +186,29 @@ void ToolProcessesTest::signalsReachAToolThatIgnoresThem()
     QCOMPARE(call->exitCode(), 1);
     QCOMPARE(call->readAllStandardError(), QByteArray("ended by signal 9\n"));
     QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"started"_s}));
+}
+
+// The work ends while the program is stopped, so that it finds the end and the signal together.
+void ToolProcessesTest::signalAfterTheWorkKeepsTheOlderPdf()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    writeContent(folder.filePath(u"o.pdf"_s), "older");
+    const ToolBundle bundle(
+        shellTool(u"cp ../../in.pdf page.pdf; touch ../../started; "
+                  "while ! [ -e ../../go ]; do sleep 0.05; done"_s));
+    const auto call = startProgram(bundle.tool(u"convert"_s), converting, folder.path());
+    QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
+    const auto confined = static_cast<pid_t>(childrenOf(call->processId()).value(0));
+    kill(pidOf(*call), SIGSTOP);
+    writeContent(folder.filePath(u"go"_s), "");
+    QTRY_VERIFY(haveEnded({confined}));
+    kill(pidOf(*call), SIGTERM);
+    kill(pidOf(*call), SIGCONT);
+    QVERIFY(call->waitForFinished());
+    QCOMPARE(call->readAllStandardError(), QByteArray("ended by signal 15\n"));
+    QCOMPARE(call->exitCode(), 1);
+    QCOMPARE(contentOf(folder.filePath(u"o.pdf"_s)), QByteArray("older"));
 }
 
 // By the real tool, which sends them to itself, and by ours, which must not even wait for them.
