@@ -194,9 +194,8 @@ void ToolProcessesTest::signalAfterTheWorkKeepsTheOlderPdf()
     const QTemporaryDir folder;
     QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
     writeContent(folder.filePath(u"o.pdf"_s), "older");
-    const ToolBundle bundle(
-        shellTool(u"cp ../../in.pdf page.pdf; touch ../../started; "
-                  "while ! [ -e ../../go ]; do sleep 0.05; done"_s));
+    const ToolBundle bundle(shellTool(u"cp ../../in.pdf page.pdf; touch ../../started; "
+                                      "while ! [ -e ../../go ]; do sleep 0.05; done"_s));
     const auto call = startProgram(bundle.tool(u"convert"_s), converting, folder.path());
     QTRY_VERIFY(QFile::exists(folder.filePath(u"started"_s)));
     const auto confined = static_cast<pid_t>(childrenOf(call->processId()).value(0));
@@ -354,13 +353,15 @@ void ToolProcessesTest::killedProgramTakesConvertAlong()
         QTRY_COMPARE(namesIn(pixels.filePath(left.first() + u'/' + run)), QStringList());
 }
 
-// An image that is not whole is found while others are being converted.
+// An image that is not whole is found while others are being converted. What the other tool has
+// started does not outlive it, nor does either end by itself.
 void ToolProcessesTest::failureEndsThoseAtWork()
 {
-    const QString word = ownWord(u"2000"_s);
-    const ToolBundle bundle(shellTool(u"case $1 in *input-1*) exec sleep "_s + word +
-                                      u";; esac; while ! pgrep -f 'sleep "_s + word +
-                                      u"' >/dev/null; do :; done; exit 9"_s));
+    const QString word = ownWord(u"60."_s);
+    const ToolBundle bundle(
+        shellTool(u"case $1 in *input-1*) sleep "_s + word +
+                  u" & touch ../../asleep; wait; touch ../../slept; exit;; esac; "
+                  "while ! [ -e ../../asleep ]; do sleep 0.05; done; exit 9"_s));
     if (concurrency() < 2)
         QSKIP("one core runs one tool at a time");
     const QTemporaryDir folder;
@@ -370,7 +371,7 @@ void ToolProcessesTest::failureEndsThoseAtWork()
         runProgram(bundle.tool(u"convert"_s), {u"1"_s, u"2"_s, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.status, 9);
     QCOMPARE(processesWith(QByteArray("sleep\0", 6) + word.toUtf8()), QList<pid_t>());
-    QCOMPARE(namesIn(folder.path()), QStringList({u"1"_s, u"2"_s}));
+    QCOMPARE(namesIn(folder.path()), QStringList({u"1"_s, u"2"_s, u"asleep"_s}));
 }
 
 void ToolProcessesTest::killedProgramTakesAnyToolAlong()
