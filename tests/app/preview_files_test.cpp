@@ -1,6 +1,7 @@
 // What the preview reads of the current row's file, and when: changed files alone, formats that the
 // image tool reads, nothing that waits, and no word of it on standard error.
 
+#include "openwatch.h"
 #include "previewprobe.h"
 #include "quietdecoders.h"
 
@@ -16,37 +17,12 @@
 #include <thread>
 
 #include <fcntl.h>
-#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Counts how often a file is opened.
-class OpenCounter
-{
-public:
-    explicit OpenCounter(const QString &path)
-        : m_watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
-    {
-        if (inotify_add_watch(m_watch, QFile::encodeName(path).constData(), IN_OPEN) < 0)
-            qFatal("cannot watch the file");
-    }
-    ~OpenCounter() { close(m_watch); }
-    Q_DISABLE_COPY_MOVE(OpenCounter)
-
-    /// Whether it was opened since the last question.
-    bool wasOpened() const
-    {
-        char events[4096];
-        return read(m_watch, events, sizeof events) > 0;
-    }
-
-private:
-    int m_watch;
-};
 
 /// Standard error as a file, for as long as it lives.
 class CapturedErrors
@@ -122,7 +98,7 @@ void PreviewFilesTest::unchangedFileIsReadOnce()
     WindowFixture fixture;
     const QString path = savePicture(fixture, u"p.bmp"_s, {20, 20}, Qt::red);
     preview(fixture, path);
-    const OpenCounter opens(path);
+    const OpenWatch opens(path);
     fixture.window.dopreview();
     QVERIFY(opens.wasOpened()); // touched a moment ago, and maybe once more within this moment
     QTRY_VERIFY((fixture.window.dopreview(), !opens.wasOpened()));
@@ -173,7 +149,7 @@ void PreviewFilesTest::changedFileShowsAtTheNextFiring()
     WindowFixture fixture;
     const QString path = savePicture(fixture, u"p.bmp"_s, {20, 20}, Qt::red);
     preview(fixture, path);
-    const OpenCounter opens(path);
+    const OpenWatch opens(path);
     QTRY_VERIFY((fixture.window.dopreview(), !opens.wasOpened()));
     change(path);
     fixture.window.dopreview();
@@ -185,7 +161,7 @@ void PreviewFilesTest::unreadableFileIsReadOnce()
     WindowFixture fixture;
     const QString path = fixture.makeFile(u"p.png"_s, "\x89PNG\r\n\x1a\n, and no more");
     preview(fixture, path);
-    const OpenCounter opens(path);
+    const OpenWatch opens(path);
     QTRY_VERIFY((fixture.window.dopreview(), !opens.wasOpened()));
     QVERIFY(pictureOf(fixture).isNull());
 }
@@ -244,7 +220,7 @@ void PreviewFilesTest::fifoIsNeverOpened()
     WindowFixture fixture;
     const QString path = fixture.inputPath(u"fifo"_s);
     QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    const OpenCounter opens(path);
+    const OpenWatch opens(path);
     preview(fixture, path);
     QVERIFY(!opens.wasOpened());
     const int reader = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK);

@@ -3,6 +3,7 @@
 #include "regularfile.h"
 
 #include "opendescriptors.h"
+#include "openwatch.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,6 +22,7 @@ private slots:
     void initTestCase();
     void regularFilesAloneAreOpened_data();
     void regularFilesAloneAreOpened();
+    void othersAreNotEvenOpened();
     void refusedFileLeavesNoDescriptorOpen();
 
 private:
@@ -71,6 +73,16 @@ void RegularFileTest::regularFilesAloneAreOpened()
     RegularFile opened(file);
     QTEST(opened.isOpen(), "opened");
     QTEST(opened.isOpen() ? opened.readAll() : QByteArray(), "content");
+}
+
+// A device can act on it.
+void RegularFileTest::othersAreNotEvenOpened()
+{
+    for (const auto &[name, isOpened] : {std::pair("fifo", false), std::pair("file", true)}) {
+        const OpenWatch watch(path(name));
+        RegularFile file(path(name));
+        QCOMPARE(watch.wasOpened(), isOpened);
+    }
 }
 
 void RegularFileTest::refusedFileLeavesNoDescriptorOpen()
