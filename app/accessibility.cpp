@@ -17,7 +17,7 @@
 
 namespace {
 
-/// An editable combo box under its own name. Qt 6.4's is named by the text in it, on Unix alone.
+/// Names an editable combo box by its own name. On Unix, Qt 6.4 names it by the text in it.
 class EditableBox : public QAccessibleWidget
 {
 public:

@@ -19,7 +19,7 @@ FileListActions::FileListActions(Process &window, const Ui_process &ui)
     , m_window(window)
     , m_table(*ui.inputfiletableWidget)
     , m_outputFolder(*ui.outputfolderEdit)
-    , m_menu(*new QMenu(&window)) // a child of the list would take its transparent ground
+    , m_menu(*new QMenu(&window)) // a child of the list would inherit its transparent background
 {
     m_menu.setObjectName(QStringLiteral("fileListMenu"));
     addFileActions();

@@ -16,12 +16,12 @@ class FileTable;
 class Process;
 class Ui_process;
 
-/// The keys of the file list and of the whole window, and the list's context menu, which shows
-/// them. The actions enter the window's slots and the list's order.
+/// The keyboard shortcuts of the file list and of the window, and the list's context menu, which
+/// shows them. The actions call the window's slots and change the list's order.
 class FileListActions : public QObject
 {
 public:
-    /// Belongs to `window`, whose layout is `ui`.
+    /// Owned by `window`, whose layout is `ui`.
     FileListActions(Process &window, const Ui_process &ui);
 
 private:
@@ -37,7 +37,7 @@ private:
     void addOrderActions();
     void addRowActions();
     void addWindowActions();
-    /// `keyOwner` is what has to have the focus for `keys`, or the window.
+    /// `keyOwner` is the widget that must have the focus for `keys`, or the window.
     QAction *add(QWidget &keyOwner, const char *text, const QList<QKeySequence> &keys,
                  const std::function<void()> &run, const Condition &makesSense);
     void disableWhatMakesNoSense();

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Has the desktop's file manager show the file at `path`, selected in its folder; without a file
-/// manager that can, the folder is opened. Returns at once, and a failure is not reported.
+/// Shows the file at `path` in the desktop's file manager, selected in its folder; opens the folder
+/// if the file manager cannot do that. Returns at once and reports no failure.
 void showInFolder(const QString &path);

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// The file list's table. Selected rows can be dragged to another place, and files from elsewhere
-/// are left to the window. It has no meta object of its own, so that its class name stays Qt's.
+/// The file list's table. Selected rows can be dragged to another place; dropped files are left to
+/// the window. It has no meta object, so its class name remains Qt's.
 class FileTable : public QTableWidget
 {
 public:
@@ -27,12 +27,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Selected rows are dragged; from any other, rows are selected by sweeping over them.
+    /// A drag moves selected rows; begun on any other row, it selects rows.
     void enableDrag(const QMouseEvent &press);
     bool isCutOff(int row) const;
-    /// Says whether it did: a row whose texts show whole has no tip of its own.
+    /// Returns false for a row whose texts are not cut off: it has no tip.
     bool showRowTip(const QHelpEvent &event);
-    /// The row before which rows dropped at `y` come, pixels in the viewport.
+    /// The row before which rows dropped at `y` (pixels in the viewport) are inserted.
     int dropPlace(int y) const;
 
     RowOrder m_order{*this};

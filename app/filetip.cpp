@@ -6,7 +6,7 @@
 
 QString fileTip(const QString &path, const QLocale &locale)
 {
-    // As HTML always: Qt would take a name with "<b>" in it for some, and shows nothing of the tag.
+    // Always HTML: Qt would interpret a name that contains "<b>" and hide the tag.
     QString tip = QStringLiteral("<div dir=\"ltr\" style=\"white-space:pre\">%1</div>")
                       .arg(leftToRight(path).toHtmlEscaped());
     const QFileInfo file(path);

@@ -116,7 +116,7 @@ bool allFit(const QList<QWidget *> &widgets)
     return std::ranges::all_of(widgets, [](const QWidget *widget) { return textFits(*widget); });
 }
 
-/// A table's headers do not take its font by themselves.
+/// A table's headers do not inherit its font.
 void setFont(QWidget *widget, const QFont &font)
 {
     widget->setFont(font);
@@ -135,7 +135,7 @@ void setFonts(const QList<QWidget *> &widgets, const QFont &font)
     }
 }
 
-/// Narrows `font` as long as `narrow` says that it did, until the widgets' texts fit.
+/// Calls `narrow` on `font` until the widgets' texts fit or it returns false.
 void fit(const QList<QWidget *> &widgets, QFont font, const std::function<bool(QFont &)> &narrow)
 {
     setFonts(widgets, font);

@@ -3,12 +3,11 @@
 class QWidget;
 class Ui_process;
 
-/// Makes every text below `window` fit the place that the fixed layout gives it, starting from the
-/// window's font: all texts together get a smaller size where one does not fit. Combo boxes, whose
-/// items are the longest, are set narrower first.
+/// Makes every text below `window` fit its place in the fixed layout. If one does not fit, all
+/// texts get a smaller size than the window's font. Combo boxes, whose items are the longest, first
+/// get a narrower font.
 void fitText(QWidget &window);
 
-/// Gives translated captions, often longer than the English ones, the free room beside their
-/// places: right-aligned ones that up to the margin of their page, the preview's that over the
-/// frame. To be called before fitText().
+/// Widens the places of translated captions, often longer than the English ones: right-aligned ones
+/// up to the margin of their page, the preview's across its frame. Call it before fitText().
 void widenCaptions(const Ui_process &ui);

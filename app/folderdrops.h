@@ -3,5 +3,5 @@
 class QLineEdit;
 
 /// Lets `field` take a dropped folder as its path. Other files dropped on it go to its window; text
-/// is the field's own affair.
+/// is handled by the field.
 void takeDroppedFolder(QLineEdit &field);

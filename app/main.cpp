@@ -1,6 +1,5 @@
 #include "process.h"
 #include "startcommand.h"
-#include "startup.h"
 
 #include <QApplication>
 #include <QDir>
@@ -9,7 +8,6 @@
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     if (printHelpOrVersion(argc, argv))
         return 0;
     if (reportStartFailure(argc, argv))

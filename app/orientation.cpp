@@ -42,7 +42,7 @@ QByteArray exifOfWebp(QIODevice &file)
     return {};
 }
 
-/// The orientation in EXIF data, from 1 (upright) to 8; 1 where there is none or they are broken.
+/// The orientation in EXIF data, from 1 (upright) to 8; 1 if there is none or it is broken.
 std::size_t orientationIn(QByteArray exif)
 {
     constexpr quint16 orientationTag = 0x112;

@@ -25,18 +25,18 @@ constexpr qint64 maxShownBytes = 2048 * mebibyte;
 constexpr int bytesPerShownPixel = 4;
 constexpr int partOfMemory = 4;
 // A JPEG decoded at an eighth, a quarter, ... of its size that has this many times the width shown
-// looks as one decoded whole: 48 dB or more apart for photos (Qt 6.4). At twice the width edges
-// move visibly.
+// looks like one decoded whole: a PSNR of 48 dB or more for photos (Qt 6.4). At twice the width
+// edges move visibly.
 constexpr int decodedPerShown = 4;
 
-/// Qt's own limit grows with the machine, and no picture is worth more than ours.
+/// Qt's own limit grows with the machine's memory; this one does not.
 bool isShowable(QSize size)
 {
     return qint64(size.width()) * size.height() <= maxShownBytes / bytesPerShownPixel;
 }
 
-/// False also when the next change may leave the state as it is: some file systems count time in
-/// steps of two seconds.
+/// False if another change might leave the state the same: some file systems count time in steps of
+/// two seconds.
 bool isSettled(const FileState &state)
 {
     using namespace std::chrono;
@@ -101,7 +101,7 @@ std::optional<Preview> PreviewPicture::of(const QString &path, qreal ratio)
     if (m_source == source)
         return m_preview;
     m_source.reset();
-    // What is changed from here on gives the file another state.
+    // Later changes give the file another state.
     const bool settled = isSettled(*state);
     RegularFile file(path);
     m_preview = file.isOpen() ? decode(file, ratio) : std::nullopt;

@@ -10,8 +10,8 @@
 
 class QWidget;
 
-/// Bounds what Qt decodes to a quarter of the machine's memory, so that a picture that
-/// unpacks to more is an unreadable file and not the end of the program.
+/// Limits what Qt decodes to a quarter of the machine's memory: a picture that unpacks to more
+/// counts as unreadable.
 void limitDecodedPictures();
 
 struct Preview
@@ -25,9 +25,9 @@ class PreviewPicture
 {
 public:
     /// The image in the regular file at `path`, upright, as a screen of `ratio` device pixels per
-    /// pixel shows it; nothing when there is none. Its format is told by its content. Decoded when
-    /// the file may have changed since the last call, else what that call returned. Never from Qt's
-    /// cache, in which a file rewritten within a second keeps its old picture.
+    /// pixel shows it; nothing if there is none. The content decides the format. Decodes only when
+    /// the file may have changed since the last call. Bypasses Qt's cache, in which a file
+    /// rewritten within a second keeps its old picture.
     std::optional<Preview> of(const QString &path, qreal ratio);
 
 private:
@@ -40,7 +40,7 @@ private:
         bool operator==(const Source &) const = default;
     };
 
-    std::optional<Source> m_source; // of m_preview, when that may be shown again
+    std::optional<Source> m_source; // of m_preview, if that may be shown again
     std::optional<Preview> m_preview;
 };
 

@@ -45,7 +45,8 @@ Process::Process(QWidget *parent)
     , aboutdialog(nullptr)
 {
     ui->setupUi(this);
-    // Five controls lie below the frame's edge in the layout; at its page's height they show.
+    // Five controls are below the frame's edge in the layout; at its page's height they are
+    // visible.
     ui->frame_6->resize(ui->frame_6->width(), ui->stackedWidget_dialog->height());
     describeControls(*ui);
     if (isTranslated())
@@ -70,7 +71,7 @@ Process::Process(QWidget *parent)
     connect(previewtimer, &QTimer::timeout, this, &Process::dopreview);
 
     styleFileTable(*ui->inputfiletableWidget);
-    new FileListActions(*this, *ui); // belongs to the window
+    new FileListActions(*this, *ui); // owned by the window
     setWindowBackground();
     setFixedSize(width(), height());
     setAcceptDrops(true);
@@ -122,7 +123,7 @@ void Process::setabout()
 
 void Process::setabout1()
 {
-    // Without a parent it would open wherever the window manager likes.
+    // Without a parent the window manager would choose its place.
     QRect place = aboutdialog.geometry();
     place.moveCenter(geometry().center());
     aboutdialog.move(place.topLeft());

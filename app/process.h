@@ -22,9 +22,9 @@ class Ui_process;
 /// hold the data; options are read from the controls when a step needs them.
 ///
 /// A conversion is a chain of child processes, one at a time: each step starts a tool and returns,
-/// and the tool's `finished` signal enters the next step. What a tool says or returns is never
-/// looked at, so the chain goes on after a failure; a tool that cannot be started ends it. The
-/// child processes belong to nobody and live until the program ends.
+/// and the tool's `finished` signal calls the next step. A tool's output and exit status are
+/// ignored, so the chain continues after a failure; a tool that cannot be started ends it. The
+/// child processes have no owner and live until the program ends.
 class Process : public QWidget
 {
     Q_OBJECT
@@ -34,8 +34,8 @@ public:
     ~Process() override;
 
     /// Does nothing and returns true. Like the other members that do nothing, and `process`, it is
-    /// part of the interface that this class keeps: callers and connections may name it, though
-    /// nothing in the program does.
+    /// part of this class's interface: others may call or connect it, though nothing in the
+    /// program does.
     bool loadfile();
     /// Returns an empty string; kept as loadfile() is.
     QString getInisetting();
@@ -45,15 +45,15 @@ public:
     void addFiles(const QStringList &paths);
 
 public slots:
-    // Do nothing: kept as loadfile() is. The third is connected by its name, so that a press of
-    // Open enters it as well as setopenfile().
+    // Do nothing: kept as loadfile() is. The third is connected by its name, so a press of Open
+    // calls it as well as setopenfile().
     void runClicked();
     void readOutput();
     void on_openfileButton_clicked();
 
     /// One step of a conversion: moves the last pdftk result into place, checks list and output
     /// folder (the two message boxes), then starts the next image, or all of them when merging.
-    /// Entered by the run button and by the end of a one-by-one step.
+    /// Called by the run button and at the end of a one-by-one step.
     void convertbegin();
 
     /// Does nothing: kept as loadfile() is.
@@ -65,10 +65,10 @@ public slots:
     void setopenfile();
     /// Removes the selected rows.
     void setremove();
-    /// Opens the current row's file with the desktop's application for it.
+    /// Opens the current row's file in the desktop's program for it.
     void setopenselected();
     void setremoveall();
-    /// Asks for a preview of the current row 300 ms from now, and every 300 ms after that.
+    /// Starts the timer that calls dopreview() every 300 ms.
     void setpreview();
     /// Asks for the output folder; a cancelled dialog empties the field.
     void setoutputfile();
@@ -76,7 +76,7 @@ public slots:
     void setabout();
     /// Opens the about box and waits for it.
     void setabout1();
-    /// Shows the current row's image as it is on disk now. Nothing it meets can throw out of it.
+    /// Shows the current row's image as it is on disk now. Does not throw.
     void dopreview();
 
     /// Image options of `convert` as chosen, each with a leading blank; "" for none.

@@ -22,6 +22,10 @@
 #include <QProgressBar>
 #include <QTableWidget>
 
+#include <algorithm>
+
+#include <sys/resource.h>
+
 QString Process::getresize(int curpage)
 {
     return resizeOption(curpage);
@@ -69,10 +73,19 @@ QString Process::getPdftkoptionPer()
     });
 }
 
+// Linux allows arguments a quarter of the stack limit, up to 6 MiB (execve(2)). The limit is raised
+// for this start alone, so programs that open a file for the user get the usual one.
 QProcess *Process::startTool(const QString &command)
 {
-    auto *tool = new QProcess; // belongs to nobody: it lives until the program ends
+    constexpr rlim_t enough = rlim_t(24) * 1024 * 1024;
+    rlimit usual = {};
+    getrlimit(RLIMIT_STACK, &usual);
+    rlimit raised = usual;
+    raised.rlim_cur = std::max(usual.rlim_cur, std::min(enough, usual.rlim_max));
+    setrlimit(RLIMIT_STACK, &raised);
+    auto *tool = new QProcess; // without an owner: it lives until the program ends
     tool->startCommand(command);
+    setrlimit(RLIMIT_STACK, &usual);
     return tool;
 }
 

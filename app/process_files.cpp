@@ -50,11 +50,11 @@ void Process::appendFiles(const QStringList &paths)
 {
     QTableWidget *table = ui->inputfiletableWidget;
     int row = table->rowCount();
-    // A table that sorts moves each row to its place, so there rows are made one by one.
+    // A sorted table moves each row to its place, so its rows are made one by one.
     const bool sorted = table->horizontalHeader()->sortIndicatorSection() >= 0;
     if (!sorted)
         table->setRowCount(row + static_cast<int>(paths.size()));
-    // The view lays out new rows as a whole, later; it needs no word of each of their cells.
+    // The view lays out new rows together, later; it needs no signal for each cell.
     const QSignalBlocker blocker(sorted ? nullptr : table->model());
     for (const QString &path : paths) {
         if (sorted)
@@ -71,7 +71,7 @@ void Process::setFile(int row, const QString &path)
     auto *pathItem = new QTableWidgetItem(path);
     auto *sizeItem = size.isEmpty() ? nullptr : new QTableWidgetItem(size);
     table->order().add(pathItem);
-    // A sorted table moves the row as soon as the text is there that it sorts by.
+    // A sorted table moves the row as soon as the text that it sorts by is set.
     const bool pathMovesRow = table->horizontalHeader()->sortIndicatorSection() == pathColumn;
     if (pathMovesRow)
         table->setItem(row, sizeColumn, sizeItem);
@@ -148,7 +148,7 @@ void Process::setremoveall()
 {
     if (ui->inputfiletableWidget->rowCount() == 0)
         return;
-    // All but the first row in one go: the table numbers and lays out its rows anew each time.
+    // All but the first row in one go: the table renumbers and lays out its rows each time.
     ui->inputfiletableWidget->setRowCount(1);
     removeRow(0);
     setdefaultpreview();

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::chrono::milliseconds previewDelay{300};
 
-/// Keeps the frame's upper corner where it is, the one that its label stands at.
+/// Keeps the upper corner of the frame that is next to its label.
 void resizeFrame(QFrame &frame, QSize size)
 {
     QRect place(frame.pos(), size);

@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
-/// As long as it lives, what libraries print on `stderr` in this thread is dropped: libpng and
-/// libtiff describe each fault of an image there. Qt's messages and other threads' get through.
-/// One at a time.
+/// While it lives, what libraries print on `stderr` in this thread is dropped: libpng and libtiff
+/// report each fault of an image there. Messages of Qt and of other threads still appear. Only one
+/// may exist at a time.
 class QuietDecoders
 {
 public:

@@ -66,7 +66,7 @@ ListOrder RowOrder::addedOrder() const
 SelectedRows RowOrder::selectedRows() const
 {
     SelectedRows rows(static_cast<std::size_t>(m_table.rowCount()));
-    // The ranges, as asking for each row would look through all of them each time.
+    // By ranges: a query for each row would search all of them each time.
     const QItemSelection selection = m_table.selectionModel()->selection();
     for (const QItemSelectionRange &range : selection)
         std::fill(rows.begin() + range.top(), rows.begin() + range.bottom() + 1, true);
@@ -92,7 +92,7 @@ void RowOrder::arrangeItems(const ListOrder &order)
 {
     QAbstractItemModel &model = *m_table.model();
     {
-        const QSignalBlocker blocker(&model); // the view needs no word of each cell
+        const QSignalBlocker blocker(&model); // the view needs no signal for each cell
         const int columns = m_table.columnCount();
         std::vector<QTableWidgetItem *> items;
         items.reserve(order.size() * static_cast<std::size_t>(columns));

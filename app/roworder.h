@@ -9,9 +9,8 @@ class QTableWidget;
 class QTableWidgetItem;
 QT_END_NAMESPACE
 
-/// Puts the rows of a table into another order. Selection and current row follow their rows, and
-/// whoever listens to the selection hears of it once. A table that a header sorts is sorted by no
-/// header afterwards, so that the rows stay where they were put.
+/// Puts the rows of a table into another order. Selection and current row follow their rows, with
+/// one signal. Afterwards no header sorts the table, so the rows stay where they were put.
 class RowOrder
 {
 public:

@@ -19,7 +19,7 @@ void mirrorIn(const QWidget &parent, const QRect &room)
         child->setGeometry(QStyle::visualRect(parent.layoutDirection(), room, child->geometry()));
 }
 
-/// Paints a path as it is written everywhere, at the side where its column's title stands.
+/// Paints a path from left to right, at the side of its column's title.
 class PathDelegate : public QStyledItemDelegate
 {
 public:

@@ -5,9 +5,8 @@
 class QWidget;
 class Ui_process;
 
-/// Turns the places of the window's controls around when it runs from right to left, and nothing
-/// when it runs from left to right: Qt mirrors what lies in a layout or a view, not what
-/// has a place of its own. Paths and passwords keep running from left to right.
+/// Mirrors the places of the window's controls if it runs from right to left: Qt mirrors layouts
+/// and views, but no widget at a fixed place. Paths and passwords still run from left to right.
 void mirrorPlaces(const Ui_process &ui);
 
 /// The same for the direct children of `parent`, a dialog.

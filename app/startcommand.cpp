@@ -16,7 +16,7 @@
 
 namespace {
 
-// One line, whatever a file's name holds.
+// One line, even if a file's name contains line breaks.
 void printError(QString message)
 {
     for (QChar &letter : message) {
@@ -26,7 +26,7 @@ void printError(QString message)
     std::fprintf(stderr, "tessaro: %s\n", message.toLocal8Bit().constData());
 }
 
-// What the launcher puts into the environment, and the sentence about it.
+// An environment variable that the launcher sets, and the message for it.
 struct StartFailure
 {
     const char *variable;
@@ -42,7 +42,7 @@ constexpr StartFailure startFailures[] = {
     {"TESSARO_TOOLS_FAILURE", QT_TRANSLATE_NOOP("CommandLine", "The program cannot start: %1")},
 };
 
-// Qt ends a program without a display by a core dump and the advice to install it again.
+// Without a display Qt dumps core and advises to install the program again.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
 {
     if (type != QtFatalMsg)

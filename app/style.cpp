@@ -18,10 +18,10 @@ constexpr QRgb focusColour = 0xff0b7a6a;
 
 // Fusion draws borders 140 % darker than the window's colour: from this one #5c5e5e.
 constexpr QRgb borderBase = 0xff818484;
-constexpr QRgb paleHighlight = 0xffa9d0c7; // of a selection that the keyboard does not act on
+constexpr QRgb paleHighlight = 0xffa9d0c7; // of a selection without the keyboard focus
 constexpr QRgb currentRowColour = 0xffdcede9;
 
-/// `option` with a border that stands out from any ground.
+/// `option` with a border that contrasts with any background.
 template <class Option>
 Option withBorder(const Option &option)
 {
@@ -84,7 +84,7 @@ public:
         return visualRect(box->direction, rect, rect.adjusted(0, 0, -1, 0));
     }
 
-    // Buttons below a style sheet ask for their focus here alone.
+    // Buttons under a style sheet query their focus only here.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override
     {
@@ -106,8 +106,8 @@ public:
     }
 
 private:
-    /// Qt draws a frame's line about the mathematical edge. Where that lies between two device
-    /// pixels, it is outside the clip, so lines are drawn inside, on whole device pixels.
+    /// Qt draws a frame's line centred on the mathematical edge. Between two device pixels it is
+    /// outside the clip, so lines are drawn inside, on whole device pixels.
     void drawFrame(QStyleOptionFrame option, QPainter &painter, const QWidget *widget) const
     {
         const QTransform toDevice = painter.deviceTransform();
@@ -174,9 +174,9 @@ private:
     }
 };
 
-/// Shows each tip for its window. Qt gives a tip the style sheets that hold for the widget it is
-/// shown for, and some of those are for that widget alone: the file list's transparent ground is
-/// black in a window of its own.
+/// Shows each tip for its window. Qt gives a tip the style sheets of the widget that it is shown
+/// for, and some suit that widget only: the file list's transparent background is black in a
+/// window.
 class ToolTips : public QObject
 {
 public:
@@ -200,7 +200,7 @@ struct RoleColour
     QRgb disabled;
 };
 
-// Every role is named, so nothing of the desktop's theme, now or changed later, shows through.
+// Every role is set, so the desktop's theme never shows through, even if it changes later.
 constexpr RoleColour lightColours[] = {
     {QPalette::WindowText, 0xff000000, 0xff8c8c8c},
     {QPalette::Button, 0xfff0f2f1, 0xfff0f2f1},
@@ -245,8 +245,8 @@ void applyLook(QApplication &application)
 {
     application.setStyle(new Style); // the application owns it
     application.setPalette(lightPalette());
-    // The user's font for every kind of widget: it clears those that a theme has for some.
+    // The user's font for every kind of widget: clears the fonts that a theme sets for some.
     QApplication::setFont(QApplication::font());
-    QToolTip::setPalette(lightPalette()); // a theme may have brought one for tips alone
+    QToolTip::setPalette(lightPalette()); // a theme may set one for tips alone
     application.installEventFilter(new ToolTips(&application));
 }

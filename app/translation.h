@@ -11,10 +11,10 @@ QStringList translatedLanguages();
 /// "" for English.
 QString wantedLanguage();
 
-/// Whether the windows made from now on get texts in another language than English.
+/// Whether windows made from now on are in another language than English.
 bool isTranslated();
 
-/// Shows the texts of the windows made from now on in `language`, Qt's own too where the system
-/// has translations of them (qt6-translations-l10n), and lets them run in its direction.
-/// "" is English. Numbers and the like stay as the environment's locale writes them.
+/// Sets language and direction of the windows made from now on; "" is English. Qt's own texts too,
+/// if the system has their translations (qt6-translations-l10n). Numbers keep the format of the
+/// environment's locale.
 void installTranslators(QCoreApplication &application, const QString &language);

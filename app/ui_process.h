@@ -18,7 +18,7 @@ class QWidget;
 QT_END_NAMESPACE
 
 /// The main window's layout: creates every widget at its fixed place (pixels, relative to the
-/// parent) and holds the pointers; the widgets belong to the window. The members bear the object
+/// parent) and holds the pointers; the widgets belong to the window. The members have the object
 /// names.
 class Ui_process
 {
@@ -92,8 +92,8 @@ public:
     /// that are named after an object and its signal.
     void setupUi(QWidget *process);
 
-    /// Sets every visible text. The combo boxes are emptied and filled again, which puts each back
-    /// to its first item.
+    /// Sets every visible text. The combo boxes are emptied and filled again, which selects their
+    /// first items.
     void retranslateUi(QWidget *process);
 
 private:

@@ -16,7 +16,6 @@
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     if (argc != 3 && argc != 5)

@@ -9,7 +9,6 @@
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     Process window(nullptr);

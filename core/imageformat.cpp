@@ -17,7 +17,7 @@ struct Signature
     std::string_view bytes;
 };
 
-// Qt has no readers of its own for the last four formats; a desktop may bring some.
+// Qt itself does not read the last four formats; a desktop may install plug-ins for them.
 constexpr Signature signatures[] = {
     {"bmp", 0, "BM"sv},
     {"gif", 0, "GIF8"sv},
@@ -50,7 +50,7 @@ constexpr qint64 signatureBytes = 16;
 QByteArray imageFormat(QIODevice &file)
 {
     std::string head = file.peek(signatureBytes).toStdString();
-    head.resize(signatureBytes); // every signature lies within
+    head.resize(signatureBytes); // enough for every signature
     const auto found = std::ranges::find_if(signatures, [&head](const Signature &signature) {
         return head.compare(signature.offset, signature.bytes.size(), signature.bytes) == 0;
     });

@@ -17,7 +17,7 @@ ListOrder unchangedOrder(std::size_t rows)
 
 QCollator naturalCollator()
 {
-    // The C locale compares character codes and takes numbers for letters.
+    // The C locale compares character codes, digits included.
     const QLocale users = QLocale::system().collation();
     QCollator collator(users.language() == QLocale::C ? QLocale(QLocale::English) : users);
     collator.setNumericMode(true);

@@ -19,7 +19,7 @@ using Converter = std::unique_ptr<void, int (*)(iconv_t)>;
 Converter converterTo(const QByteArray &charset)
 {
     const iconv_t converter = iconv_open(charset.constData(), "UTF-8");
-    // The failure's value is the pointer -1; comparing numbers needs no cast of ours.
+    // On failure the pointer is -1, which is compared as a number.
     const bool open = reinterpret_cast<std::intptr_t>(converter) != -1;
     return {open ? converter : nullptr, iconv_close};
 }
@@ -29,8 +29,8 @@ bool continuesCharacter(char byte)
     return (byte & 0xC0) == 0x80;
 }
 
-/// Writes "?" over the character that the text at hand begins with. Every charset of a locale has
-/// it: it belongs to POSIX's portable character set.
+/// Replaces the first character of the remaining text by "?", which every charset of a locale has:
+/// it is in POSIX's portable character set.
 void replaceFirstCharacter(char *&text, std::size_t &size)
 {
     while (size > 1 && continuesCharacter(text[1])) {
@@ -49,7 +49,7 @@ QByteArray converted(QByteArray utf8, iconv_t converter)
         std::array<char, 1024> buffer{};
         char *end = buffer.data();
         std::size_t room = buffer.size();
-        // Without text it hands out what it kept to compose with a character that might follow.
+        // Without text it writes what it kept to combine with a next character.
         complete = size == 0;
         const std::size_t done = iconv(converter, complete ? nullptr : &text, &size, &end, &room);
         result.append(buffer.data(), end - buffer.data());

@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Charset that the environment's locale names, as the C library calls it; "UTF-8" for the C and
-/// POSIX locales and for a locale that is not installed. `tools/pdftk` goes by the same rule.
+/// POSIX locales and for a locale that is not installed. `tools/pdftk` follows the same rule.
 QByteArray localeCharset();
 
 /// `text` in `charset`, converted by the C library, without a byte-order mark. A character that

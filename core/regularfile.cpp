@@ -25,7 +25,8 @@ std::optional<FileState> regularFileState(const QString &path)
 
 RegularFile::RegularFile(const QString &path)
 {
-    // A device can act on being opened, so the kind is asked first, and again of what was opened.
+    // Opening a device can have effects, so the kind is checked before, and once more after
+    // opening.
     if (!regularFileState(path))
         return;
     const int descriptor =

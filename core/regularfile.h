@@ -8,14 +8,14 @@
 
 #include <sys/types.h>
 
-/// One state of a file: as long as all of it stays the same, so does the content.
+/// The state of a file: while it stays the same, so does the content.
 struct FileState
 {
     dev_t device = 0;
     ino_t inode = 0;
     off_t size = 0;
     std::int64_t modified = 0; ///< content, in nanoseconds since 1970
-    std::int64_t changed = 0;  ///< content or attributes, likewise; no program can set it back
+    std::int64_t changed = 0;  ///< content or attributes, likewise; no program can reset it
 
     bool operator==(const FileState &) const = default;
 };

@@ -3,8 +3,8 @@
 #include <QSettings>
 #include <QString>
 
-/// A folder remembered between runs in setting.ini in the current directory. The file is opened
-/// by each object again and written before write() returns; a failed write is not reported.
+/// A folder remembered between runs in setting.ini in the current directory. Each object
+/// opens the file, and write() has written it when it returns; a failed write is not reported.
 class RememberedFolder
 {
 public:

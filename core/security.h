@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Passwords as typed and the permissions granted to who opens the PDF without the owner's.
+/// Passwords as typed, and the permissions of a reader without the owner's password.
 struct Security
 {
     QString ownerPassword;
@@ -13,7 +13,7 @@ struct Security
     bool annotating = false;
 };
 
-/// Tail of the pdftk command, each piece with a leading blank; "" when nothing is asked for.
+/// Tail of the pdftk command, each piece with a leading blank; "" when nothing is set.
 /// A password of blanks alone counts as none; a user password equal to the owner's is dropped.
-/// Permissions are named also when there is no password.
+/// Permissions are included even without a password.
 QString securityOption(const Security &security);

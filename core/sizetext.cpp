@@ -7,8 +7,8 @@
 
 namespace {
 
-/// As printf's "%14.3f" and `unit`. QString::asprintf() takes three times as long, which a list of
-/// thousands feels, and QString::number() rounds a tie up where printf takes the even digit.
+/// As printf's "%14.3f" and `unit`. QString::asprintf() takes three times as long, noticeable
+/// with thousands of rows, and QString::number() rounds a tie up where printf takes the even digit.
 QString text(double value, QLatin1String unit)
 {
     std::array<char, 16> buffer{};

@@ -33,7 +33,7 @@ QString localPath(const QUrl &url)
     return isHere && url.isLocalFile() ? url.path(QUrl::FullyDecoded) : QString();
 }
 
-/// The option `name` as it stands in `arguments`, with its dashes and without a value.
+/// The option `name` as typed in `arguments`, with its dashes and without a value.
 QString asTyped(const QString &name, const QStringList &arguments)
 {
     for (const QString &argument : arguments) {
@@ -69,7 +69,7 @@ QString startFile(const QString &argument, const QString &folder)
 {
     const bool isUrl = argument.startsWith(QLatin1String("file:"), Qt::CaseInsensitive);
     QString path = isUrl ? localPath(QUrl(argument)) : argument;
-    // Not by QDir, to which ":x" is absolute, as the name of a resource.
+    // Not by QDir, which takes ":x" for the absolute name of a resource.
     if (path.isEmpty() || path.startsWith(QLatin1Char('/')))
         return path;
     QString start = folder;

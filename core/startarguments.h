@@ -14,13 +14,13 @@ struct StartArguments
     QStringList files;
 };
 
-/// Reads `arguments`, the program's name first. All that follows "--" is a file.
+/// Reads `arguments`, the program's name first. Everything after "--" is a file.
 StartArguments readStartArguments(const QStringList &arguments);
 
-/// How the program is called, in the user's language. Needs a QCoreApplication.
+/// The usage text, in the user's language. Needs a QCoreApplication.
 QString startHelp();
 
-/// Absolute path of the file that `argument` names, seen from `folder`: a path, or a "file:" URL of
-/// this machine. Links on the way are not resolved, and a ".." behind a folder's name is kept: it
-/// may lead elsewhere when that folder is a link. "" for a URL that names no file.
+/// Absolute path of the file that `argument` names, relative to `folder`: a path, or a "file:" URL
+/// of this machine. Links on the way are not resolved, and a ".." behind a folder's name is kept:
+/// it may lead elsewhere when that folder is a link. "" for a URL that names no file.
 QString startFile(const QString &argument, const QString &folder);

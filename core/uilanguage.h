@@ -3,8 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The one of `available` (such as "de" and "pt_BR") that suits a user who wants `wanted` (such as
-/// "pt-PT"), the favourite first; "" for English, the language of the program's own texts, which
-/// ends the search, and when none suits. Languages suit that agree in language and script, so that
-/// zh-HK finds zh_TW and pt-PT finds pt_BR.
+/// The language in `available` (such as "de" and "pt_BR") for a user who prefers `wanted` (such as
+/// "pt-PT"), in that order; "" for English, which ends the search, and if there is none. Language
+/// and script have to match: zh-HK finds zh_TW, and pt-PT finds pt_BR.
 QString uiLanguage(const QStringList &wanted, const QStringList &available);

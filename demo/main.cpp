@@ -178,7 +178,6 @@ QStringList sampleImages(const QDir &samples)
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     require(arguments.size() == 3, u"start: usage is tessaro-demo SAMPLES FOLDER"_s);

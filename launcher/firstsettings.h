@@ -5,7 +5,7 @@
 /// The absolute path that an environment variable holds; "" if it holds none.
 std::filesystem::path absolutePathIn(const char *variable);
 
-/// Writes `file`, the settings of a user who has none yet, unless it exists: the open dialog begins
-/// in the user's folder of pictures and the folder dialog in that of documents, by xdg-user-dirs;
-/// in the home folder where there is no such folder. Failures are ignored: settings are a comfort.
+/// Writes `file`, the first settings of a user, unless it exists: the open dialog starts in the
+/// user's folder for pictures and the folder dialog in that for documents (xdg-user-dirs), or in
+/// the home folder if there is none. Failures are ignored, as the program runs without settings.
 void writeFirstSettings(const std::filesystem::path &file);

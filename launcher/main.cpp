@@ -1,4 +1,4 @@
-// The command `tessaro`: sets up a bundle of the user's own of what is installed, and becomes the
+// The command `tessaro`: sets up the user's own bundle from the installed one and becomes the
 // program in it.
 
 #include "userbundle.h"
@@ -27,7 +27,7 @@ fs::path installedBundle()
            "lib/tessaro/Tessaro.app";
 }
 
-// Written by packaging/setup-tools where the tools could not be set up: nothing would be converted.
+// packaging/setup-tools writes the file if it could not set up the tools.
 void checkTools(const fs::path &bundle)
 {
     std::ifstream reason(bundle / "Contents/Resources/setup-error");
@@ -35,7 +35,7 @@ void checkTools(const fs::path &bundle)
         throw std::runtime_error(sentence);
 }
 
-// The program reports to a person without a terminal too, and still answers --help and --version.
+// The installed program reports the failure, in a box too, and still answers --help and --version.
 [[noreturn]] void reportFailure(const char *kind, const std::string &failure, char **arguments)
 {
     setenv(kind, failure.c_str(), 1);
@@ -67,7 +67,7 @@ int main(int, char **argv)
     try {
         becomeProgram(argv);
     } catch (const fs::filesystem_error &error) {
-        // Of two paths, the second is the one that was to be made.
+        // Of two paths, the second is the one to create.
         const fs::path &path = error.path2().empty() ? error.path1() : error.path2();
         reportFailure("TESSARO_PLACE_FAILURE", path.string() + ": " + error.code().message(), argv);
     } catch (const std::exception &error) {

@@ -55,7 +55,7 @@ bool haveSameContent(const fs::path &one, const fs::path &other)
 
 void updateCopy(const fs::path &original, const fs::path &copy)
 {
-    // A link would lead the program to the folder that the original is in.
+    // Started through a link, the program would find the folder of the original.
     const fs::file_status status = fs::symlink_status(copy);
     const fs::perms rights = fs::perms::owner_all;
     if (fs::is_regular_file(status) && (status.permissions() & rights) == rights &&
@@ -88,8 +88,8 @@ void updateBundle(const fs::path &shared, const fs::path &own)
     }
 }
 
-// The lock belongs to the process: it outlives execve(2), tools do not inherit it, and it ends with
-// the process however that ends. Where a file system has no locks, no bundle counts as used.
+// A POSIX lock belongs to the process: it survives execve(2), tools do not inherit it, and it ends
+// with the process. On a file system without locks, no bundle counts as used.
 bool isUsed(const fs::path &bundle)
 {
     const fs::path path = bundle / "lock";
@@ -103,7 +103,7 @@ bool isUsed(const fs::path &bundle)
     return true;
 }
 
-/// Whether a bundle in `folder` is now this process's, and set up.
+/// Locks the bundle in `folder` for this process and sets it up; false if another uses it.
 bool take(const fs::path &shared, const fs::path &folder)
 {
     const fs::path bundle = folder / "Tessaro.app";

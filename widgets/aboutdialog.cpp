@@ -16,13 +16,13 @@ AboutDialog::AboutDialog(QWidget *parent)
     fitText();
 }
 
-// The browser lives until the base is destroyed, so its layout must let go of the ruler here.
+// The browser is destroyed after the ruler, so its layout must release the ruler here.
 AboutDialog::~AboutDialog()
 {
     m_ui->textBrowser->document()->documentLayout()->setPaintDevice(nullptr);
 }
 
-/// The links are a dark blue of their own, so the text lies on white paper on any desktop.
+/// The links are dark blue, so the background is white on any desktop.
 void AboutDialog::lightenText()
 {
     QPalette paper = m_ui->textBrowser->palette();

@@ -6,7 +6,7 @@ HexSpinBox::HexSpinBox(QWidget *parent)
 {
     setRange(0, 2);
     setWrapping(true);
-    // The base was constructed before there was a name to show, and shows none until it is set.
+    // The base class could not call textFromValue() yet; setting the value does.
     setValue(0);
 }
 

@@ -4,9 +4,9 @@
 #include <QStringList>
 
 /// Steps through the length units "pt", "cm" and "in", wrapping at both ends. The value is the
-/// unit's index; what is typed is read as that number, never as a unit's name. A value set from
-/// outside the range comes to the end that wrapping leads to: above it to "pt", below to "in".
-/// No form of the program has one: it is part of the widget set for those that may.
+/// unit's index; typed text is read as that number, never as a unit's name. A value outside the
+/// range wraps: above it to "pt", below to "in". No form of the program uses it: it is part of the
+/// widget set for others.
 class HexSpinBox : public QSpinBox
 {
     Q_OBJECT

@@ -65,8 +65,8 @@ void mypushbutton::paintEvent(QPaintEvent * /*event*/)
     painter.drawPixmap(calculateIconPosition(place, iconSize()), currentPixmap());
 }
 
-/// The colour that stands for the button's state. It ends as the same dark grey in every state,
-/// and the painting does not use it: the button is its picture alone.
+/// The colour of the button's state. It becomes the same dark grey in every state, and the painting
+/// does not use it: the button shows its picture alone.
 QColor mypushbutton::stateColour() const
 {
     const QColor dark(50, 50, 50, 255);

@@ -4,9 +4,8 @@
 #include <QPushButton>
 
 /// A push button that shows only a round picture: its icon, and while it is held down (or has no
-/// icon) the image file that its text names. Nothing is drawn when no such file can be read; the
-/// text itself never is. All else is the plain push button's.
-/// No form of the program has one: it is part of the widget set for those that may.
+/// icon) the image file that its text names. Draws nothing if that file cannot be read, and
+/// never the text itself. No form of the program uses it: it is part of the widget set for others.
 class mypushbutton : public QPushButton
 {
     Q_OBJECT
@@ -35,7 +34,7 @@ private:
     bool m_pressed = false;
     QColor m_normalColour = Qt::gray;
     QColor m_hoverColour = Qt::lightGray;
-    // Part of the button's state as its interface has it; the painting reads none of them.
+    // Part of the button's interface; the painting does not use them.
     [[maybe_unused]] QColor m_thirdColour = Qt::black;
     [[maybe_unused]] double m_realNumber = 1.0;
     [[maybe_unused]] qint32 m_integer = 0;

@@ -6,8 +6,8 @@
 
 class Ui_setDialog;
 
-/// The option dialog, of fixed size. It has no options yet: its three buttons do nothing, and it
-/// is left by Escape or by the window's close control.
+/// The option dialog, of fixed size. It has no options yet: its three buttons do nothing.
+/// Escape or the window's close control closes it.
 class setDialog : public QDialog
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ constexpr char linkTemplate[] =
 
 QString paragraph(const QString &content)
 {
-    // Without this mark the rich text reader drops a paragraph that holds nothing.
+    // Without this mark the rich text reader drops an empty paragraph.
     const QString emptyMark =
         content.isEmpty() ? QStringLiteral(" -qt-paragraph-type:empty;") : QString();
     return QString::fromLatin1(paragraphTemplate).arg(emptyMark, content);
@@ -38,10 +38,10 @@ QString link(const QString &target, const QString &visibleText)
 
 QString aboutText(const QString &webAddress, const QString &supportAddress)
 {
-    // The product's edition, which releases do not change; theirs is what --version prints.
+    // The product's edition; --version prints the release.
     const QString version =
         QCoreApplication::translate("AboutDialog", "Tessaro Image to PDF Converter v2.0");
-    // A target without a scheme would be looked for inside the text browser and blank the box.
+    // The text browser would open a target without a scheme itself and blank the box.
     const QString webTarget = QUrl::fromUserInput(webAddress).toString(QUrl::FullyEncoded);
     const QString mailTarget = QStringLiteral("mailto:") + supportAddress;
     const QString paragraphs = paragraph(version.toHtmlEscaped()) + paragraph(QString()) +

@@ -14,13 +14,13 @@ constexpr std::uint8_t lowestCount = 0xC0;
 constexpr std::size_t bufferSize = 65536;
 constexpr std::size_t headerPaletteSize = 16;
 constexpr std::size_t headerPaletteAt = 16;
-constexpr int blackVersion = 3; // what the header's colours do not reach is black
+constexpr int blackVersion = 3; // an index beyond the header's colours is black
 constexpr int newestVersion = 5;
 
 constexpr Colour opaque = 0xFF000000;
 constexpr Colour white = 0xFFFFFFFF;
 
-// Version 1 was never given out.
+// Version 1 was never released.
 constexpr std::array versions{0, 2, blackVersion, 4, newestVersion};
 constexpr std::array pixelBits{1, 2, 4, 8};
 
@@ -161,8 +161,7 @@ std::size_t LineDecoder::takeRun(std::span<std::uint8_t> line)
     return count;
 }
 
-/// Copies the values at hand that stand without a count, which is most of a photo at one go;
-/// returns how many there were.
+/// Copies the next values without a count, in a photo most of them; returns how many there were.
 std::size_t LineDecoder::takeValues(std::span<std::uint8_t> line)
 {
     const Bytes ready =
@@ -188,7 +187,7 @@ std::size_t LineDecoder::takeRaw(std::span<std::uint8_t> bytes)
 }
 
 /// Reads one run: a count with its two top bits set and the value, or a value alone. A count of
-/// zero is a run of nothing.
+/// zero is an empty run.
 bool LineDecoder::startRun()
 {
     std::optional<std::uint8_t> byte = takeByte();
@@ -215,7 +214,7 @@ std::optional<std::uint8_t> LineDecoder::takeByte()
 std::vector<Colour> colourTable(const Header &header, Bytes endPalette)
 {
     const auto count = std::size_t{1} << indexBits(header);
-    // A single plane of single bits has ink and paper, whatever its palette holds.
+    // One plane of one bit is black and white; its palette is ignored.
     if (count == 2)
         return {white, opaque};
     if (!endPalette.empty())
@@ -231,7 +230,7 @@ void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> ind
         unpackPacked(header.bits, line, indexes);
         return;
     }
-    // Several planes are one bit deep each, whatever depth the header gives them.
+    // Several planes have one bit each; the depth in the header is ignored.
     std::fill(indexes.begin(), indexes.end(), std::uint8_t{0});
     for (std::size_t plane = 0; plane < static_cast<std::size_t>(header.planes); ++plane)
         addPlane(plane, line.subspan(plane * header.bytesPerLine), indexes);

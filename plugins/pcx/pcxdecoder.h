@@ -8,8 +8,8 @@
 #include <vector>
 
 /// The PCX format, from ZSoft's "Technical Reference Manual" (revision 5), without Qt.
-/// Where that leaves a choice, pixels come out as ImageMagick 6.9.11-60 reads them, since a
-/// preview is to show what the converted document will.
+/// Where that leaves a choice, pixels are those of ImageMagick 6.9.11-60, so that the preview
+/// shows what the PDF will.
 namespace pcx {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -21,8 +21,8 @@ inline constexpr std::size_t headerSize = 128;
 /// The palette behind the lines: a mark, which nobody checks, and 256 colours of three bytes.
 inline constexpr std::size_t endPaletteSize = 1 + 256 * 3;
 
-/// What a valid header says. Width and height are in pixels and at least 1; a line of one plane
-/// holds the width.
+/// The content of a valid header. Width and height are in pixels and at least 1; a line of one
+/// plane holds the width.
 struct Header
 {
     int version = 0;
@@ -38,29 +38,28 @@ struct Header
     std::size_t lineSize() const;
     /// True for pixels that are colours of their own, false for those that index a palette.
     bool hasComponents() const;
-    /// True if the colours stand behind the lines; a file that ends before them cannot be read.
+    /// True if the colours follow the lines; a file that ends before them cannot be read.
     bool wantsEndPalette() const;
     /// The fewest bytes that the encoded lines can take.
     std::uint64_t smallestDataSize() const;
 };
 
-/// The header in the first bytes of a file; nothing if they are no PCX header or contradict
-/// themselves.
+/// The header in the first bytes of a file; nothing if they are no valid PCX header.
 std::optional<Header> parseHeader(Bytes bytes);
 
 /// Fills the span as far as it can and returns the number of bytes; 0 at the end.
 using Refill = std::function<std::size_t(std::span<std::uint8_t>)>;
 
-/// Hands out the decoded lines of a picture, from the first byte after the header on.
+/// Decodes the lines of an image, from the first byte after the header.
 class LineDecoder
 {
 public:
     LineDecoder(const Header &header, Refill source);
 
-    /// Decodes the next line into `line`, of `lineSize()` bytes. A run may reach over the end of a
+    /// Decodes the next line into `line`, of `lineSize()` bytes. A run may continue in the next
     /// line. False if the data ends early.
     bool next(std::span<std::uint8_t> line);
-    /// True if the last run was longer than the lines that were asked for.
+    /// True if the last run was longer than the lines read.
     bool hasRunLeft() const;
     /// Copies the bytes that follow the lines; returns how many there were.
     std::size_t takeRaw(std::span<std::uint8_t> bytes);

@@ -32,8 +32,8 @@ QImage::Format formatOf(const pcx::Header &header)
     return header.planes == 4 ? QImage::Format_ARGB32 : QImage::Format_RGB32;
 }
 
-/// Checked before any memory is allocated: a file too short for its picture. Only a device that
-/// knows its size can say so.
+/// Whether the file is too short for its image, checked before memory is allocated. Only a device
+/// with a known size can be checked.
 bool isTooShort(const pcx::Header &header, const QIODevice &device)
 {
     return !device.isSequential() &&

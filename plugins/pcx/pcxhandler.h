@@ -2,9 +2,8 @@
 
 #include <QImageIOHandler>
 
-/// Reads one PCX picture from its device; it writes none. A file that is cut off, contradicts
-/// itself or needs more memory than the image reader allows is not read, and no partial picture is
-/// given out.
+/// Reads one PCX image from its device; does not write. A file that is cut off, inconsistent or
+/// needs more memory than the image reader allows is refused; there are no partial images.
 class PcxHandler : public QImageIOHandler
 {
 public:

@@ -5,7 +5,7 @@
 QImageIOPlugin::Capabilities PcxPlugin::capabilities(QIODevice *device,
                                                      const QByteArray &format) const
 {
-    // Without a device the question is about the format's name alone.
+    // Without a device only the format's name counts.
     if (!device)
         return format == "pcx" ? CanRead : Capabilities();
     const bool isAsked = format.isEmpty() || format == "pcx";

@@ -2,23 +2,18 @@
 
 #include "startup.h"
 
+#include "previewpicture.h"
 #include "process.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
 #include <QDir>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWindow>
-
-#include <algorithm>
-
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -30,12 +25,10 @@ private slots:
     void initTestCase();
     void pluginsAreTakenFromTheBundleAlone();
     void bundlesFolderIsTheCurrentOne();
-    void imagesMayTakeAQuarterOfTheMemory();
+    void largeScansAreShown();
     void coloursAreLightOnADarkDesktop_data();
     void coloursAreLightOnADarkDesktop();
     void windowsBelongToTheMenuEntry();
-    void argumentLimitIsRaisedAsFarAsAllowed();
-    void argumentLimitIsRaised();
     void listOfACompleterBelongsToItsWindow();
 
 private:
@@ -63,10 +56,13 @@ void StartupTest::bundlesFolderIsTheCurrentOne()
     QCOMPARE(QDir::currentPath(), QDir::cleanPath(bundle.absoluteFilePath(u".."_s)));
 }
 
-void StartupTest::imagesMayTakeAQuarterOfTheMemory()
+// Qt's own limit is 128 MiB.
+void StartupTest::largeScansAreShown()
 {
-    const qint64 memory = qint64(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
-    QCOMPARE(QImageReader::allocationLimit(), int(memory / 4 / 1024 / 1024));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"scan.bmp"_s);
+    QVERIFY(QImage(6000, 6000, QImage::Format_RGB32).save(path));
+    QVERIFY(PreviewPicture().of(path, 1));
 }
 
 void StartupTest::coloursAreLightOnADarkDesktop_data()
@@ -94,36 +90,6 @@ void StartupTest::coloursAreLightOnADarkDesktop()
 void StartupTest::windowsBelongToTheMenuEntry()
 {
     QCOMPARE(QGuiApplication::desktopFileName(), u"org.example.tessaro"_s);
-}
-
-void StartupTest::argumentLimitIsRaisedAsFarAsAllowed()
-{
-    // In a child, as a lowered limit stays.
-    const pid_t child = fork();
-    if (child == 0) {
-        constexpr rlim_t lowMost = rlim_t(16) * 1024 * 1024;
-        rlimit stack = {rlim_t(8) * 1024 * 1024, lowMost};
-        if (setrlimit(RLIMIT_STACK, &stack) != 0)
-            _exit(1);
-        raiseArgumentLimit();
-        getrlimit(RLIMIT_STACK, &stack);
-        _exit(stack.rlim_cur == lowMost ? 0 : 2);
-    }
-    int status = -1;
-    QCOMPARE(waitpid(child, &status, 0), child);
-    QCOMPARE(status, 0);
-}
-
-void StartupTest::argumentLimitIsRaised()
-{
-    rlimit stack = {};
-    QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
-    const rlim_t most = std::min(stack.rlim_max, rlim_t(64) * 1024 * 1024);
-    stack.rlim_cur = std::min(most, rlim_t(8) * 1024 * 1024);
-    QCOMPARE(setrlimit(RLIMIT_STACK, &stack), 0);
-    raiseArgumentLimit();
-    QCOMPARE(getrlimit(RLIMIT_STACK, &stack), 0);
-    QCOMPARE(stack.rlim_cur, most);
 }
 
 void StartupTest::listOfACompleterBelongsToItsWindow()

@@ -79,7 +79,6 @@ void CharsetE2eTest::typedTextArrives()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     CharsetE2eTest test;

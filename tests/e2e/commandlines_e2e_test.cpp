@@ -75,7 +75,6 @@ void CommandLinesE2eTest::typedAngleAddsNoOption()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     CommandLinesE2eTest test;

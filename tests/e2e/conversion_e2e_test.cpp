@@ -381,7 +381,6 @@ void ConversionE2eTest::olderPdfSurvivesAFailedConversion()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     ConversionE2eTest test;

@@ -154,7 +154,6 @@ void HostileConversionTest::mergeWithASpoiltFileMakesNoPdf()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(2 * runTimeout));
     QApplication application(argc, argv);
     setUpApplication(application);

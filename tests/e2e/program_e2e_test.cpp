@@ -18,6 +18,7 @@ class ProgramE2eTest : public QObject
 
 private slots:
     void shippedProgramConvertsAnImage();
+    void openedProgramHasTheUsualStack();
     void keyboardReturnsFromTheAboutBox();
     void noDisplayIsOneSentence();
     void startFailureIsReportedInABox();
@@ -78,6 +79,36 @@ void ProgramE2eTest::shippedProgramConvertsAnImage()
     const QByteArray messages = program.readAll();
     QVERIFY2(messages.isEmpty() || messages.startsWith("QStandardPaths: XDG_RUNTIME_DIR"),
              messages.constData());
+}
+
+void ProgramE2eTest::openedProgramHasTheUsualStack()
+{
+    const QTemporaryDir folder;
+    QFile opener(folder.filePath(u"xdg-open"_s));
+    QVERIFY(opener.open(QIODevice::WriteOnly));
+    opener.write("#!/bin/sh\nulimit -S -s > \"${0%/*}/stack\"\n");
+    opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    opener.close();
+
+    QProcess process;
+    process.setProcessEnvironment(
+        environmentWith(u"PATH"_s, folder.path() + u':' + qEnvironmentVariable("PATH")));
+    process.start(u"sh"_s, {u"-c"_s, u"ulimit -S -s 8192; exec \"$@\""_s, u"sh"_s, program,
+                            QStringLiteral(SAMPLES "/market.pcx")});
+    QVERIFY(waitForKeyboard(title));
+    clickAt(200, 332); // output folder
+    type(folder.path());
+    clickAt(470, 345); // convert
+    QVERIFY(QTest::qWaitFor([&folder] { return QFile::exists(folder.filePath(u"market.pdf"_s)); },
+                            stepTimeout));
+    clickAt(100, 100); // the row
+    press(u"Return"_s);
+    QFile stack(folder.filePath(u"stack"_s));
+    QVERIFY(QTest::qWaitFor([&stack] { return stack.size() > 0; }, stepTimeout));
+    QVERIFY(stack.open(QIODevice::ReadOnly));
+    QCOMPARE(stack.readAll(), QByteArray("8192\n"));
+    process.terminate();
+    QVERIFY(process.waitForFinished(stepTimeout));
 }
 
 // There is no window manager that would do it.

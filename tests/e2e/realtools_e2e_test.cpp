@@ -89,7 +89,6 @@ void RealToolsE2eTest::imagesBecomeFinishedPdfs()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     RealToolsE2eTest test;

@@ -269,7 +269,6 @@ void SecretsTest::bundleIsWritableByItsOwnerAlone()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     SecretsTest test;

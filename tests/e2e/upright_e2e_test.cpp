@@ -84,7 +84,6 @@ void UprightE2eTest::pageShowsWhatThePreviewShows()
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     setUpApplication(application);
     UprightE2eTest test;

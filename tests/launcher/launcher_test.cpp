@@ -84,6 +84,7 @@ private slots:
     void failureLeavesNoBundle();
     void lockThatCannotBeMadeIsNamed();
     void fileSystemWithoutLocksHasOneBundle();
+    void programThatCannotRunIsNamed();
     void noexecIsNamed();
     void toolsThatAreNotSetUpArePassedOn();
 
@@ -389,6 +390,15 @@ void LauncherTest::fileSystemWithoutLocksHasOneBundle()
 {
     QCOMPARE(runWithout(u"locks"_s).status, 7);
     QVERIFY(QFile::exists(own(u"MacOS/tessaro"_s)));
+}
+
+void LauncherTest::programThatCannotRunIsNamed()
+{
+    write(u"MacOS/tessaro"_s, "no program");
+    const Ended result = run(home());
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.errors,
+             "tessaro: " + own(u"MacOS/tessaro"_s).toUtf8() + ": Exec format error\n");
 }
 
 void LauncherTest::noexecIsNamed()

@@ -149,7 +149,6 @@ Measures soak(int count, bool realTools)
 
 int main(int argc, char *argv[])
 {
-    raiseArgumentLimit();
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     const int count = arguments.value(2).toInt();

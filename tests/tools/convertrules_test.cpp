@@ -2,6 +2,8 @@
 
 #include "convertcall.h"
 #include "convertlimits.h"
+#include "document.h"
+#include "error.h"
 #include "jpegscaling.h"
 #include "magick.h"
 #include "magickwarnings.h"
@@ -10,6 +12,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <new>
 
 using Words = std::vector<std::string>;
 using Size = unsigned long long;
@@ -43,6 +46,7 @@ private slots:
     void limitsFollowTheMachine();
     void pixelsGoToMemoryLast();
     void foldersForPixelsAreAbsolute();
+    void lackOfMemoryWhileJoiningIsNamed();
 };
 
 void ConvertRulesTest::applicationsCallsAreParsed()
@@ -328,6 +332,17 @@ void ConvertRulesTest::foldersForPixelsAreAbsolute()
     qputenv("TMPDIR", "relative");
     qputenv("XDG_RUNTIME_DIR", "");
     QCOMPARE(temporaryFolders(), Words({"/var/tmp", "/tmp"}));
+}
+
+void ConvertRulesTest::lackOfMemoryWhileJoiningIsNamed()
+{
+    try {
+        writeDocument(-1, {DocumentPart{"a.pdf"}}, -1, "", [] { throw std::bad_alloc(); });
+        QFAIL("nothing was thrown");
+    } catch (const ToolError &error) {
+        QCOMPARE(error.result("convert").errors,
+                 std::string("convert: cannot join the pages: not enough memory\n"));
+    }
 }
 
 QTEST_APPLESS_MAIN(ConvertRulesTest)

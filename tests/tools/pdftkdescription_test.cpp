@@ -21,6 +21,7 @@ private slots:
     void fileNamesPassInEveryLocale_data();
     void fileNamesPassInEveryLocale();
     void missingInfoFileFails();
+    void unreadableInfoFileIsNamed();
     void missingInputFails();
     void otherCallsAreRefused_data();
     void otherCallsAreRefused();
@@ -165,6 +166,20 @@ void PdftkDescriptionTest::missingInfoFileFails()
     QVERIFY2(result.errors.contains("no.txt"), result.errors.constData());
     QCOMPARE(contentOf(folder.filePath(u"out.pdf"_s)), QByteArray("older"));
     QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"out.pdf"_s}));
+}
+
+// The file opens, and its first read fails.
+void PdftkDescriptionTest::unreadableInfoFileIsNamed()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    const RunResult result = runBundled(
+        u"pdftk"_s, {u"in.pdf"_s, u"update_info"_s, u"/proc/self/mem"_s, u"output"_s, u"out.pdf"_s},
+        folder.path());
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.startsWith("pdftk: cannot read '/proc/self/mem': "),
+             result.errors.constData());
+    QCOMPARE(namesIn(folder.path()), QStringList{u"in.pdf"_s});
 }
 
 void PdftkDescriptionTest::missingInputFails()

@@ -201,7 +201,7 @@ void writeDocument(FileOutput &output, const std::vector<DocumentPart> &parts, i
     } catch (const ToolError &) {
         throw;
     } catch (const std::bad_alloc &) {
-        throw;
+        throw ToolError("cannot join the pages: not enough memory");
     } catch (const std::exception &error) {
         throw ToolError(std::string("cannot join the pages: ") + error.what());
     }
