@@ -7,9 +7,9 @@ from pathlib import Path
 CONVERT = "/usr/bin/convert"
 PDFTK = "/usr/bin/pdftk"
 
-# The real ImageMagick as a user has to set it up to make any PDF at all.
+# The policy without which the real ImageMagick makes no PDF.
 ALLOWED = '<policymap><policy domain="coder" rights="read|write" pattern="PDF"/></policymap>'
-# And with nothing that bounds it.
+# The same without limits.
 UNBOUNDED = "<policymap>%s</policymap>" % "".join(
     f'<policy domain="resource" name="{name}" value="{value}"/>'
     for name, value in {

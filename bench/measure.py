@@ -15,7 +15,7 @@ from material import Material
 from rows import Bench
 from timing import Failed
 
-# How often each side of a row is measured; the quick ones more often, as they scatter more.
+# How often each side of a row is measured; quick ones more often, as they vary more.
 GROUPS = {
     "start-up": lambda bench: bench.start_up(25),
     "convert-launcher": lambda bench: bench.convert_launcher(60),

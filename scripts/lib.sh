@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What the scripts share; a script sources it from its place.
+# Functions that the scripts share, to be sourced.
 
 # fail SENTENCE: ends the script with "NAME: SENTENCE" on standard error and status 1.
 fail() {
@@ -7,8 +7,8 @@ fail() {
     exit 1
 }
 
-# quietly COMMAND...: runs it; only if it fails, the end of what it printed is shown, on standard
-# error, and its status comes back.
+# quietly COMMAND...: runs it, and returns its status. If it fails, the end of its output is printed on
+# standard error.
 quietly() {
     local log status=0
     log=$(mktemp)

@@ -1,4 +1,4 @@
-// What a screen reader reads, and the whole job by keyboard alone.
+// What a screen reader reads, and a whole conversion by keyboard alone.
 
 #include "windowfixture.h"
 

@@ -1,5 +1,5 @@
-// How single controls look: borders that stand out, captions beside their icons, a list that shows
-// where it is and whether it has the keyboard.
+// The look of single controls: visible borders, captions beside their icons, a list that shows its
+// current row and whether it has the keyboard.
 
 #include "startup.h"
 #include "windowfixture.h"

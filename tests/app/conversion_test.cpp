@@ -1,4 +1,4 @@
-// The chain of steps of a conversion: which tool follows which, what is left where.
+// The steps of a conversion: the order of the tools, and the files that remain.
 
 #include "windowfixture.h"
 
@@ -32,7 +32,7 @@ QStringList shortCalls(const WindowFixture &fixture)
     return result;
 }
 
-/// Meets each child process as soon as Qt reports an event of it.
+/// Sees each child process as soon as Qt reports an event of it.
 class ProcessesMet : public QObject
 {
 public:

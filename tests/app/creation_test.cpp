@@ -1,4 +1,4 @@
-// In which order the form makes its widgets: what is made later lies above.
+// The order in which the form creates its widgets: later ones are above.
 
 #include "layouttable.h"
 #include "ui_process.h"

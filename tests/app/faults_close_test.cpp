@@ -104,7 +104,7 @@ void FaultsCloseTest::programEndsCleanlyAndTheToolByItself()
             : folder.filePath(u"a.jpg"_s);
     QTRY_COMPARE_WITH_TIMEOUT(QString::fromUtf8(contentOf(folder.filePath(u"a.pdf"_s))),
                               u"convert(%1)"_s.arg(images), 60000);
-    // Nobody is left who would start another step.
+    // No window is left to start another step.
     QCOMPARE(contentOf(folder.filePath(u"calls"_s)).count('\n'), 1);
 }
 

@@ -38,8 +38,7 @@ inline const Mode &mergedFull()
     return allModes().at(7);
 }
 
-/// What is to be seen when nothing moves any more. `summary()` puts it into lines, so that a
-/// difference reads well.
+/// The state after a run. `summary()` writes it as lines, for readable differences.
 struct Outcome
 {
     /// The fake tools' calls, by the tools' first letters: "cpcp".
@@ -94,7 +93,7 @@ private:
     QStringList boxes;
 };
 
-/// Puts something else in the place of a tool beside the test program, for as long as it lives.
+/// Replaces a tool beside the test program while it lives.
 class ToolPlace
 {
 public:

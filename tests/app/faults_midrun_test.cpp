@@ -1,4 +1,4 @@
-// What a user can do to a run that is under way: change the list, the merge box, press again.
+// What a user can do during a run: change the list or the merge box, press again.
 
 #include "faults_fixture.h"
 
@@ -151,7 +151,7 @@ const Outcome allFinishedTwice{
     u"b.pdf"_s,
     u"b-1.pdf"_s};
 
-// Two chains work through one count. Whichever passes the end first starts it over, and the other
+// Two chains share one count. The first to pass the end resets it, and the other
 // one goes through all rows again.
 const QList<Presses> presses{
     {"pressed twice",

@@ -1,5 +1,5 @@
-// Every way in which a tool can fail, in every mode of a conversion: the chain goes on whatever a
-// tool does, stops where one cannot be started, and the window answers all along.
+// Every way in which a tool can fail, in every mode of a conversion: the chain continues after
+// any failure, stops if a tool cannot be started, and the window stays responsive.
 
 #include "faults_fixture.h"
 

@@ -31,7 +31,7 @@ QList<int> selectedRows(WindowFixture &fixture)
     return rows;
 }
 
-/// Presses the open button and chooses `paths`; none stand for a cancelled dialog.
+/// Presses the open button and chooses `paths`; no paths: cancels the dialog.
 FileDialogFacts openFiles(WindowFixture &fixture, const QStringList &paths)
 {
     FileDialogFacts facts(nullptr);
@@ -251,7 +251,7 @@ void FileListTest::dropLeavesSelectionAndSettingsAlone()
     QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
 }
 
-// Whoever drags learns nothing of the drop, so a move does not delete the file.
+// The source of the drag is not notified, so a move does not delete the file.
 void FileListTest::dropItselfIsNotAnswered()
 {
     WindowFixture fixture;

@@ -1,5 +1,5 @@
-// Two hundred files that are no proper images are listed and previewed: no crash, no hang, no more
-// memory than a picture may take.
+// Two hundred damaged and hostile files are listed and previewed: no crash, no hang, and memory
+// within its limit.
 
 #include "hostilefiles.h"
 #include "startup.h"

@@ -1,4 +1,4 @@
-// No text is cut off or runs into another: in English in the fonts of a stock Debian desktop, at
+// No text is cut off or overlaps another: in English in the fonts of a stock Debian desktop, at
 // the usual size and at 125 percent, and in every language in the fonts that desktops start with.
 
 #include "translation.h"

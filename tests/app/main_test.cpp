@@ -1,4 +1,4 @@
-// The program's own main, run as a whole: what it ends with.
+// The program's main(): its exit status.
 
 #include <QApplication>
 #include <QTest>

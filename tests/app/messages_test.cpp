@@ -1,4 +1,4 @@
-// The two message boxes, the only words that a run ever says.
+// The two message boxes, the only messages of a run.
 
 #include "windowfixture.h"
 

@@ -1,4 +1,4 @@
-// Which page shows, which page button is disabled, and where the way back leads.
+// Which page is shown, which page button is disabled, and where the focus goes.
 
 #include "windowfixture.h"
 

@@ -1,4 +1,4 @@
-// What the window makes of its option pages for the tools.
+// How the option pages become command lines.
 
 #include "privatelocales.h"
 #include "windowfixture.h"

@@ -1,5 +1,5 @@
-// What the preview reads of the current row's file, and when: changed files alone, formats that the
-// image tool reads, nothing that waits, and no word of it on standard error.
+// When the preview reads the current row's file: only changed files, only formats that the image
+// tool reads, nothing that blocks, and without a message on standard error.
 
 #include "openwatch.h"
 #include "previewprobe.h"

@@ -1,4 +1,4 @@
-// The picture of the current row: its size and shape, when it is drawn, and what is no picture.
+// The current row's preview: its size and shape, when it is drawn, and files that are no images.
 
 #include "previewbox.h"
 #include "previewprobe.h"

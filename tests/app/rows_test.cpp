@@ -1,4 +1,4 @@
-// What happens to rows of the list: removal, sorting, opening, and who hears of a selection.
+// Rows of the list: removal, sorting, opening, and the signals of a selection.
 
 #include "windowfixture.h"
 
@@ -22,7 +22,7 @@ struct Receivers : QObject
     }
 };
 
-/// The preview hears of a selection change that many times.
+/// How often the preview is notified of a selection change.
 int selectionConnections(WindowFixture &fixture)
 {
     return Receivers::of(fixture.find<QTableWidget>("inputfiletableWidget"),

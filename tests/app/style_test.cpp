@@ -69,7 +69,7 @@ QLabel *tipOf(QWidget *widget)
     return shown();
 }
 
-/// A window without a ground of its own is black on the screen.
+/// A window without its own background is black on the screen.
 QImage onBlack(QWidget &widget)
 {
     QImage picture(widget.size() * widget.devicePixelRatioF(), QImage::Format_RGB32);

@@ -1,4 +1,4 @@
-// Through which translation context each text of the window passes, and which pass through none.
+// The translation context of each text of the window, and the texts without one.
 
 #include "layouttable.h"
 #include "windowfixture.h"
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Knows no translation, but who asked for one.
+/// Translates nothing, and records who asked for a translation.
 class Recorder : public QTranslator
 {
 public:

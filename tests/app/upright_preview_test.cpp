@@ -1,4 +1,4 @@
-// The preview stands upright, whichever way round its file stores the image.
+// The preview is upright for every orientation of the stored image.
 
 #include "imagefiles.h"
 #include "orientedfiles.h"

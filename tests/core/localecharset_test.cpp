@@ -87,7 +87,7 @@ void LocaleCharsetTest::textIsWrittenInTheCharset_data()
     QTest::newRow("no text") << QString() << QByteArray("EUC-JP") << QByteArray();
     QTest::newRow("a last letter that might have composed with another")
         << u"\u00ca"_s << QByteArray("BIG5-HKSCS") << QByteArray("\x88\x66");
-    QTest::newRow("a charset that nobody knows counts as UTF-8")
+    QTest::newRow("an unknown charset counts as UTF-8")
         << u"\u00e9"_s << QByteArray("NO-SUCH") << QByteArray("\xC3\xA9");
 }
 
@@ -103,7 +103,7 @@ void LocaleCharsetTest::whatTheCharsetLacksBecomesAQuestionMark_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("charset");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("one for each character, of whatever length in UTF-8")
+    QTest::newRow("one for each character, of any length in UTF-8")
         << u"a\u0424b\u65e5c\U0001F600d"_s << QByteArray("ISO-8859-1") << QByteArray("a?b?c?d");
     QTest::newRow("several in a row")
         << u"\u65e5\u672c\U0001F600"_s << QByteArray("KOI8-T") << QByteArray("???");

@@ -59,7 +59,7 @@ void RegularFileTest::regularFilesAloneAreOpened_data()
     QTest::newRow("a name with odd characters")
         << folder.filePath(QString::fromUtf8("-\u00fc %1 [0]:")) << true << content;
     QTest::newRow("a link to nothing") << path("link to nothing") << false << QByteArray();
-    QTest::newRow("a FIFO that nobody writes") << path("fifo") << false << QByteArray();
+    QTest::newRow("a FIFO without a writer") << path("fifo") << false << QByteArray();
     QTest::newRow("a link to a FIFO") << path("link to the fifo") << false << QByteArray();
     QTest::newRow("a folder") << path("folder") << false << QByteArray();
     QTest::newRow("an endless device") << "/dev/zero" << false << QByteArray();

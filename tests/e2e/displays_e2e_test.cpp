@@ -1,5 +1,5 @@
-// The program as it ships, worked by keys alone on each kind of display: X without a window
-// manager, X with one, and Wayland. Weston stands in a window of the X server, so that xdotool
+// The shipped program, used by keys alone on each kind of display: X without a window
+// manager, X with one, and Wayland. Weston runs in a window of the X server, so that xdotool
 // reaches it.
 
 #include "pdffacts.h"
@@ -169,7 +169,7 @@ void DisplaysE2eTest::keysReachWindowAndDialogs()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     display->enter(environment);
     program.setProcessEnvironment(environment);
-    // Into a file: a pipe that nobody reads while keys are pressed would stop the program.
+    // Into a file: a full pipe would block the program while keys are pressed.
     QFile words(folder.filePath(u"words"_s));
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.setStandardOutputFile(words.fileName());

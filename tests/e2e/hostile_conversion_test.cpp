@@ -25,7 +25,7 @@ struct Call
     int duration; // ms
 };
 
-/// The calls that the tool has put down in its log.
+/// The calls in the tool's log.
 QList<Call> readLog(const QString &path)
 {
     QFile file(path);

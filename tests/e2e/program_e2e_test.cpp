@@ -1,5 +1,4 @@
-// The program as it ships, worked from outside through the X server: its own start-up, folders and
-// plug-ins count here.
+// The shipped program with its own start-up, folders and plug-ins, driven through the X server.
 
 #include "pdffacts.h"
 #include "xdotool.h"
@@ -111,7 +110,7 @@ void ProgramE2eTest::openedProgramHasTheUsualStack()
     QVERIFY(process.waitForFinished(stepTimeout));
 }
 
-// There is no window manager that would do it.
+// Without a window manager.
 void ProgramE2eTest::keyboardReturnsFromTheAboutBox()
 {
     QProcess process;

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Works the mouse on a list, from a timer, as a drag has an event loop of its own.
+/// Moves the mouse over a list, from a timer, as a drag runs its own event loop.
 class Dragger : public QObject
 {
 public:

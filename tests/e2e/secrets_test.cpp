@@ -1,6 +1,6 @@
 // Passwords stay where they belong: while the real tools work and after it, no file and no
-// environment holds one, nor does the real tools' command line. And what the program writes is
-// nobody else's to change.
+// environment holds one, nor does the real tools' command line. Only the user may change what the
+// program writes.
 
 #include "files.h"
 #include "pdffacts.h"
@@ -135,7 +135,7 @@ void SecretsTest::inspectProcesses()
     }
 }
 
-/// Wherever they lie, and removed ones too: the files that a process has open for writing.
+/// The files that a process has open for writing, removed ones included.
 void SecretsTest::inspectOpenFiles(const QString &process)
 {
     QDirIterator files(process + u"/fd"_s, allFiles);

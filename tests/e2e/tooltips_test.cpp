@@ -1,5 +1,5 @@
-// Every tip as a person sees it: the mouse rests on a control of the real window, on a screen with
-// a window manager, as only an active window shows tips.
+// Every tip as a user sees it: the mouse rests on a control of the real window, on a screen with a
+// window manager, as only an active window shows tips.
 
 #include "startup.h"
 #include "windowdriver.h"

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTest>
 
-// Hands at an X server: xdotool works whatever has the mouse and the keyboard there.
+// Mouse and keys of an X server, by xdotool.
 
 constexpr int stepTimeout = 30000; // ms
 

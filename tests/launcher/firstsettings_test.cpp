@@ -1,4 +1,4 @@
-// The settings of a user who has none yet: where the dialogs begin.
+// The first settings of a user: the folders in which the dialogs start.
 
 #include "firstsettings.h"
 

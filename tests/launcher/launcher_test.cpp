@@ -1,4 +1,5 @@
-// The command of an installation: the bundle that it sets up for each window, and what it becomes.
+// The command of an installation: the bundle that it sets up for each window, and the program that
+// it executes.
 
 #include <QDir>
 #include <QFile>
@@ -22,7 +23,7 @@ namespace {
 
 using Variables = QStringList;
 
-/// What is installed says how it was started; a change of `version` keeps its size.
+/// The installed program prints how it was started; a change of `version` keeps its size.
 QByteArray programText(char version)
 {
     return QByteArray("#!/bin/sh\necho \"") + version + R"(|$PWD|$*"
@@ -32,7 +33,7 @@ exit 1
 )";
 }
 
-/// Says where it runs, until its standard input ends.
+/// Prints where it runs, and waits for the end of its standard input.
 const QByteArray windowText = "#!/bin/sh\necho \"$0\"\nread -r line\n";
 
 struct Ended

@@ -1,5 +1,5 @@
-// Stands in for the program magick of an ImageMagick 7 without the name convert: the arguments are
-// convert's only when the first one says so, and are then handed to the machine's convert.
+// Stands in for the program magick of an ImageMagick 7 without the name convert: only if the
+// first argument is "convert", it runs the machine's convert with the rest.
 
 #include <cstdio>
 #include <string_view>

@@ -1,4 +1,4 @@
-// Stands in for an ImageMagick that keeps to no policy: everything becomes a PDF.
+// Stands in for an ImageMagick that ignores the policy: everything becomes a PDF.
 
 #include <cstdio>
 #include <cstring>

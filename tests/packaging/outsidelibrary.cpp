@@ -1,4 +1,4 @@
-// A library where the sandbox lets nobody read: beside the build, not beside the program.
+// A library that the sandbox hides: in the build folder, not beside the program.
 
 const char *imageToolVersion()
 {

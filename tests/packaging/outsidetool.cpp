@@ -1,4 +1,4 @@
-// Stands in for an ImageMagick whose library lies where the sandbox lets nobody read.
+// Stands in for an ImageMagick whose library the sandbox hides.
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-// packaging/assemble-tools, and what a bundle that it has set up copes with.
+// packaging/assemble-tools, and the changes that the finished bundle tolerates.
 
 #include "pdffacts.h"
 #include "toolbench.h"

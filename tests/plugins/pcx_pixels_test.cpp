@@ -28,7 +28,7 @@ Output run(const QString &program, const QStringList &arguments)
             process.readAllStandardOutput()};
 }
 
-/// The first `convert` that says of itself that it is ImageMagick; other programs have that name.
+/// The first `convert` that is ImageMagick; other programs have that name.
 QString imageMagick()
 {
     const QString name = QStringLiteral("convert");

@@ -110,10 +110,10 @@ void TestPcxTest::givesThePixelsOfTheFile_data()
         {0xFF012020, 0xFF015050});
     row("eight bits take the colours behind the lines", twoByTwo(hex("0102 0304") + endPalette()),
         {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
-    row("the colours follow the lines at once, whatever stands behind them",
+    row("the colours follow the lines at once, and other data follows them",
         twoByTwo(hex("0102 0304") + endPalette() + "something"),
         {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
-    row("nobody checks the mark before the colours", twoByTwo(hex("0102 0304") + endPalette('x')),
+    row("the mark before the colours is not checked", twoByTwo(hex("0102 0304") + endPalette('x')),
         {0xFF01FF01, 0xFF02FF02, 0xFF03FF03, 0xFF04FF04});
     row("in version 3 the header's colours are followed by black",
         {.version = 3,

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-/// Gives out `content` once and cannot seek, as a pipe does. (A QBuffer that calls itself
+/// Reads `content` once and cannot seek, as a pipe does. (A QBuffer that calls itself
 /// sequential gives its first bytes out again and again.)
 class Pipe : public QIODevice
 {

@@ -8,7 +8,7 @@
 
 #include <sys/resource.h>
 
-/// The 200 spoilt files of make-hostile, in a folder of their own.
+/// The 200 hostile files of make-hostile, in a folder of their own.
 class HostileFiles
 {
 public:

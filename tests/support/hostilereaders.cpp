@@ -1,5 +1,5 @@
 // Stands in for our own readers of images, taken over by the file that they read: the linker puts
-// these functions in the place of theirs (--wrap). The file says what they know, a line
+// these functions instead (--wrap). The file says what they know, a line
 // "NAME=value" each.
 
 #include "hostileattempts.h"

@@ -1,6 +1,6 @@
-// Part of every sanitized test with a window. Qt scales pictures in threads of a pool; one
-// that is just ending holds its data where the leak check at exit no longer looks, which made tests
-// fail now and then. So the program's end waits for the other threads, 10 seconds at most.
+// Part of every sanitized test with a window. Qt scales pictures in a thread pool, and the leak
+// check at exit does not see the data of a thread that is just ending. So the exit waits for the
+// other threads, at most 10 seconds.
 
 #include <chrono>
 #include <filesystem>

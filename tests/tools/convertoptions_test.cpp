@@ -1,4 +1,4 @@
-// What each option of the program convert makes of an image: page, size, colours and pixels, which
+// The effect of each option of convert: page, size, colours and pixels, which
 // are the same with every ImageMagick.
 
 #include "pdffacts.h"

@@ -294,7 +294,7 @@ void ConvertPagesTest::pagesFitReaders()
     }
 }
 
-// A tag that nobody knows is no reason to refuse an image.
+// An unknown tag is no reason to refuse an image.
 void ConvertPagesTest::warningsOfASuccessAreLogged()
 {
     QByteArray tiff = contentOf(place(u"8.tif"_s));

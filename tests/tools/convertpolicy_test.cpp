@@ -1,4 +1,4 @@
-// What the program convert reads and writes, whatever the machine and the user allow.
+// What convert reads and writes, independent of the policies of machine and user.
 
 #include "toolbench.h"
 
@@ -121,7 +121,7 @@ void ConvertPolicyTest::forbiddenFormatsAreRefused_data()
         QTest::newRow(input) << input;
 }
 
-// Our program never names a format: the policy is the second wall.
+// Our program never names a format; the policy is a second protection.
 void ConvertPolicyTest::forbiddenFormatsAreRefused()
 {
     QFETCH(QString, input);

@@ -1,4 +1,4 @@
-// What a file holds besides its pixels stays behind, whichever way its pages go into the PDF.
+// Private data of an image stays out of the PDF, whether its pages are copied or converted.
 
 #include "toolbench.h"
 

@@ -1,4 +1,4 @@
-// What the program convert leaves behind, on success and on failure.
+// The files that convert leaves, on success and on failure.
 
 #include "pdffacts.h"
 #include "privatelocales.h"
@@ -93,7 +93,7 @@ void ConvertResultsTest::optionsReachTheTool()
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pageSizes, QList<QSizeF>{size});
 }
 
-// The content alone says what it is.
+// Only the content decides the format.
 void ConvertResultsTest::sixtyScannedPagesGiveSixty()
 {
     const QTemporaryDir folder;
@@ -219,7 +219,7 @@ void ConvertResultsTest::decompressionBombIsRefused_data()
                                   QByteArray(58 + 4096, 0);
 }
 
-// What claims 60,000 by 60,000 pixels is the header alone.
+// Only the header claims 60,000 by 60,000 pixels.
 void ConvertResultsTest::decompressionBombIsRefused()
 {
     QFETCH(QString, name);

@@ -4,6 +4,7 @@
 #include "convertlimits.h"
 #include "document.h"
 #include "error.h"
+#include "fileoutput.h"
 #include "jpegscaling.h"
 #include "magick.h"
 #include "magickwarnings.h"
@@ -337,7 +338,8 @@ void ConvertRulesTest::foldersForPixelsAreAbsolute()
 void ConvertRulesTest::lackOfMemoryWhileJoiningIsNamed()
 {
     try {
-        writeDocument(-1, {DocumentPart{"a.pdf"}}, -1, "", [] { throw std::bad_alloc(); });
+        FileOutput output(FileDescriptor(-1), "o.pdf");
+        writeDocument(output, {DocumentPart{"a.pdf"}}, -1, "", [] { throw std::bad_alloc(); });
         QFAIL("nothing was thrown");
     } catch (const ToolError &error) {
         QCOMPARE(error.result("convert").errors,

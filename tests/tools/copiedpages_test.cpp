@@ -1,4 +1,4 @@
-// Pages whose image is copied, beside the pages that the real ImageMagick makes of the same files.
+// Copied pages compared with those that the real ImageMagick makes of the same files.
 
 #include "copyablefiles.h"
 #include "imagefiles.h"
@@ -176,7 +176,7 @@ void CopiedPagesTest::indexBeyondThePaletteIsDamage_data()
     QTest::newRow("GIF") << gifWithFewColours();
 }
 
-// Whatever is asked for.
+// With any options.
 void CopiedPagesTest::indexBeyondThePaletteIsDamage()
 {
     QFETCH(const QByteArray, bytes);

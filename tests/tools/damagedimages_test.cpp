@@ -1,4 +1,4 @@
-// Images that are damaged become no PDF, and those that are only odd do.
+// Damaged images become no PDF; images that are only unusual do.
 
 #include "imagefiles.h"
 #include "pdffacts.h"

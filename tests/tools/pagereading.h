@@ -27,5 +27,5 @@ Reading readImage(const QByteArray &file, const std::string &compress = {});
 void addReadingRows();
 void compareReading();
 
-/// The test over a column "file": each is refused, whatever is asked for.
+/// The test over a column "file": each is refused with any options.
 void compareRefusal();

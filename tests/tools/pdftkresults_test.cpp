@@ -1,5 +1,5 @@
-// What our pdftk makes of a PDF: the same as the real pdftk beside it, everything else kept, and
-// nothing of an input that is damaged or protected.
+// The PDFs of our pdftk: the same as those of the real one, everything else kept, and none from an
+// input that is damaged or protected.
 
 #include "pdffacts.h"
 #include "toolbench.h"

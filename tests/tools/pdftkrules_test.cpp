@@ -1,4 +1,4 @@
-// What our pdftk makes of its arguments, passwords and info file, without a PDF.
+// How our pdftk reads arguments, passwords and info file; without a PDF.
 
 #include "error.h"
 #include "infofile.h"

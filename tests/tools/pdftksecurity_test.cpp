@@ -1,4 +1,4 @@
-// Passwords and permissions: that they arrive, and that nobody else sees the passwords.
+// Passwords and permissions: they arrive, and other users cannot see the passwords.
 
 #include "pdffacts.h"
 #include "toolbench.h"

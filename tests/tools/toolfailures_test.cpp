@@ -1,5 +1,5 @@
-// What the two programs answer by themselves, and what convert makes of an ImageMagick that fails
-// in ways that the real one rarely shows: a shell script takes its place.
+// What the two programs answer by themselves, and how convert handles rare failures of ImageMagick,
+// simulated by a shell script.
 
 #include "toolbench.h"
 

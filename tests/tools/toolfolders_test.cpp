@@ -1,5 +1,5 @@
-// The private folders of the two programs: that nobody foresees, shares or keeps them, and that
-// the real tools see plain names in them on every file system.
+// The private folders of the two programs: unpredictable, unshared, removed, and with plain names
+// for the real tools on every file system.
 
 #include "pdffacts.h"
 #include "toolbench.h"
@@ -103,7 +103,7 @@ void ToolFoldersTest::namesAreUnpredictable()
     QCOMPARE(names.size(), 20);
 }
 
-// However few descriptors there are: a PDF or one sentence, and no folder.
+// With any number of descriptors: a PDF or one sentence, and no folder.
 void ToolFoldersTest::nothingIsLeftWithoutDescriptors()
 {
     const ToolBundle bundle(shellTool(u"cp ../../in.pdf page.pdf"_s));

@@ -1,4 +1,4 @@
-// Signals and endings: the real tool never outlives ours, whatever way either of them is ended.
+// Signals and ends of processes: the real tool never outlives ours.
 
 #include "pdffacts.h"
 #include "toolbench.h"

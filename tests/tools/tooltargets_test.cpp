@@ -1,4 +1,4 @@
-// What a new PDF takes over from the one that it replaces, and what is never replaced.
+// What a new PDF keeps of the one that it replaces, and what is never replaced.
 
 #include "pdffacts.h"
 #include "toolbench.h"
@@ -75,7 +75,7 @@ void ToolTargetsTest::newFileFollowsTheUmask_data()
     QTest::newRow("usual") << "umask 022" << 0644U;
     QTest::newRow("shared with a group") << "umask 002" << 0664U;
     QTest::newRow("private") << "umask 077" << 0600U;
-    QTest::newRow("for nobody") << "umask 0777" << 0U;
+    QTest::newRow("mode 0") << "umask 0777" << 0U;
 }
 
 void ToolTargetsTest::newFileFollowsTheUmask()

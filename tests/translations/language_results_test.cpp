@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the window makes of each single choice.
+/// The command lines of each single choice.
 QStringList optionsOf(WindowFixture &fixture)
 {
     QStringList results;

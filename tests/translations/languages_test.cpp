@@ -1,4 +1,4 @@
-// Which words the window shows: the user's own, Qt's with them, and two that stay English.
+// The window's texts: in the user's language, Qt's too, and two that stay English.
 
 #include "translation.h"
 #include "windowfixture.h"

@@ -67,7 +67,7 @@ private:
     const QStringList handled;
 };
 
-class TestAboutDialogTest : public QObject
+class AboutDialogTest : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private slots:
     void keepsANameItHas();
 };
 
-void TestAboutDialogTest::isAFixedWindow()
+void AboutDialogTest::isAFixedWindow()
 {
     const AboutDialog dialog;
 
@@ -101,7 +101,7 @@ void TestAboutDialogTest::isAFixedWindow()
     QVERIFY(!icon.pixmap(16).isNull());
 }
 
-void TestAboutDialogTest::placesItsText()
+void AboutDialogTest::placesItsText()
 {
     const AboutDialog dialog;
 
@@ -110,7 +110,7 @@ void TestAboutDialogTest::placesItsText()
     QVERIFY(textOf(dialog)->isReadOnly());
 }
 
-void TestAboutDialogTest::saysVersionAndAddresses()
+void AboutDialogTest::saysVersionAndAddresses()
 {
     const AboutDialog dialog;
 
@@ -119,7 +119,7 @@ void TestAboutDialogTest::saysVersionAndAddresses()
                  {u"Tessaro Image to PDF Converter v2.0"_s, u""_s, webAddress, u""_s, mailTarget}));
 }
 
-void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts_data()
+void AboutDialogTest::setsItsParagraphsInTheNamedFonts_data()
 {
     QTest::addColumn<int>("line");
     QTest::newRow("the version") << 0;
@@ -127,7 +127,7 @@ void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts_data()
     QTest::newRow("the support address") << 4;
 }
 
-void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts()
+void AboutDialogTest::setsItsParagraphsInTheNamedFonts()
 {
     QFETCH(const int, line);
     const AboutDialog dialog;
@@ -142,7 +142,7 @@ void TestAboutDialogTest::setsItsParagraphsInTheNamedFonts()
         QMarginsF());
 }
 
-void TestAboutDialogTest::underlinesItsLinksInBlue_data()
+void AboutDialogTest::underlinesItsLinksInBlue_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("target");
@@ -150,7 +150,7 @@ void TestAboutDialogTest::underlinesItsLinksInBlue_data()
     QTest::newRow("the support address") << 4 << mailTarget;
 }
 
-void TestAboutDialogTest::underlinesItsLinksInBlue()
+void AboutDialogTest::underlinesItsLinksInBlue()
 {
     QFETCH(const int, line);
     QFETCH(const QString, target);
@@ -162,7 +162,7 @@ void TestAboutDialogTest::underlinesItsLinksInBlue()
     QVERIFY(format.fontUnderline());
 }
 
-void TestAboutDialogTest::showsAllItsLinesAtOnce()
+void AboutDialogTest::showsAllItsLinesAtOnce()
 {
     AboutDialog dialog;
     dialog.show();
@@ -173,7 +173,7 @@ void TestAboutDialogTest::showsAllItsLinesAtOnce()
         QVERIFY(textOf(dialog)->document()->findBlockByNumber(line).layout()->lineCount() <= 1);
 }
 
-void TestAboutDialogTest::isDarkOnLightOnADarkDesktop()
+void AboutDialogTest::isDarkOnLightOnADarkDesktop()
 {
     const QPalette before = QGuiApplication::palette();
     QGuiApplication::setPalette(QPalette(QColor(40, 40, 40)));
@@ -187,12 +187,12 @@ void TestAboutDialogTest::isDarkOnLightOnADarkDesktop()
     QGuiApplication::setPalette(before);
 }
 
-void TestAboutDialogTest::opensALinkOutsideAndStaysOpen_data()
+void AboutDialogTest::opensALinkOutsideAndStaysOpen_data()
 {
     underlinesItsLinksInBlue_data();
 }
 
-void TestAboutDialogTest::opensALinkOutsideAndStaysOpen()
+void AboutDialogTest::opensALinkOutsideAndStaysOpen()
 {
     QFETCH(const int, line);
     QFETCH(const QString, target);
@@ -210,7 +210,7 @@ void TestAboutDialogTest::opensALinkOutsideAndStaysOpen()
     QCOMPARE(textOf(dialog)->toPlainText(), before);
 }
 
-void TestAboutDialogTest::keepsItsScrollPositionBetweenOpenings()
+void AboutDialogTest::keepsItsScrollPositionBetweenOpenings()
 {
     AboutDialog dialog;
     textOf(dialog)->append(u"more\n"_s.repeated(30));
@@ -226,7 +226,7 @@ void TestAboutDialogTest::keepsItsScrollPositionBetweenOpenings()
     QCOMPARE(bar.value(), 50);
 }
 
-void TestAboutDialogTest::keepsANameItHas()
+void AboutDialogTest::keepsANameItHas()
 {
     QDialog dialog;
     dialog.setObjectName("mine");
@@ -236,5 +236,5 @@ void TestAboutDialogTest::keepsANameItHas()
     QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
-QTEST_MAIN(TestAboutDialogTest)
+QTEST_MAIN(AboutDialogTest)
 #include "aboutdialog_test.moc"

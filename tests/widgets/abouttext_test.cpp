@@ -1,4 +1,4 @@
-// The about box's rich text stays whole whatever the two configured addresses hold.
+// The about box's rich text stays valid with any characters in the two configured addresses.
 
 #include "deployment.h"
 #include "ui_aboutdialog.h"
@@ -19,7 +19,7 @@ QString linkInLine(const QTextDocument &document, int line)
 
 } // namespace
 
-class TestAboutTextTest : public QObject
+class AboutTextTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void linksAnAddressWithoutASchemeToTheWeb();
 };
 
-void TestAboutTextTest::keepsWhiteSpaceAsTyped()
+void AboutTextTest::keepsWhiteSpaceAsTyped()
 {
     QTextDocument document;
 
@@ -38,7 +38,7 @@ void TestAboutTextTest::keepsWhiteSpaceAsTyped()
     QCOMPARE(document.findBlockByNumber(2).text(), u"a  b"_s);
 }
 
-void TestAboutTextTest::escapesItsAddresses()
+void AboutTextTest::escapesItsAddresses()
 {
     const QString web = QString::fromUtf8(deployment::webAddress);
     const QString support = QString::fromUtf8(deployment::supportAddress);
@@ -55,7 +55,7 @@ void TestAboutTextTest::escapesItsAddresses()
     QCOMPARE(linkInLine(document, 4), u"mailto:"_s + support);
 }
 
-void TestAboutTextTest::linksAnAddressWithoutASchemeToTheWeb()
+void AboutTextTest::linksAnAddressWithoutASchemeToTheWeb()
 {
     QTextDocument document;
 
@@ -65,5 +65,5 @@ void TestAboutTextTest::linksAnAddressWithoutASchemeToTheWeb()
     QCOMPARE(linkInLine(document, 2), u"http://www.example.org"_s);
 }
 
-QTEST_MAIN(TestAboutTextTest)
+QTEST_MAIN(AboutTextTest)
 #include "abouttext_test.moc"

@@ -1,4 +1,4 @@
-// The spin box for hexadecimal numbers: what it shows, accepts and refuses.
+// The spin box for length units: what it shows and accepts.
 
 #include "hexspinbox.h"
 
@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestHexSpinBoxTest : public QObject
+class HexSpinBoxTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void doesNotReadAUnitsName();
 };
 
-void TestHexSpinBoxTest::stepsThroughTheUnits_data()
+void HexSpinBoxTest::stepsThroughTheUnits_data()
 {
     QTest::addColumn<int>("steps");
     QTest::addColumn<int>("value");
@@ -40,7 +40,7 @@ void TestHexSpinBoxTest::stepsThroughTheUnits_data()
     QTest::newRow("three steps down are points again") << -3 << 0 << "pt";
 }
 
-void TestHexSpinBoxTest::stepsThroughTheUnits()
+void HexSpinBoxTest::stepsThroughTheUnits()
 {
     QFETCH(const int, steps);
     QFETCH(const int, value);
@@ -54,7 +54,7 @@ void TestHexSpinBoxTest::stepsThroughTheUnits()
     QCOMPARE(box.text(), text);
 }
 
-void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange_data()
+void HexSpinBoxTest::keepsAValueSetFromOutsideInItsRange_data()
 {
     QTest::addColumn<int>("given");
     QTest::addColumn<int>("value");
@@ -67,7 +67,7 @@ void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange_data()
     QTest::newRow("inside the range stays") << 1 << 1 << "cm";
 }
 
-void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange()
+void HexSpinBoxTest::keepsAValueSetFromOutsideInItsRange()
 {
     QFETCH(const int, given);
     QFETCH(const int, value);
@@ -80,7 +80,7 @@ void TestHexSpinBoxTest::keepsAValueSetFromOutsideInItsRange()
     QCOMPARE(box.text(), text);
 }
 
-void TestHexSpinBoxTest::namesEachUnitAndNothingElse_data()
+void HexSpinBoxTest::namesEachUnitAndNothingElse_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("text");
@@ -93,7 +93,7 @@ void TestHexSpinBoxTest::namesEachUnitAndNothingElse_data()
     QTest::newRow("the largest number has no name") << std::numeric_limits<int>::max() << "";
 }
 
-void TestHexSpinBoxTest::namesEachUnitAndNothingElse()
+void HexSpinBoxTest::namesEachUnitAndNothingElse()
 {
     QFETCH(const int, value);
     QFETCH(const QString, text);
@@ -101,7 +101,7 @@ void TestHexSpinBoxTest::namesEachUnitAndNothingElse()
     QCOMPARE(HexSpinBox().textFromValue(value), text);
 }
 
-void TestHexSpinBoxTest::showsNoNameWhereTheRangeIsWidened()
+void HexSpinBoxTest::showsNoNameWhereTheRangeIsWidened()
 {
     HexSpinBox box;
     box.setRange(0, 5);
@@ -112,7 +112,7 @@ void TestHexSpinBoxTest::showsNoNameWhereTheRangeIsWidened()
     QCOMPARE(box.text(), QString());
 }
 
-void TestHexSpinBoxTest::stepsByTheKeyboard()
+void HexSpinBoxTest::stepsByTheKeyboard()
 {
     HexSpinBox box;
 
@@ -123,7 +123,7 @@ void TestHexSpinBoxTest::stepsByTheKeyboard()
     QCOMPARE(box.text(), u"cm"_s);
 }
 
-void TestHexSpinBoxTest::readsWhatIsTypedAsANumber()
+void HexSpinBoxTest::readsWhatIsTypedAsANumber()
 {
     HexSpinBox box;
 
@@ -135,7 +135,7 @@ void TestHexSpinBoxTest::readsWhatIsTypedAsANumber()
     QCOMPARE(box.text(), u"in"_s);
 }
 
-void TestHexSpinBoxTest::doesNotReadAUnitsName()
+void HexSpinBoxTest::doesNotReadAUnitsName()
 {
     HexSpinBox box;
 
@@ -147,5 +147,5 @@ void TestHexSpinBoxTest::doesNotReadAUnitsName()
     QCOMPARE(box.text(), u"pt"_s);
 }
 
-QTEST_MAIN(TestHexSpinBoxTest)
+QTEST_MAIN(HexSpinBoxTest)
 #include "hexspinbox_test.moc"

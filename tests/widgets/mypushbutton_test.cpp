@@ -1,4 +1,4 @@
-// The round picture button: what it paints in each state, and that it is a push button in all else.
+// The round picture button: what it paints in each state; otherwise it is a push button.
 
 #include "mypushbutton.h"
 
@@ -116,7 +116,7 @@ protected:
 
 using Events = QList<QEvent::Type>;
 
-class TestMyPushButtonTest : public QObject
+class MyPushButtonTest : public QObject
 {
     Q_OBJECT
 
@@ -141,7 +141,7 @@ private:
     QString imagePath;
 };
 
-void TestMyPushButtonTest::initTestCase()
+void MyPushButtonTest::initTestCase()
 {
     QVERIFY(folder.isValid());
     // The name says another format than the content.
@@ -152,7 +152,7 @@ void TestMyPushButtonTest::initTestCase()
     image.save(folder.filePath(u"named.png"_s), "PNG");
 }
 
-void TestMyPushButtonTest::centresTheIcon_data()
+void MyPushButtonTest::centresTheIcon_data()
 {
     QTest::addColumn<QRect>("rect");
     QTest::addColumn<QSize>("size");
@@ -171,7 +171,7 @@ void TestMyPushButtonTest::centresTheIcon_data()
     QTest::newRow("no size at all") << QRect(0, 0, 20, 10) << QSize(0, 0) << QRect(10, 5, 0, 0);
 }
 
-void TestMyPushButtonTest::centresTheIcon()
+void MyPushButtonTest::centresTheIcon()
 {
     QFETCH(const QRect, rect);
     QFETCH(const QSize, size);
@@ -180,7 +180,7 @@ void TestMyPushButtonTest::centresTheIcon()
     QCOMPARE(mypushbutton().calculateIconPosition(rect, size), place);
 }
 
-void TestMyPushButtonTest::paintsItsPictureInACircle_data()
+void MyPushButtonTest::paintsItsPictureInACircle_data()
 {
     QTest::addColumn<QRect>("geometry");
     QTest::addColumn<QSize>("iconSize");
@@ -221,7 +221,7 @@ void TestMyPushButtonTest::paintsItsPictureInACircle_data()
         << square << QSize(60, 60) << Events() << iconColour << QRect(-10, -10, 60, 60);
 }
 
-void TestMyPushButtonTest::paintsItsPictureInACircle()
+void MyPushButtonTest::paintsItsPictureInACircle()
 {
     QFETCH(const QRect, geometry);
     QFETCH(const QSize, iconSize);
@@ -244,7 +244,7 @@ void TestMyPushButtonTest::paintsItsPictureInACircle()
     QCOMPARE(withOpenPixels(letters(paint(button), colour), expected), expected);
 }
 
-void TestMyPushButtonTest::paintsNothingWithoutAPicture_data()
+void MyPushButtonTest::paintsNothingWithoutAPicture_data()
 {
     QTest::addColumn<bool>("hasIcon");
     QTest::addColumn<bool>("isPressed");
@@ -259,7 +259,7 @@ void TestMyPushButtonTest::paintsNothingWithoutAPicture_data()
         << false << false << folder.filePath(u"named"_s);
 }
 
-void TestMyPushButtonTest::paintsNothingWithoutAPicture()
+void MyPushButtonTest::paintsNothingWithoutAPicture()
 {
     QFETCH(const bool, hasIcon);
     QFETCH(const bool, isPressed);
@@ -273,7 +273,7 @@ void TestMyPushButtonTest::paintsNothingWithoutAPicture()
     QCOMPARE(letters(paint(button), iconColour), discLetters(QSize(40, 40), QRect()));
 }
 
-void TestMyPushButtonTest::paintsWhatTheFileHoldsNow()
+void MyPushButtonTest::paintsWhatTheFileHoldsNow()
 {
     const QString path = folder.filePath(u"changing.png"_s);
     mypushbutton button(path);
@@ -286,7 +286,7 @@ void TestMyPushButtonTest::paintsWhatTheFileHoldsNow()
     }
 }
 
-void TestMyPushButtonTest::edgeOfTheCircleIsSmooth()
+void MyPushButtonTest::edgeOfTheCircleIsSmooth()
 {
     mypushbutton button(icon(), QString());
     button.resize(40, 40);
@@ -300,7 +300,7 @@ void TestMyPushButtonTest::edgeOfTheCircleIsSmooth()
     QVERIFY2(halfCovered > 20, qPrintable(QString::number(halfCovered)));
 }
 
-void TestMyPushButtonTest::releaseOutsideShowsTheIconAgain()
+void MyPushButtonTest::releaseOutsideShowsTheIconAgain()
 {
     mypushbutton button(icon(), imagePath);
     button.resize(40, 40);
@@ -313,7 +313,7 @@ void TestMyPushButtonTest::releaseOutsideShowsTheIconAgain()
     QCOMPARE(clicks, 0);
 }
 
-void TestMyPushButtonTest::repaintsAtOnce_data()
+void MyPushButtonTest::repaintsAtOnce_data()
 {
     QTest::addColumn<QEvent::Type>("type");
 
@@ -323,7 +323,7 @@ void TestMyPushButtonTest::repaintsAtOnce_data()
     QTest::newRow("when the mouse leaves") << QEvent::Leave;
 }
 
-void TestMyPushButtonTest::repaintsAtOnce()
+void MyPushButtonTest::repaintsAtOnce()
 {
     QFETCH(const QEvent::Type, type);
     mypushbutton button(icon(), QString());
@@ -342,7 +342,7 @@ void TestMyPushButtonTest::repaintsAtOnce()
     QCOMPARE(paints.down.first(), isRelease);
 }
 
-void TestMyPushButtonTest::isAPushButtonInAllElse()
+void MyPushButtonTest::isAPushButtonInAllElse()
 {
     mypushbutton button(u"&Convert"_s);
     button.setCheckable(true);
@@ -360,7 +360,7 @@ void TestMyPushButtonTest::isAPushButtonInAllElse()
     QCOMPARE(button.shortcut(), QKeySequence(Qt::ALT | Qt::Key_C));
 }
 
-void TestMyPushButtonTest::takesWhatAPushButtonIsMadeFrom()
+void MyPushButtonTest::takesWhatAPushButtonIsMadeFrom()
 {
     QWidget parent;
     const mypushbutton plain(&parent);
@@ -376,5 +376,5 @@ void TestMyPushButtonTest::takesWhatAPushButtonIsMadeFrom()
     QCOMPARE(parent.children().size(), 3);
 }
 
-QTEST_MAIN(TestMyPushButtonTest)
+QTEST_MAIN(MyPushButtonTest)
 #include "mypushbutton_test.moc"

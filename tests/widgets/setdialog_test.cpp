@@ -1,4 +1,4 @@
-// The option dialog: its place, texts and two buttons.
+// The option dialog: its place, texts and buttons.
 
 #include "setdialog.h"
 
@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestSetDialogTest : public QObject
+class SetDialogTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private slots:
     void keepsANameItHas();
 };
 
-void TestSetDialogTest::isAFixedWindow()
+void SetDialogTest::isAFixedWindow()
 {
     const setDialog dialog;
 
@@ -38,7 +38,7 @@ void TestSetDialogTest::isAFixedWindow()
     QCOMPARE(dialog.findChildren<QWidget *>().size(), 3);
 }
 
-void TestSetDialogTest::placesItsButtons_data()
+void SetDialogTest::placesItsButtons_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
@@ -52,7 +52,7 @@ void TestSetDialogTest::placesItsButtons_data()
                                               << "Reset All" << QRect(176, 310, 75, 23);
 }
 
-void TestSetDialogTest::placesItsButtons()
+void SetDialogTest::placesItsButtons()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, caption);
@@ -66,7 +66,7 @@ void TestSetDialogTest::placesItsButtons()
     QCOMPARE(button->geometry(), place);
 }
 
-void TestSetDialogTest::staysOpenWhenAButtonIsClicked_data()
+void SetDialogTest::staysOpenWhenAButtonIsClicked_data()
 {
     QTest::addColumn<QString>("name");
 
@@ -75,7 +75,7 @@ void TestSetDialogTest::staysOpenWhenAButtonIsClicked_data()
     QTest::newRow("a click on Reset All") << "resetallButton";
 }
 
-void TestSetDialogTest::staysOpenWhenAButtonIsClicked()
+void SetDialogTest::staysOpenWhenAButtonIsClicked()
 {
     QFETCH(const QString, name);
     setDialog dialog;
@@ -91,7 +91,7 @@ void TestSetDialogTest::staysOpenWhenAButtonIsClicked()
     QVERIFY(dialog.isVisible());
 }
 
-void TestSetDialogTest::closesByEscape()
+void SetDialogTest::closesByEscape()
 {
     setDialog dialog;
     dialog.show();
@@ -105,7 +105,7 @@ void TestSetDialogTest::closesByEscape()
     QCOMPARE(result, int{QDialog::Rejected});
 }
 
-void TestSetDialogTest::keepsANameItHas()
+void SetDialogTest::keepsANameItHas()
 {
     QDialog dialog;
     dialog.setObjectName("mine");
@@ -115,5 +115,5 @@ void TestSetDialogTest::keepsANameItHas()
     QCOMPARE(dialog.objectName(), u"mine"_s);
 }
 
-QTEST_MAIN(TestSetDialogTest)
+QTEST_MAIN(SetDialogTest)
 #include "setdialog_test.moc"

@@ -6,6 +6,6 @@
 /// Page `number`, from 0, as poppler draws it; null where there is none.
 QImage drawnPage(const QString &path, int number = 0, int dotsPerInch = 72);
 
-/// Says how two pictures differ for somebody who looks at them: in shape, or in colour at a place
-/// of both made small; "" where they do not. Blurring by JPEG and by scaling does not count.
+/// How two pictures differ visibly: in shape, or in colour at a place of both made small; "" if
+/// they do not. Blurring by JPEG and by scaling does not count.
 QString visibleDifference(const QImage &shown, const QImage &expected);

@@ -13,14 +13,14 @@ struct ListedFile
     QString size; // null where the row has none
 };
 
-/// The real window, worked by what its controls can be told, on whichever page they stand. Each
-/// program that works the window does it with this; `WindowDriver` adds a person's mouse and keys.
+/// Drives the real window through the methods of its controls, on any page. `WindowDriver` adds
+/// mouse and keys.
 class WindowControls
 {
 public:
     Process window;
 
-    /// The control named `name`. A name that no such control has ends the program.
+    /// The control named `name`. Ends the program if there is none.
     template <class Widget>
     Widget *find(const char *name) const
     {
@@ -43,9 +43,8 @@ public:
 
     QList<ListedFile> listedFiles() const;
 
-    /// Waits, at most `timeout` ms, until no child process is left; says whether that came about.
+    /// Waits, at most `timeout` ms, until no child process is left; returns whether that happened.
     static bool waitUntilQuiet(int timeout = 60000);
-    /// Presses the convert button and waits for the end of a run one by one that is not merged. The
-    /// window tells of it, so this takes as long as the run and no longer.
+    /// Presses the convert button and waits for the end of a one-by-one run, without polling.
     void convertOneByOne() const;
 };

@@ -5,9 +5,8 @@
 #include <QPoint>
 #include <QStringList>
 
-/// Works the real window as a person does: clicks go to a place on the window and hit what is
-/// there, keys go to what has the focus, dialogs are answered by typing. Each of these steps says
-/// whether it came about, so that a caller can stop with a sentence.
+/// Drives the real window as a user does: clicks go to a place on the window and hit what is there,
+/// keys go to the focus, dialogs are answered by typing. Each step returns whether it succeeded.
 class WindowDriver : public WindowControls
 {
 public:
@@ -17,7 +16,7 @@ public:
     bool show();
 
     /// Clicks the middle of the control named `control`, or its left end when it is a check box.
-    /// False when the control is not what lies there.
+    /// False if something else is there.
     bool click(const char *control);
     /// Clicks the file list's row `row`.
     bool clickRow(int row);

@@ -1,5 +1,5 @@
-// A desktop theme with dark colours, large letters and a style of its own, loaded as any desktop's
-// would be: QT_QPA_PLATFORMTHEME=tessarodark.
+// A desktop theme with dark colours, large letters and a style of its own, loaded like any
+// desktop's: QT_QPA_PLATFORMTHEME=tessarodark.
 
 #include <QFont>
 #include <QGuiApplication>
@@ -22,7 +22,7 @@ QPalette darkPalette()
 class DarkTheme : public QPlatformTheme
 {
 public:
-    // For every kind of widget one of its own, as the desktops' themes have for some.
+    // A separate one for every kind of widget, as desktop themes have for some.
     const QPalette *palette(Palette /*type*/) const override { return &colours; }
 
     const QFont *font(Font type) const override
