@@ -71,6 +71,7 @@ std::optional<std::uint8_t> FileBytes::byte()
 std::string FileBytes::read(std::size_t count)
 {
     std::string bytes;
+    bytes.reserve(std::min<std::uint64_t>(count, m_size - std::min(m_offset, m_size)));
     while (bytes.size() < count && load()) {
         const auto from = static_cast<std::size_t>(m_offset - m_blockStart);
         const std::size_t part = std::min(count - bytes.size(), m_blockSize - from);

@@ -1,0 +1,170 @@
+// The memory that convert itself takes, whatever the images are.
+
+#include "imagefiles.h"
+#include "pdffacts.h"
+#include "toolbench.h"
+
+#include <QTest>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+using namespace imagefiles;
+
+class ToolMemoryTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hostileTableTakesLittleMemory_data();
+    void hostileTableTakesLittleMemory();
+    void profilesAreNotHeldInMemory_data();
+    void profilesAreNotHeldInMemory();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+constexpr qsizetype megabyte = 1'000'000;
+
+// Of addresses, with those of the libraries; ImageMagick would need more.
+const QString littleMemory = u"ulimit -v 65536"_s;
+
+QByteArray little(quint32 value, int size)
+{
+    QByteArray bytes;
+    for (int byte = 0; byte < size; ++byte)
+        bytes += static_cast<char>(value >> (8 * byte));
+    return bytes;
+}
+
+// Directories that share the tables of their strips.
+QByteArray sharingTiff(quint32 directories, quint32 strips)
+{
+    const quint32 first = 8 + 4 * strips;
+    const auto field = [](quint32 tag, quint32 count, quint32 value) {
+        return little(tag, 2) + little(4, 2) + little(count, 4) + little(value, 4);
+    };
+    const QByteArray fields =
+        field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) + field(279, strips, 8);
+    const auto size = static_cast<quint32>(2 + fields.size() + 4);
+    QByteArray file =
+        QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
+    for (quint32 directory = 1; directory <= directories; ++directory)
+        file += little(4, 2) + fields +
+                little(directory == directories ? 0 : first + directory * size, 4);
+    return file;
+}
+
+// The same part of a profile again and again.
+QByteArray jpegOfProfileParts(int parts)
+{
+    const QByteArray part =
+        segment(0xE2, QByteArray("ICC_PROFILE\0\1\1", 14) + QByteArray(65'000, '\1'));
+    return jpeg({part.repeated(parts)}, jpegBody(true));
+}
+
+// As many comments, each of them between two segments that decoding needs.
+QByteArray jpegOfPieces(int pieces)
+{
+    return jpeg({(segment(0xDD, big16(0)) + segment(0xFE, {})).repeated(pieces)}, jpegBody(true));
+}
+
+QByteArray pngWith(const QByteArray &chunks)
+{
+    PngForm form;
+    form.before = {chunks};
+    return png(form);
+}
+
+// An empty chunk of each of two million unknown types.
+QByteArray pngOfTypes()
+{
+    constexpr int letters = 126;
+    QByteArray chunks;
+    for (int type = 0; type < letters * letters * letters; ++type) {
+        const std::array<char, 5> name = {'q', static_cast<char>(1 + type % letters),
+                                          static_cast<char>(1 + type / letters % letters),
+                                          static_cast<char>(1 + type / letters / letters), '\0'};
+        chunks += chunk(name.data(), {});
+    }
+    return pngWith(chunks);
+}
+
+QByteArray webp(const QByteArray &exif)
+{
+    return "RIFF" + little(quint32(exif.size()) + 12, 4) + "WEBPEXIF" +
+           little(quint32(exif.size()), 4) + exif;
+}
+
+} // namespace
+
+// What comes to ImageMagick ends there.
+void ToolMemoryTest::hostileTableTakesLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("errors");
+    const QByteArray converted = "came to ImageMagick\n";
+    const QByteArray long100(100 * megabyte, '\0');
+    QTest::newRow("TIFF directories that share a table")
+        << sharingTiff(4'000, 500'000) << QByteArray("tables of the TIFF file overlap\n");
+    QTest::newRow("TIFF directory of 20 million strips") << sharingTiff(1, 20'000'000) << converted;
+    QTest::newRow("JPEG with one part of a profile 1,500 times")
+        << jpegOfProfileParts(1'500) << converted;
+    QTest::newRow("JPEG in five million pieces") << jpegOfPieces(5'000'000) << converted;
+    QTest::newRow("PNG with two million types of chunks") << pngOfTypes() << QByteArray();
+    QTest::newRow("PNG with a text of 100 MB") << pngWith(chunk("tEXt", long100)) << converted;
+    QTest::newRow("PNG with a profile that inflates to 100 MB")
+        << pngWith(chunk("iCCP", QByteArray("name\0\0", 6) + qCompress(long100).mid(4)))
+        << converted;
+    QTest::newRow("WEBP with EXIF data of 100 MB") << webp(long100) << converted;
+}
+
+void ToolMemoryTest::hostileTableTakesLittleMemory()
+{
+    QFETCH(const QByteArray, file);
+    QFETCH(const QByteArray, errors);
+    const ToolBundle bundle(shellTool(u"echo came to ImageMagick >&2; exit 1"_s));
+    writeContent(m_folder.filePath(u"x"_s), file);
+    const RunResult result =
+        runInShell(littleMemory, bundle.tool(u"convert"_s), {u"x"_s, u"o.pdf"_s}, m_folder.path());
+    QVERIFY2(errors.isEmpty() ? result.errors.isEmpty() : result.errors.endsWith(errors),
+             result.errors.constData());
+}
+
+void ToolMemoryTest::profilesAreNotHeldInMemory_data()
+{
+    QTest::addColumn<bool>("areEqual");
+    QTest::newRow("equal ones, which stand once in the PDF") << true;
+    QTest::newRow("different ones") << false;
+}
+
+// 100 of a megabyte.
+void ToolMemoryTest::profilesAreNotHeldInMemory()
+{
+    QFETCH(const bool, areEqual);
+    constexpr int pages = 100;
+    const QByteArray body = jpegBody(true);
+    QByteArray profile = big32(megabyte) + QByteArray(megabyte - 4, '\0');
+    profile.replace(12, 8, "scnrRGB ").replace(36, 4, "acsp");
+    QStringList names;
+    for (int page = 0; page < pages; ++page) {
+        names += QString::number(page);
+        profile[200] = static_cast<char>(areEqual ? 0 : page);
+        writeContent(m_folder.filePath(names.last()), jpeg(profileSegments(profile, 20), body));
+    }
+    const RunResult result = runInShell(littleMemory, bundledTool(u"convert"_s),
+                                        names + QStringList{u"o.pdf"_s}, m_folder.path());
+    QCOMPARE(result.errors, QByteArray());
+    const QString pdf = m_folder.filePath(u"o.pdf"_s);
+    QCOMPARE(readPdf(pdf).pages, pages);
+    const qsizetype profiles = areEqual ? 1 : pages;
+    const qsizetype size = contentOf(pdf).size();
+    QVERIFY(size > profiles * megabyte);
+    QVERIFY(size < profiles * megabyte + pages * (body.size() + 1'000));
+}
+
+QTEST_GUILESS_MAIN(ToolMemoryTest)
+#include "toolmemory_test.moc"
