@@ -4,6 +4,8 @@
 #include "toolbench.h"
 
 #include <QDir>
+#include <QHash>
+#include <QMap>
 #include <QTest>
 #include <QThread>
 
@@ -32,6 +34,7 @@ private slots:
     void noCoreIsDumped();
     void theRealToolHasTheUsualStack();
     void lackOfMemoryIsASentence();
+    void anyLimitOnMemoryIsASentence();
     void smallStackIsEnough();
     void limitOnFileSizesIsAFailure();
     void realConvertStopsOnASignal();
@@ -284,6 +287,32 @@ void ToolProcessesTest::lackOfMemoryIsASentence()
     QCOMPARE(result.errors, QByteArray("pdftk: not enough memory\n"));
     QCOMPARE(result.status, 1);
     QCOMPARE(namesIn(folder.path()), QStringList({u"in.pdf"_s, u"info"_s}));
+}
+
+// From what the loader of the libraries ends with to what is enough.
+void ToolProcessesTest::anyLimitOnMemoryIsASentence()
+{
+    const QTemporaryDir folder;
+    makeImage(folder.filePath(u"x.jpg"_s));
+    QVERIFY(QFile::copy(m_folder.filePath(u"in.pdf"_s), folder.filePath(u"in.pdf"_s)));
+    const QStringList names = {u"in.pdf"_s, u"x.jpg"_s};
+    const QHash<QString, QStringList> calls = {
+        {u"convert"_s, {u"x.jpg"_s, u"o.pdf"_s}},
+        {u"pdftk"_s, {u"in.pdf"_s, u"output"_s, u"o.pdf"_s, u"user_pw"_s, u"a"_s}}};
+    for (auto call = calls.begin(); call != calls.end(); ++call) {
+        QMap<int, int> ends;
+        for (int kilobytes = 10'000; kilobytes < 50'000; kilobytes += 400) {
+            const RunResult result = runInShell(u"ulimit -v "_s + QString::number(kilobytes),
+                                                bundledTool(call.key()), *call, folder.path());
+            const bool made = QFile::remove(folder.filePath(u"o.pdf"_s));
+            const bool loaded = !result.errors.contains("loading shared libraries");
+            QVERIFY2(result.status == (made ? 0 : loaded ? 1 : 127), result.errors.constData());
+            QCOMPARE(result.errors.count('\n'), made ? 0 : 1);
+            QCOMPARE(namesIn(folder.path()), names);
+            ++ends[result.status];
+        }
+        QCOMPARE(ends.keys(), QList<int>({0, 1, 127}));
+    }
 }
 
 // ImageMagick needs more than that, and may be ended by the kernel.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <sched.h>
@@ -122,7 +123,7 @@ void Subprocess::becomeChild(pid_t parent, char **arguments, char **environment)
     } catch (const ToolError &error) {
         writeAll(STDERR_FILENO, error.what() + std::string("\n"));
     }
-    _exit(cannotExecute);
+    _exit(m_spec.task ? EXIT_FAILURE : cannotExecute);
 }
 
 void Subprocess::connectStreams()

@@ -9,7 +9,9 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <new>
@@ -63,6 +65,22 @@ ToolResult resultOf(const std::string &name, const std::function<std::string()> 
         return {1, "", name + ": " + error.what() + "\n"};
     }
 }
+
+[[noreturn]] void endEarly()
+{
+    writeAll(STDERR_FILENO, program_invocation_short_name);
+    writeAll(STDERR_FILENO, ": cannot go on, for lack of memory perhaps\n");
+    _exit(EXIT_FAILURE);
+}
+
+// The first of all code, as libqpdf 11.3 allocates before main() begins. It also throws from
+// destructors.
+void replaceTermination()
+{
+    std::set_terminate(endEarly);
+}
+
+[[gnu::section(".preinit_array"), gnu::used]] void (*const first)() = replaceTermination;
 
 int runGuarded(const Tool &tool, int argc, char **argv)
 {
