@@ -24,7 +24,7 @@ public:
 private:
     void activate(QWindow *window, bool isShown)
     {
-        // Menus, lists of combo boxes and tool tips are neither, and take no keyboard of their own.
+        // Menus, lists of combo boxes and tool tips take no keyboard of their own.
         if (!window || (window->type() != Qt::Window && window->type() != Qt::Dialog))
             return;
         m_shown.removeIf([window](const auto &other) { return !other || other == window; });
@@ -52,7 +52,7 @@ public:
 private:
     static void attach(const QWidget *popup)
     {
-        // The list of a completer has no parent but passes its keys on to the field.
+        // A completer's list has no parent; it passes its keys on to the field.
         if (!popup || popup->windowType() != Qt::Popup || !popup->focusProxy())
             return;
         if (QWindow *window = popup->windowHandle(); !window->transientParent())

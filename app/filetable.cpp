@@ -15,7 +15,7 @@
 
 namespace {
 
-/// An empty list has nothing to show the focus on, nor anything to do there by keyboard.
+/// An empty list takes no focus: there is nothing to do by keyboard.
 void takeFocusWithRowsOnly(QTableWidget *table)
 {
     const auto update = [table] {
@@ -26,8 +26,8 @@ void takeFocusWithRowsOnly(QTableWidget *table)
     update();
 }
 
-/// What lies in the table would take its transparent ground and its border: black corner, scroll
-/// bars whose slider is hard to see, and a black menu of theirs.
+/// Undoes what the table's parts inherit from its transparent background and border: a black
+/// corner, scroll bars with a faint slider, and a black menu on them.
 void styleParts(QTableWidget &table)
 {
     if (auto *corner = table.findChild<QAbstractButton *>())
@@ -45,7 +45,7 @@ FileTable::FileTable(QWidget *parent)
     : QTableWidget(parent)
 {
     setDragDropMode(QAbstractItemView::InternalMove);
-    setDropIndicatorShown(false); // it goes around a cell
+    setDropIndicatorShown(false); // it frames a cell
 }
 
 bool FileTable::viewportEvent(QEvent *event)
@@ -63,7 +63,7 @@ void FileTable::mousePressEvent(QMouseEvent *event)
 
 void FileTable::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    enableDrag(*event); // the press that is its second may begin a drag
+    enableDrag(*event); // its second press may begin a drag
     QTableWidget::mouseDoubleClickEvent(event);
 }
 
@@ -76,7 +76,7 @@ void FileTable::enableDrag(const QMouseEvent &press)
 /// Qt's own drag removes the rows when another program takes them.
 void FileTable::startDrag(Qt::DropActions /*actions*/)
 {
-    auto *rows = new QMimeData; // nothing that others could take
+    auto *rows = new QMimeData; // without data for other programs
     rows->setData(QStringLiteral("application/x-tessaro-rows"), {});
     auto *drag = new QDrag(this); // Qt deletes both
     drag->setMimeData(rows);
@@ -168,8 +168,8 @@ FileTable *placeFileTable(QWidget *parent)
     table->setLineWidth(2);
     table->setAutoScroll(true);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // Enabling sorting sorts at once by the header's indicator: without a section the rows stay
-    // as added until the user clicks a header.
+    // Enabling sorting sorts at once by the header's indicator. Without a section the rows stay as
+    // added until a click on a header.
     table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     table->setSortingEnabled(true);
     table->horizontalHeader()->setDefaultSectionSize(165);
@@ -201,9 +201,9 @@ void styleFileTable(QTableWidget &table)
     table.horizontalHeader()->setStyleSheet(headerStyle);
     table.verticalHeader()->setStyleSheet(headerStyle);
     styleParts(table);
-    // A stretched section gets no narrower than its own size: at the least possible one, no
-    // scroll bar appears for the few pixels that the row numbers take.
+    // A stretched section gets no narrower than its own size: at the minimum, no scroll bar appears
+    // for the few pixels of the row numbers.
     table.horizontalHeader()->resizeSection(1, table.horizontalHeader()->minimumSectionSize());
-    table.setTextElideMode(Qt::ElideLeft); // of a long path the file name is what matters
+    table.setTextElideMode(Qt::ElideLeft); // keeps the file name of a long path visible
     table.setWordWrap(false);
 }

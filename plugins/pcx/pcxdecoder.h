@@ -18,7 +18,7 @@ using Bytes = std::span<const std::uint8_t>;
 using Colour = std::uint32_t;
 
 inline constexpr std::size_t headerSize = 128;
-/// The palette behind the lines: a mark, which nobody checks, and 256 colours of three bytes.
+/// The palette after the lines: a mark, which is not checked, and 256 colours of three bytes.
 inline constexpr std::size_t endPaletteSize = 1 + 256 * 3;
 
 /// The content of a valid header. Width and height are in pixels and at least 1; a line of one
@@ -80,8 +80,8 @@ private:
 };
 
 /// Colours of the indexes of a picture without components: as many as there are index values.
-/// `endPalette` is what stands behind the lines: `endPaletteSize` bytes where they are wanted,
-/// else nothing. An index that the header's 16 colours do not reach is black in version 3 and the
+/// `endPalette` is what follows the lines: `endPaletteSize` bytes if they are wanted,
+/// else nothing. An index beyond the header's 16 colours is black in version 3 and the
 /// first colour in the others, as ImageMagick 6.9.11 has it.
 std::vector<Colour> colourTable(const Header &header, Bytes endPalette);
 

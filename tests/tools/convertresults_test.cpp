@@ -1,5 +1,6 @@
 // The files that convert leaves, on success and on failure.
 
+#include "imagefiles.h"
 #include "pdffacts.h"
 #include "privatelocales.h"
 #include "toolbench.h"
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
-#include <QtEndian>
 
 #include <sys/stat.h>
 
@@ -41,30 +41,6 @@ namespace {
 RunResult convertIn(const QTemporaryDir &folder, const QStringList &words)
 {
     return runBundled(u"convert"_s, words, folder.path());
-}
-
-QByteArray bigEndian(quint32 number)
-{
-    const quint32 value = qToBigEndian(number);
-    return {reinterpret_cast<const char *>(&value), sizeof value};
-}
-
-// The check sum of PNG (its public description, Annex D), bit by bit.
-quint32 crcOf(const QByteArray &bytes)
-{
-    quint32 crc = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        crc ^= static_cast<quint8>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc & 1) != 0 ? crc >> 1 ^ 0xEDB88320 : crc >> 1;
-    }
-    return ~crc;
-}
-
-QByteArray pngChunk(const QByteArray &type, const QByteArray &data)
-{
-    return bigEndian(static_cast<quint32>(data.size())) + type + data +
-           bigEndian(crcOf(type + data));
 }
 
 } // namespace
@@ -203,10 +179,10 @@ void ConvertResultsTest::decompressionBombIsRefused_data()
     const QByteArray size = QByteArray::fromHex("60ea");
     QTest::newRow("a PNG") << "x.png"
                            << "\x89PNG\r\n\x1a\n" +
-                                  pngChunk("IHDR",
-                                           QByteArray::fromHex("0000ea600000ea600100000000")) +
-                                  pngChunk("IDAT", qCompress(QByteArray(7501, 0)).mid(4)) +
-                                  pngChunk("IEND", {});
+                                  imagefiles::chunk(
+                                      "IHDR", QByteArray::fromHex("0000ea600000ea600100000000")) +
+                                  imagefiles::chunk("IDAT", qCompress(QByteArray(7501, 0)).mid(4)) +
+                                  imagefiles::chunk("IEND", {});
     QTest::newRow("a GIF") << "x.gif"
                            << "GIF89a" + size + size +
                                   QByteArray::fromHex("800000000000ffffff2c00000000") + size +
