@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <string_view>
 #include <utility>
 
 #include <unistd.h>
@@ -26,6 +27,9 @@ std::FILE *selectiveStream()
 
 void letMessageThrough(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
+    const bool hasCategory = context.category && std::string_view(context.category) != "default";
+    if (decodes && hasCategory)
+        return;
     const bool decoded = std::exchange(decodes, false);
     usualHandler(type, context, text);
     decodes = decoded;

@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
-/// While it lives, what libraries print on `stderr` in this thread is dropped: libpng and libtiff
-/// report each fault of an image there. Messages of Qt and of other threads still appear. Only one
-/// may exist at a time.
+/// While it lives, what libraries print on `stderr` in this thread is dropped, and what Qt reports
+/// here in a category: libpng, libtiff and Qt's readers report each fault of an image. Qt's other
+/// messages and those of other threads still appear. Only one may exist at a time.
 class QuietDecoders
 {
 public:
@@ -16,5 +16,4 @@ public:
 
 private:
     std::FILE *m_usualStream;
-    QtMessageHandler m_usualHandler;
 };

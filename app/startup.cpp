@@ -24,9 +24,7 @@ void setUpApplication(QApplication &application)
     if (const QString language = wantedLanguage(); !language.isEmpty())
         installTranslators(application, language);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.tessaro"));
-    // No warnings about two page slots without a button of their name, nor about a broken image at
-    // every refresh of the preview.
+    // No warnings about two page slots without a button of their name.
     QLoggingCategory::setFilterRules(
-        QStringLiteral("qt.core.qmetaobject.connectslotsbyname.warning=false\n"
-                       "qt.gui.imageio*.warning=false"));
+        QStringLiteral("qt.core.qmetaobject.connectslotsbyname.warning=false"));
 }

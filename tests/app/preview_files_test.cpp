@@ -24,18 +24,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Standard error as a file, for as long as it lives.
+void print(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// Standard error as a file while it lives. Qt's messages go there too, instead of into the log of
+/// the test.
 class CapturedErrors
 {
 public:
     CapturedErrors()
         : m_usual(dup(STDERR_FILENO))
+        , m_usualHandler(qInstallMessageHandler(print))
     {
         if (!m_file.open() || dup2(m_file.handle(), STDERR_FILENO) < 0)
             qFatal("cannot redirect standard error");
     }
     ~CapturedErrors()
     {
+        qInstallMessageHandler(m_usualHandler);
         dup2(m_usual, STDERR_FILENO);
         close(m_usual);
     }
@@ -49,6 +57,7 @@ public:
 
 private:
     int m_usual;
+    QtMessageHandler m_usualHandler;
     QTemporaryFile m_file;
 };
 
@@ -291,7 +300,6 @@ void PreviewFilesTest::decodersPrintNothing()
 {
     QFETCH(QByteArray, content);
     WindowFixture fixture;
-    QLoggingCategory::setFilterRules(u"qt.gui.imageio*.warning=false"_s);
     const QString path = fixture.makeFile(u"p"_s, content);
     CapturedErrors errors;
     QImage(path).isNull(); // Qt by itself, so that there is something to hear
@@ -303,21 +311,18 @@ void PreviewFilesTest::decodersPrintNothing()
 
 void PreviewFilesTest::everythingElseIsPrinted()
 {
-    const QtMessageHandler usual =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-        });
     CapturedErrors errors;
     std::fputs("before\n", stderr);
     {
         const QuietDecoders quiet;
         std::fputs("decoder\n", stderr);
         qWarning("of Qt");
+        const QLoggingCategory reader("qt.imageformats.tiff");
+        qCCritical(reader, "of a reader");
         std::fputs("decoder\n", stderr);
         std::thread([] { std::fputs("another thread\n", stderr); }).join();
     }
     std::fputs("after\n", stderr);
-    qInstallMessageHandler(usual);
     QCOMPARE(errors.text(), QByteArray("before\nof Qt\nanother thread\nafter\n"));
 }
 

@@ -41,7 +41,7 @@ constexpr unsigned other = 65534;
 constexpr const char *accessList = "system.posix_acl_access";
 
 // Another user may read and write, as far as `mask` lets; the owner's group may do nothing.
-QByteArray listOf(unsigned short mask)
+QByteArray listOf(unsigned short mask, unsigned short ofOwner = ACL_READ | ACL_WRITE)
 {
     struct
     {
@@ -50,7 +50,7 @@ QByteArray listOf(unsigned short mask)
     } list;
     constexpr unsigned short all = ACL_READ | ACL_WRITE;
     constexpr unsigned nobody = ACL_UNDEFINED_ID;
-    list.entries = {{{ACL_USER_OBJ, all, nobody},
+    list.entries = {{{ACL_USER_OBJ, ofOwner, nobody},
                      {ACL_USER, all, other},
                      {ACL_GROUP_OBJ, 0, nobody},
                      {ACL_MASK, mask, nobody},
@@ -112,7 +112,8 @@ void FileRightsTest::accessListIsKept()
 void FileRightsTest::noListIsTakenFromTheFolder()
 {
     QCOMPARE(chmod(path("o.pdf").constData(), 0640), 0);
-    setAttribute(path("."), "system.posix_acl_default", listOf(ACL_READ | ACL_WRITE));
+    constexpr unsigned short all = ACL_READ | ACL_WRITE;
+    setAttribute(path("."), "system.posix_acl_default", listOf(all, all | ACL_EXECUTE));
     QCOMPARE(replace().errors, QByteArray());
     QCOMPARE(attributeOf(accessList), QByteArray());
     QCOMPARE(statusOf().st_mode & 0777, 0640U);
