@@ -35,7 +35,7 @@ std::string runFolder(size_t part)
     return "run-" + std::to_string(part + 1);
 }
 
-// Desktop programs name files in UTF-8 whatever the locale, others in its charset.
+// Desktop programs name files in UTF-8 in every locale, others in its charset.
 std::string titleOf(const std::string &output)
 {
     const std::string file = fileNameOf(output);

@@ -21,7 +21,7 @@ public:
     /// not fit into memory go into `pixels`. Throws ToolError.
     Conversion(const ConvertCall &call, const WorkDirectory &folder, const WorkDirectory &pixels);
 
-    /// Returns what ImageMagick warned of. Throws ToolError.
+    /// Returns ImageMagick's warnings. Throws ToolError.
     std::string run();
 
 private:

@@ -11,7 +11,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-// The application's words for a compression, and what they are to data that may be copied.
+// The application's words for a compression, and the data that may be copied for each.
 struct CompressionWord
 {
     std::string_view word;
@@ -64,7 +64,7 @@ bool parseResize(const std::string &word, ConvertOptions &options)
     return heightError == std::errc() && last == end && box.width > 0 && box.height > 0;
 }
 
-// A decimal number, which may have a sign: a person may type it into the application's box.
+// A decimal number, which may have a sign: the user can type it.
 bool parseRotate(const std::string &word, ConvertOptions &options)
 {
     const size_t sign = word.starts_with('-') || word.starts_with('+') ? 1 : 0;

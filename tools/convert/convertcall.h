@@ -13,10 +13,10 @@ struct PixelSize
     std::uint32_t height = 0;
 };
 
-/// What the application asks for.
+/// The application's options.
 struct ConvertOptions
 {
-    /// The box that an image is to fill.
+    /// The box that the image has to fit into.
     std::optional<PixelSize> resize;
     /// Degrees clockwise as a decimal number; "" for none.
     std::string rotate;
@@ -24,9 +24,9 @@ struct ConvertOptions
     std::string compress;
     bool monochrome = false;
 
-    /// Whether an image gets other pixels than it has.
+    /// Whether the pixels of an image change.
     bool changesPixels() const;
-    /// Whether data compressed in this way may stay as it is.
+    /// Whether data with this compression may be copied.
     bool allows(Compression compression) const;
 };
 
@@ -45,7 +45,6 @@ constexpr const char *convertUsage = "usage: convert [-resize WIDTHxHEIGHT] [-ro
 /// The call that `arguments` make, or nothing for any that the application never makes.
 std::optional<ConvertCall> parseConvertCall(const std::vector<std::string> &arguments);
 
-/// A plain name for the `number`-th input. It keeps the extension of a format that the policy lets
-/// in, as ImageMagick recognises some formats by it alone; any other could name a format that is
-/// not let in.
+/// A plain name for the `number`-th input. It keeps the extension of a format that the policy
+/// allows, as ImageMagick recognises some formats only by it; any other extension is dropped.
 std::string inputName(size_t number, const std::string &path);

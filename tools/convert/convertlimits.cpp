@@ -21,8 +21,8 @@ constexpr unsigned long long gibibyte = 1024 * mebibyte;
 constexpr unsigned long long maxPixelMemory = 13 * gibibyte / 4;
 constexpr unsigned long long maxBesidePixels = 5 * gibibyte / 8;
 
-// Less for each of several runs, and pages of usual scans and photos would go to disk: 24
-// megapixels take 183 MiB, twice that while they are turned.
+// With less for each of several runs, usual scans and photos would go to disk: 24 megapixels take
+// 183 MiB, twice that while they are turned.
 constexpr unsigned long long minForOneOfSeveral = 768 * mebibyte;
 
 // A4 pages in colour at 300 dots per inch take five seconds at worst (-monochrome).
@@ -96,8 +96,8 @@ size_t machineCores()
 
 std::vector<std::string> limitVariables(const ConvertLimits &limits)
 {
-    // No "map": a mapped file's pages count as the process's memory, one that is read and written
-    // does not keep them.
+    // No "map": the pages of a mapped file count as the process's memory, those of a file that is
+    // read and written do not.
     std::vector<std::string> variables = {
         "MAGICK_MEMORY_LIMIT=" + std::to_string(limits.memory / mebibyte) + "MiB",
         "MAGICK_MAP_LIMIT=0",

@@ -28,7 +28,7 @@ struct ConvertLimits
 };
 
 /// Limits for `work`, on a machine with `ram` bytes of memory and `freeDisk` bytes to spare for
-/// pixels. Pure, so that tests can be other machines.
+/// pixels. Pure, so that tests can simulate other machines.
 ConvertLimits limitsFor(const Workload &work, unsigned long long ram, unsigned long long freeDisk);
 
 /// How many runs may be at work at the same time on a machine with `cores` and `ram`.

@@ -131,7 +131,7 @@ Handle dictionaryOf(const std::map<std::string, Handle> &items)
     return Handle::newDictionary(items);
 }
 
-// ImageMagick writes such sides with an exponent, which is no number of a PDF.
+// ImageMagick writes such sides with an exponent, which PDF does not allow.
 bool isBeyondReason(double side)
 {
     return side < 1e-4 || side >= 1e6;

@@ -24,7 +24,7 @@ struct CopyablePage
     /// Pixels of the image as stored.
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    /// How the stored image lies, from 1 (upright) to 8, as in EXIF.
+    /// The orientation of the stored image, from 1 (upright) to 8, as in EXIF.
     int orientation = 1;
     /// Points of the upright page, as ImageMagick would make it.
     double pageWidth = 0;
@@ -46,7 +46,7 @@ struct CopyablePage
     std::vector<Extent> extents;
 };
 
-/// Whether an image of this orientation lies on its side.
+/// Whether this orientation swaps width and height.
 constexpr bool swapsSides(int orientation)
 {
     return orientation > 4;

@@ -19,14 +19,14 @@ double perInch(double density, Density::Unit unit)
     return std::floor(100.0 * centimetresPerInch * density + 0.5) / 100.0;
 }
 
-// It divides by no number nearer to zero than this.
+// It does not divide by a number closer to zero than this.
 double reciprocal(double value)
 {
     constexpr double smallest = 1.0e-12;
     return 1.0 / std::max(value, smallest);
 }
 
-// printf's "%g", which no locale changes here.
+// As printf's "%g" in the C locale.
 double asWritten(double value)
 {
     constexpr int digits = 6;

@@ -31,8 +31,8 @@ size_t roomForFiles()
     return limit.rlim_cur - std::min(limit.rlim_cur, others);
 }
 
-// JPEG 2000 data says its own colours, and ImageMagick 7.1.1 calls some grey in the page that are
-// not so in the data: readers built on poppler then show stripes.
+// JPEG 2000 data states its own colours, and ImageMagick 7.1.1 declares some pages grey whose data
+// is not: readers based on poppler then show stripes.
 void leaveColoursToJpeg2000(QPDFPageObjectHelper &page)
 {
     page.forEachImage(true, [](QPDFObjectHandle &image, QPDFObjectHandle &, const std::string &) {
@@ -70,7 +70,7 @@ void fitReaders(QPDF &document, QPDFPageObjectHelper &page)
     page.getObjectHandle().replaceKey(
         "/MediaBox", QPDFObjectHandle::newFromRectangle(QPDFObjectHandle::Rectangle(
                          0, 0, (box.urx - box.llx) / unit, (box.ury - box.lly) / unit)));
-    // ImageMagick's is the same box as before.
+    // ImageMagick's crop box is the media box before scaling.
     page.getObjectHandle().removeKey("/CropBox");
     page.getObjectHandle().replaceKey("/UserUnit", QPDFObjectHandle::newReal(unit, decimals));
 }
@@ -141,7 +141,7 @@ void Document::addPdf(const DocumentPart &part)
     std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(*source).getAllPages();
     if (pages.size() < part.minPages)
         throw ToolError("a page is missing");
-    // ImageMagick writes a length of a million points as 1e+06, which is no number of a PDF.
+    // ImageMagick writes a length of a million points as 1e+06, which PDF does not allow.
     if (source->anyWarnings())
         throw unsoundPage();
     for (QPDFPageObjectHelper &page : pages) {
@@ -153,7 +153,7 @@ void Document::addPdf(const DocumentPart &part)
     }
 }
 
-// In UTC, as the time zone would tell where the document was made.
+// In UTC, as the time zone would reveal where the document was made.
 std::string currentPdfTime()
 {
     const time_t now = time(nullptr);
@@ -180,7 +180,7 @@ void Document::write(FileOutput &output)
     QPDFWriter writer(m_pdf);
     writer.setOutputPipeline(&output);
     writer.setStreamDataMode(qpdf_s_preserve);
-    // A unit of the user came with this version, JPEG 2000 with 1.5.
+    // /UserUnit needs this version, JPEG 2000 needs 1.5.
     writer.setMinimumPDFVersion("1.6");
     writer.registerProgressReporter(std::make_shared<Check>(m_check));
     writer.write();

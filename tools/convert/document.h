@@ -22,9 +22,9 @@ struct DocumentPart
     std::size_t minPages = 1;
 };
 
-/// Writes the document of `parts` into `output`, an empty file: their pages in
-/// order, and the same information whatever made them. `spool` holds what the pages have in the
-/// spool. The data of one image at a time is in memory. `check` is called again and again, and may
-/// throw to end the work. Throws ToolError.
+/// Writes the document of `parts` into `output`, an empty file: their pages in order, with the same
+/// information for copied and converted ones. `spool` is the spool's file. The data of one image at
+/// a time is in memory. `check` is called repeatedly and may throw to end the work. Throws
+/// ToolError.
 void writeDocument(FileOutput &output, const std::vector<DocumentPart> &parts, int spool,
                    const std::string &title, const std::function<void()> &check);

@@ -31,6 +31,7 @@ struct ConvertedImage
 
 using ImagePlan = std::variant<CopiedImage, ConvertedImage>;
 
-/// Reads the image in the descriptor `file`, a regular file, and says how it becomes pages. Moves
-/// no file offset. Throws ToolError when a JPEG, PNG or TIFF file is incomplete or damaged.
+/// Reads the image in the descriptor `file`, a regular file, and decides how it becomes pages. Does
+/// not move the file offset. Throws ToolError when a JPEG, PNG or TIFF file is incomplete or
+/// damaged.
 ImagePlan planImage(int file, const ConvertOptions &options, Spool &spool);

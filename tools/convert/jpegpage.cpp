@@ -18,7 +18,7 @@ constexpr std::string_view iccProfile("ICC_PROFILE\0", 12);
 constexpr std::string_view photoshop("Photoshop 3.0\0", 14);
 constexpr std::string_view adobe("Adobe", 5);
 
-// What a progressive image needs is some ten; each takes a viewer as long as the whole image.
+// A progressive image needs some ten; a viewer decodes the whole image for each.
 constexpr int maxScans = 100;
 
 // A progressive image may have other tables for each scan.
@@ -35,7 +35,7 @@ bool isFrame(int marker)
            marker != 0xCC;
 }
 
-// By ImageMagick's measure, which does not heed capitals.
+// As ImageMagick compares: without regard to case.
 bool isPhotoshop(const std::string &bytes)
 {
     constexpr std::string_view word = "photoshop ";
@@ -260,11 +260,11 @@ void JpegWalk::takeJfif(const std::string &bytes)
     m_jfif = bytes;
 }
 
-// Photoshop's density is overridden by JFIF's and that by EXIF's, in whatever order they stand.
+// JFIF's density overrides Photoshop's, and EXIF's overrides both, in any order.
 Density JpegWalk::density()
 {
     Density result = m_photoshop.value_or(Density());
-    // A 1 is an aspect ratio to ImageMagick, whatever the unit.
+    // ImageMagick takes a 1 for an aspect ratio, with any unit.
     const std::uint16_t x = m_jfif ? bigEndian16(*m_jfif, 8) : 1;
     const std::uint16_t y = m_jfif ? bigEndian16(*m_jfif, 10) : 1;
     if (x != 1 && y != 1) {
@@ -277,7 +277,7 @@ Density JpegWalk::density()
             result.unit = Density::Unit::Centimetre;
     }
     const ExifFacts facts = m_exif.value_or(ExifFacts());
-    // Without EXIF's, each version takes something else from XMP's.
+    // Without EXIF's, the versions read XMP's differently.
     m_doubtful |= facts.isDoubtful || (m_xmpStatesDensity && !facts.density);
     return facts.density.value_or(result);
 }
@@ -318,12 +318,12 @@ void JpegWalk::takeAdobe(const std::string &bytes)
     constexpr std::size_t size = 12;
     if (!bytes.starts_with(adobe))
         return;
-    // A longer one could carry anything.
+    // A longer one could contain other data.
     m_doubtful |= bytes.size() != size || m_adobeTransform;
     m_adobeTransform = bytes.size() == size ? byteIn(bytes, size - 1) : -1;
 }
 
-// Whether readers of PDFs, which go by the Adobe segment alone, see the colours that libjpeg sees:
+// Whether readers of PDFs, which go by the Adobe segment alone, show the same colours as libjpeg:
 // it goes by JFIF, the Adobe segment and the components' names, in this order.
 bool JpegWalk::coloursAreCertain() const
 {
@@ -336,7 +336,7 @@ bool JpegWalk::coloursAreCertain() const
 
 void JpegWalk::finish()
 {
-    // Some readers take usual tables where there are none.
+    // Without tables some readers use default ones.
     m_doubtful |= !m_hasHuffmanTable;
     // A progressive image has several scans of each component.
     m_doubtful |= !m_isProgressive && m_scannedComponents != m_page.components;
@@ -350,7 +350,7 @@ void JpegWalk::finish()
     setPageSize(m_page, density());
 }
 
-// Anything could be hidden in them.
+// They could contain other data.
 void JpegWalk::dropUnusedTables()
 {
     for (const QuantizationSegment &segment : m_quantization) {

@@ -7,9 +7,9 @@
 /// How ImageMagick lets the JPEG decoder make an image smaller while it reads.
 struct JpegScaling
 {
-    /// What the decoder is asked for, in the proportions of the image.
+    /// The size to decode to, in the proportions of the image.
     PixelSize decoded;
-    /// What the image is resized to afterwards.
+    /// The size after resizing.
     PixelSize result;
 };
 

@@ -32,7 +32,7 @@ bool isSound(FILE *file)
         jpeg_create_decompress(&info);
         jpeg_stdio_src(&info, file);
         jpeg_read_header(&info, TRUE);
-        // Or else all scans of a progressive image would be decoded now.
+        // Otherwise all scans of a progressive image would be decoded now.
         info.buffered_image = jpeg_has_multiple_scans(&info);
         jpeg_start_decompress(&info);
         sound = errors.manager.num_warnings == 0;

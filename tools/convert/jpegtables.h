@@ -21,7 +21,6 @@ struct QuantizationSegment
 std::optional<std::string> withUsedTables(const QuantizationSegment &segment,
                                           const std::set<int> &used);
 
-/// Puts `replacement`, or nothing, in the place of the bytes `part` of `extents`, one of which
-/// holds them whole.
+/// Replaces the bytes `part`, which are in one of `extents`, by `replacement` or removes them.
 void replacePart(std::vector<Extent> &extents, const Extent &part,
                  const std::optional<Extent> &replacement);

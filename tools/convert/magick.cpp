@@ -30,7 +30,7 @@ constexpr std::array<const char *, 8> orientations = {
 
 } // namespace
 
-// Of limits the policy that is read first holds, of rights the last: ImageMagick reads
+// The first limit read counts, and the last right. ImageMagick reads
 // MAGICK_CONFIGURE_PATH, then /etc, then XDG_CONFIG_HOME, then HOME (6.9.11 and 7.1).
 SubprocessSpec magickCommand(const std::vector<std::string> &arguments, const ConvertLimits &limits,
                              const std::string &pixels)
@@ -48,7 +48,7 @@ SubprocessSpec magickCommand(const std::vector<std::string> &arguments, const Co
     spec.environment = environmentWith(variables);
     spec.limits = kernelLimits(limits);
     spec.deadline = limits.time + graceBeyondLimit;
-    // On SIGTERM ImageMagick 6.9.11 removes its temporary pixels, gigabytes perhaps, and ends.
+    // On SIGTERM ImageMagick 6.9.11 removes its temporary pixels, perhaps gigabytes, and ends.
     spec.signalOnOurDeath = SIGTERM;
     return spec;
 }
@@ -64,7 +64,7 @@ Sandbox magickSandbox(const std::string &program, const std::string &image,
     return sandbox;
 }
 
-// Left to itself, ImageMagick (6.9.11 and 7.1) writes EXIF, XMP, IPTC and comments of an image into
+// By default ImageMagick (6.9.11 and 7.1) writes EXIF, XMP, IPTC and comments of an image into
 // the JPEG data of its page, and draws its label on the page.
 std::vector<std::string> pageArguments(const ConvertOptions &options, const ConvertedImage &image,
                                        const std::string &input, const std::string &result)
@@ -79,7 +79,7 @@ std::vector<std::string> pageArguments(const ConvertOptions &options, const Conv
     if (scaling)
         add({"-define", "jpeg:size=" + sizeText(turned(scaling->decoded, isTurned))});
     add({input});
-    // The frames of an animation may hold what changes alone.
+    // The frames of an animation may contain only what changes.
     if (image.kind == ImageKind::Gif)
         add({"-coalesce"});
     if (image.orientation)

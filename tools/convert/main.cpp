@@ -26,7 +26,7 @@ std::string run(const Arguments &arguments)
         throw usageError(convertUsage);
     for (const std::string &input : call->inputs)
         requireRegularFile(input);
-    // Without a policy nothing is made, not even of images that are only copied.
+    // Without a policy nothing is made, not even from images that are only copied.
     requirePolicy();
     const OutputTransaction output(call->output);
     const std::unique_ptr<WorkDirectory> pixels =

@@ -112,7 +112,7 @@ private:
             m_statedElsewhere = true;
             return true;
         }
-        // What stands behind a pointer to another directory is read after that one.
+        // Entries after a pointer to another directory are read after that directory.
         return count == 1 && m_further.empty() && readField(at, tag, type);
     }
 
@@ -164,7 +164,7 @@ Density resolutionResource(const std::string &blocks, std::size_t at)
     constexpr std::uint16_t perCentimetre = 2;
     Density density = {bigEndian32(blocks, at) / fixedPoint,
                        bigEndian32(blocks, at + 8) / fixedPoint, Density::Unit::Inch};
-    // The numbers are per inch whatever the unit is to be shown as.
+    // The numbers are per inch, independent of the display unit.
     if (bigEndian16(blocks, at + 4) == perCentimetre)
         density = {density.x / centimetresPerInch, density.y / centimetresPerInch,
                    Density::Unit::Centimetre};

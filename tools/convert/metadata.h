@@ -25,7 +25,7 @@ ExifFacts readExif(const std::string &block);
 /// them.
 std::optional<Density> readPhotoshopDensity(const std::string &blocks);
 
-/// Whether an XMP packet may state a density: ImageMagick reads it, but not alike in both versions
+/// Whether an XMP packet may state a density: the versions of ImageMagick read it differently
 /// unless an EXIF block states one too.
 bool xmpStatesDensity(const std::string &packet);
 /// Whether an XMP packet states one under the names of an EXIF block's fields.

@@ -85,7 +85,7 @@ std::optional<std::string> inflated(std::string_view compressed, std::size_t max
     stream.next_in = input(compressed);
     stream.avail_in = static_cast<uInt>(compressed.size());
     std::string result;
-    // Growing it bit by bit would take the memory three times.
+    // Growing it in steps would take three times the memory.
     result.reserve(max + outputSize);
     int status = Z_OK;
     while (status == Z_OK && result.size() <= max) {

@@ -40,5 +40,5 @@ private:
     bool m_exact = true;
 };
 
-/// What `compressed`, a zlib stream, holds; nothing when it is damaged or longer than `max` bytes.
+/// The content of `compressed`, a zlib stream; nothing if it is damaged or longer than `max` bytes.
 std::optional<std::string> inflated(std::string_view compressed, std::size_t max);

@@ -14,7 +14,7 @@ public:
 
     /// The next byte of the inflated rows, of which each begins with its filter, 0 to 4.
     void add(std::uint8_t byte);
-    /// Whether all indices so far lie in the palette.
+    /// Whether all indices so far are in the palette.
     bool areKnown() const { return m_areKnown; }
 
 private:

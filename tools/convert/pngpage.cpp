@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t signatureSize = 8;
 constexpr std::size_t paletteEntry = 3;
 constexpr std::size_t pieceSize = std::size_t{256} * 1024;
-// Larger chunks that are to be read whole are left to ImageMagick.
+// An image with a larger text or profile is converted.
 constexpr std::uint32_t maxKept = std::uint32_t{4} * 1024 * 1024;
 
 enum ColourType : std::uint8_t { grey = 0, trueColour = 2, indexed = 3 };
@@ -28,7 +28,7 @@ std::uint8_t byteIn(const std::string &bytes, std::size_t at)
     return static_cast<std::uint8_t>(bytes[at]);
 }
 
-// Keywords whose texts ImageMagick takes for something else than text: fields of metadata (with a
+// Keywords whose texts ImageMagick interprets: fields of metadata (with a
 // colon), a label printed on the page, a density, a whole profile.
 bool isPlainKeyword(std::string keyword)
 {
@@ -161,7 +161,7 @@ std::string PngWalk::nextChunk()
     return type;
 }
 
-// The pieces of image data stand together; what goes before them is complete.
+// The pieces of image data are contiguous; everything before them is complete.
 void PngWalk::imageData(std::uint32_t length, unsigned long &sum)
 {
     m_doubtful |= m_seen.count("IDAT") != 0 && m_last != "IDAT";

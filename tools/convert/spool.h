@@ -7,8 +7,7 @@
 #include <map>
 #include <string>
 
-/// Data of pages that stands in no image file as the PDF needs it. It is kept in a file, equal data
-/// once.
+/// Data of pages that no image file has as the PDF needs it, kept in a file, equal data once.
 class Spool
 {
 public:
