@@ -51,3 +51,12 @@ inline void type(const QString &text)
 {
     xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
 }
+
+/// Chooses `file` in the open dialog that has the keyboard. In quotes the dialog offers no
+/// completions: they load while keys are pressed, and keys that come faster than any person's end
+/// up in a list that is just closing.
+inline void choose(const QString &file)
+{
+    type(QStringLiteral("\"%1\"").arg(file));
+    press(QStringLiteral("Return"));
+}

@@ -31,6 +31,11 @@ fill() {
     xdotool type --delay 10 "$2"
 }
 
+# has_keyboard TITLE: whether the window with that title has the keyboard.
+has_keyboard() {
+    [ "$(xdotool getwindowfocus getwindowname)" = "$1" ]
+}
+
 wait_for_window() {
     wait_until xdotool search --onlyvisible --name "Tessaro Image to PDF Converter"
 }
