@@ -1,8 +1,10 @@
 // What convert reads and writes, independent of the policies of machine and user.
 
+#include "pdfpages.h"
 #include "toolbench.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,12 @@ private slots:
     void plainFormatsAreConverted();
     void rareFormatsAreRefused_data();
     void rareFormatsAreRefused();
+    void namedFormatIsLetIn_data();
+    void namedFormatIsLetIn();
+    void ruleIsRead_data();
+    void ruleIsRead();
+    void ceilingHolds_data();
+    void ceilingHolds();
     void everyCompressionIsWritten_data();
     void everyCompressionIsWritten();
     void onlyPdfIsWritten_data();
@@ -193,7 +201,11 @@ void ConvertPolicyTest::plainFormatsAreConverted()
     const RunResult result = runBundled(u"convert"_s, {name, u"o.pdf"_s}, folder.path());
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(result.status, 0);
-    QVERIFY(contentOf(folder.filePath(u"o.pdf"_s)).startsWith("%PDF-"));
+    // Black and white by itself, and what Qt does not read.
+    const QImage own(folder.filePath(name));
+    QCOMPARE(visibleDifference(drawnPage(folder.filePath(u"o.pdf"_s), 0, finelyDrawn),
+                               own.isNull() ? QImage(folder.filePath(u"source.png"_s)) : own),
+             QString());
 }
 
 void ConvertPolicyTest::rareFormatsAreRefused_data()
@@ -218,6 +230,65 @@ void ConvertPolicyTest::rareFormatsAreRefused()
     for (const QString &name : {u"x.png"_s, u"x."_s + format})
         QVERIFY(runBundled(u"convert"_s, {name, u"o.pdf"_s}, folder.path()).status != 0);
     QCOMPARE(namesIn(folder.path()), names);
+}
+
+void ConvertPolicyTest::namedFormatIsLetIn_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const char *format :
+         {"bmp",  "gif", "pcx",    "png",  "jpeg", "jpg",  "jpe",  "pjpeg", "jp2",
+          "j2c",  "j2k", "jpc",    "jpm",  "jpt",  "pbm",  "pgm",  "ppm",   "pnm",
+          "tiff", "tif", "tiff64", "webp", "heic", "heif", "avif", "jxl"})
+        QTest::newRow(format) << format;
+}
+
+// Not every version knows each of them, and this is an image of none; the policy comes first.
+void ConvertPolicyTest::namedFormatIsLetIn()
+{
+    QFETCH(QString, format);
+    const QTemporaryDir folder;
+    writeContent(folder.filePath(u"x"_s), "no image");
+    const RunResult result = runRealConvert({format + u":x"_s, u"o.pdf"_s}, folder.path());
+    QVERIFY(result.status != 0);
+    QVERIFY2(!result.errors.contains("security policy"), result.errors.constData());
+}
+
+void ConvertPolicyTest::ruleIsRead_data()
+{
+    QTest::addColumn<QString>("rule");
+    for (const char *rule :
+         {"Delegate rights: None pattern: *", "Filter rights: None pattern: *",
+          "Path rights: None pattern: @*", "Path rights: None pattern: |*",
+          "Module rights: Read Write pattern: PDF", "Coder rights: None pattern: *"})
+        QTest::newRow(rule) << rule;
+}
+
+// What one rule closes, another may close as well.
+void ConvertPolicyTest::ruleIsRead()
+{
+    QFETCH(QString, rule);
+    const RunResult result = runRealConvert({u"-list"_s, u"policy"_s}, QDir::tempPath());
+    const QString ours = QString::fromUtf8(result.output)
+                             .section(u"/magick/rights/ImageMagick/policy.xml"_s, 1)
+                             .section(u"\nPath: "_s, 0, 0)
+                             .simplified();
+    QVERIFY2((ours + u' ').contains(u"Policy: %1 "_s.arg(rule)), qPrintable(ours));
+}
+
+void ConvertPolicyTest::ceilingHolds_data()
+{
+    QTest::addColumn<QString>("ceiling");
+    for (const char *ceiling : {"Width: 32(K|000)P", "Height: 32(K|000)P", "Area: 1GP",
+                                "Memory: 4GiB", "Map: 0B", "Disk: 1TiB"})
+        QTest::newRow(ceiling) << ceiling;
+}
+
+void ConvertPolicyTest::ceilingHolds()
+{
+    QFETCH(QString, ceiling);
+    const RunResult result = runRealConvert({u"-list"_s, u"resource"_s}, QDir::tempPath());
+    const QRegularExpression line(u" %1\\n"_s.arg(ceiling));
+    QVERIFY2(QString::fromUtf8(result.output).contains(line), result.output.constData());
 }
 
 void ConvertPolicyTest::everyCompressionIsWritten_data()

@@ -2,11 +2,13 @@
 
 #include "imagefiles.h"
 #include "pdffacts.h"
+#include "pdfpages.h"
 #include "privatelocales.h"
 #include "toolbench.h"
 
 #include <QDir>
 #include <QFile>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -49,24 +51,32 @@ void ConvertResultsTest::optionsReachTheTool_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QSizeF>("size");
-    QTest::newRow("none") << QStringList{} << QSizeF(40, 20);
-    QTest::newRow("a page size") << QStringList{u"-resize"_s, u"80x80"_s} << QSizeF(80, 40);
-    QTest::newRow("a turn") << QStringList{u"-rotate"_s, u"90"_s} << QSizeF(20, 40);
+    QTest::addColumn<int>("turn");
+    QTest::newRow("none") << QStringList{} << QSizeF(40, 20) << 0;
+    QTest::newRow("a page size") << QStringList{u"-resize"_s, u"80x80"_s} << QSizeF(80, 40) << 0;
+    QTest::newRow("a turn") << QStringList{u"-rotate"_s, u"90"_s} << QSizeF(20, 40) << 90;
     QTest::newRow("all of them") << QStringList{u"-resize"_s,    u"80x80"_s,     u"-rotate"_s,
                                                 u"270"_s,        u"-compress"_s, u"zip"_s,
                                                 u"-monochrome"_s}
-                                 << QSizeF(40, 80);
+                                 << QSizeF(40, 80) << 270;
 }
 
 void ConvertResultsTest::optionsReachTheTool()
 {
     QFETCH(QStringList, options);
     QFETCH(QSizeF, size);
+    QFETCH(int, turn);
     const QTemporaryDir folder;
-    makeImage(folder.filePath(u"x.ppm"_s), {40, 20});
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter(&image).fillRect(0, 0, 20, 10, Qt::white);
+    QVERIFY(image.save(folder.filePath(u"x.ppm"_s)));
     const RunResult result = convertIn(folder, options + QStringList{u"x.ppm"_s, u"o.pdf"_s});
     QCOMPARE(result.errors + result.output, QByteArray());
     QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pageSizes, QList<QSizeF>{size});
+    QCOMPARE(visibleDifference(drawnPage(folder.filePath(u"o.pdf"_s), 0, finelyDrawn),
+                               image.transformed(QTransform().rotate(turn))),
+             QString());
 }
 
 // Only the content decides the format.
@@ -83,6 +93,10 @@ void ConvertResultsTest::sixtyScannedPagesGiveSixty()
     QCOMPARE(result.errors, QByteArray());
     const PdfFacts facts = readPdf(folder.filePath(u"o.pdf"_s));
     QCOMPARE(facts.pageSizes, QList<QSizeF>(60, facts.pageSizes.value(0)));
+    for (const int page : {0, 59})
+        QCOMPARE(visibleDifference(drawnPage(folder.filePath(u"o.pdf"_s), page, 20),
+                                   QImage(folder.filePath(u"0.jpg"_s))),
+                 QString());
 }
 
 void ConvertResultsTest::failureLeavesTheOlderPdf_data()

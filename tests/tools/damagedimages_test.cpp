@@ -1,7 +1,7 @@
 // Damaged images become no PDF; images that are only unusual do.
 
 #include "imagefiles.h"
-#include "pdffacts.h"
+#include "pdfpages.h"
 #include "toolbench.h"
 
 #include <QImage>
@@ -278,8 +278,7 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused()
     const RunResult result = convert(file, name, options, folder);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(warning), result.errors.constData());
-    QVERIFY2(result.errors.endsWith("the image is damaged or not complete\n"),
-             result.errors.constData());
+    QVERIFY(result.errors.endsWith("the image is damaged or not complete\n"));
     QCOMPARE(namesIn(folder.path()), QStringList{name});
 }
 
@@ -345,8 +344,7 @@ void DamagedImagesTest::longFaxStopsOnASignal()
     QTRY_COMPARE(namesIn(folder.path()).size(), 2);
     kill(static_cast<pid_t>(call->processId()), SIGTERM);
     QVERIFY(call->waitForFinished(60000));
-    const QByteArray errors = call->readAllStandardError();
-    QVERIFY2(errors.contains("ended by signal 15"), errors.constData());
+    QVERIFY(call->readAllStandardError().contains("ended by signal 15"));
     QCOMPARE(namesIn(folder.path()), QStringList{u"x.tif"_s});
 }
 
@@ -393,7 +391,9 @@ void DamagedImagesTest::oddImageIsConverted()
     QFETCH(QStringList, options);
     const QTemporaryDir folder;
     QCOMPARE(convert(file, name, options, folder).errors, QByteArray());
-    QCOMPARE(readPdf(folder.filePath(u"o.pdf"_s)).pages, 1);
+    const QImage page = drawnPage(folder.filePath(u"o.pdf"_s), 0, finelyDrawn);
+    const QTransform turn = QTransform().rotate(options.isEmpty() ? 0 : 90);
+    QCOMPARE(visibleDifference(page, QImage::fromData(file).transformed(turn)), QString());
 }
 
 QTEST_GUILESS_MAIN(DamagedImagesTest)
