@@ -10,6 +10,7 @@
 #include <QTemporaryFile>
 #include <QUrl>
 
+#include <array>
 #include <cstdio>
 
 #include <unistd.h>
@@ -48,6 +49,7 @@ private slots:
     void unknownOptionIsRefused();
     void firstRowIsCurrentAndItsPreviewShows();
     void noFilesChangeNothing();
+    void nothingIsReportedWithoutAFailure();
 };
 
 void StartCommandTest::existingFilesAreTakenInOrder()
@@ -115,6 +117,13 @@ void StartCommandTest::noFilesChangeNothing()
     const auto *table = fixture.find<QTableWidget>("inputfiletableWidget");
     QCOMPARE(table->currentRow(), -1);
     QVERIFY(!ProcessProbe::previewTimer(fixture.window)->isActive());
+}
+
+void StartCommandTest::nothingIsReportedWithoutAFailure()
+{
+    std::array name{'t', '\0'};
+    std::array<char *, 2> arguments{name.data(), nullptr};
+    QVERIFY(!reportStartFailure(1, arguments.data()));
 }
 
 QTEST_MAIN(StartCommandTest)
