@@ -41,6 +41,7 @@ private slots:
     void rowsAreSortedByNameWithNumbersByTheirValue();
     void filesFromElsewhereGoToTheEnd();
     void selectedRowsAreDragged();
+    void lineShowsWhereTheRowsWouldGo();
     void otherRowsAreSweptOver();
     void stepOfARunTakesTheRowAtItsIndex();
 };
@@ -228,6 +229,39 @@ void RowOrderTest::selectedRowsAreDragged()
         }
         QCOMPARE(namesOf(fixture), names);
     }
+}
+
+void RowOrderTest::lineShowsWhereTheRowsWouldGo()
+{
+    struct Opened : FileTable
+    {
+        using FileTable::dragLeaveEvent, FileTable::dragMoveEvent;
+    };
+    WindowFixture fixture;
+    fixture.addImages({u"a"_s, u"b"_s, u"c"_s});
+    FileTable &list = listOf(fixture);
+    const auto lineAt = [&list] {
+        const QImage shown = list.viewport()->grab().toImage();
+        const QRgb colour = list.palette().color(QPalette::Highlight).rgb();
+        int y = 0;
+        while (y < shown.height() && shown.pixel(shown.width() - 9, y) != colour)
+            ++y;
+        return y;
+    };
+    const int none = lineAt();
+    const QMimeData rows;
+    const int height = list.rowHeight(0);
+    // Above the middle of a row, and below it.
+    for (const auto &[y, line] :
+         {std::pair(1, 0), std::pair(height - 1, height - 2), std::pair(height + 1, height - 2),
+          std::pair(3 * height - 1, 3 * height - 2)}) {
+        QDragMoveEvent move({5, y}, Qt::MoveAction, &rows, Qt::LeftButton, Qt::NoModifier);
+        (list.*(&Opened::dragMoveEvent))(&move);
+        QCOMPARE(lineAt(), line);
+    }
+    QDragLeaveEvent leave;
+    (list.*(&Opened::dragLeaveEvent))(&leave);
+    QCOMPARE(lineAt(), none);
 }
 
 void RowOrderTest::otherRowsAreSweptOver()
