@@ -36,6 +36,13 @@ void lowerStackLimit()
     }
 }
 
+// What we work on is named by descriptor.
+void requireProc()
+{
+    if (access("/proc/self/fd", X_OK) != 0)
+        throw systemError("cannot work without", "/proc");
+}
+
 } // namespace
 
 // Linux takes a limit of one byte as "never", for dumps to a file and to a program alike; a limit
@@ -51,6 +58,7 @@ void forbidCoreDumps()
 
 void prepareProcess()
 {
+    requireProc();
     close_range(STDERR_FILENO + 1, ~0U, 0);
     openStandardStreams();
     lowerStackLimit();
