@@ -79,16 +79,16 @@ private:
     std::uint8_t m_runValue = 0;
 };
 
-/// Colours of the indexes of a picture without components: as many as there are index values.
+/// Colours of the indexes of an image without components: as many as there are index values.
 /// `endPalette` is what follows the lines: `endPaletteSize` bytes if they are wanted,
 /// else nothing. An index beyond the header's 16 colours is black in version 3 and the
 /// first colour in the others, as ImageMagick 6.9.11 has it.
 std::vector<Colour> colourTable(const Header &header, Bytes endPalette);
 
-/// Palette indexes of one decoded line, for a picture without components; `indexes` has the width.
+/// Palette indexes of one decoded line, for an image without components; `indexes` has the width.
 void unpackIndexes(const Header &header, Bytes line, std::span<std::uint8_t> indexes);
 
-/// Colours of one decoded line, for a picture with components; `colours` has the width.
+/// Colours of one decoded line, for an image with components; `colours` has the width.
 void unpackColours(const Header &header, Bytes line, std::span<Colour> colours);
 
 } // namespace pcx

@@ -47,14 +47,14 @@ std::size_t readInto(QIODevice &device, std::span<std::uint8_t> bytes)
     return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
-bool readLines(const pcx::Header &header, pcx::LineDecoder &lines, QImage &picture)
+bool readLines(const pcx::Header &header, pcx::LineDecoder &lines, QImage &decoded)
 {
     std::vector<std::uint8_t> line(header.lineSize());
     const auto width = static_cast<std::size_t>(header.width);
     for (int y = 0; y < header.height; ++y) {
         if (!lines.next(line))
             return false;
-        uchar *pixels = picture.scanLine(y);
+        uchar *pixels = decoded.scanLine(y);
         if (header.hasComponents())
             pcx::unpackColours(header, line, {reinterpret_cast<pcx::Colour *>(pixels), width});
         else
@@ -63,14 +63,14 @@ bool readLines(const pcx::Header &header, pcx::LineDecoder &lines, QImage &pictu
     return !lines.hasRunLeft();
 }
 
-/// Gives an indexed picture its colours; false if the file ends before them.
-bool setColours(const pcx::Header &header, pcx::LineDecoder &lines, QImage &picture)
+/// Gives an indexed image its colours; false if the file ends before them.
+bool setColours(const pcx::Header &header, pcx::LineDecoder &lines, QImage &decoded)
 {
     std::vector<std::uint8_t> palette(header.wantsEndPalette() ? pcx::endPaletteSize : 0);
     if (lines.takeRaw(palette) < palette.size())
         return false;
     const std::vector<pcx::Colour> colours = pcx::colourTable(header, palette);
-    picture.setColorTable({colours.begin(), colours.end()});
+    decoded.setColorTable({colours.begin(), colours.end()});
     return true;
 }
 
@@ -96,16 +96,16 @@ bool PcxHandler::read(QImage *image)
         return false;
     QIODevice &file = *device();
     file.skip(pcx::headerSize);
-    QImage picture;
-    if (isTooShort(*header, file) || !allocateImage(sizeOf(*header), formatOf(*header), &picture))
+    QImage decoded;
+    if (isTooShort(*header, file) || !allocateImage(sizeOf(*header), formatOf(*header), &decoded))
         return false;
 
     pcx::LineDecoder lines(
         *header, [&file](std::span<std::uint8_t> bytes) { return readInto(file, bytes); });
-    if (!readLines(*header, lines, picture) ||
-        (!header->hasComponents() && !setColours(*header, lines, picture)))
+    if (!readLines(*header, lines, decoded) ||
+        (!header->hasComponents() && !setColours(*header, lines, decoded)))
         return false;
-    *image = picture;
+    *image = decoded;
     return true;
 }
 
