@@ -83,13 +83,13 @@ bool printHelpOrVersion(int argc, char **argv)
     QStringList words;
     for (int i = 0; i < argc; ++i)
         words << QString::fromLocal8Bit(argv[i]);
-    const StartArguments asked = readStartArguments(words);
-    if (!asked.wantsHelp && !asked.wantsVersion)
+    const StartArguments parsed = readStartArguments(words);
+    if (!parsed.wantsHelp && !parsed.wantsVersion)
         return false;
     QCoreApplication application(argc, argv);
     installTranslators(application, wantedLanguage());
     const QString answer =
-        asked.wantsHelp
+        parsed.wantsHelp
             ? startHelp()
             : QStringLiteral("Tessaro Image to PDF Converter " TESSARO_VERSION "\nSandbox: ") +
                   QString::fromStdString(describeSandbox()) + QLatin1Char('\n');
@@ -119,14 +119,14 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv)
 
 std::optional<QStringList> startFiles(const QStringList &arguments, const QString &folder)
 {
-    const StartArguments asked = readStartArguments(arguments);
-    if (!asked.unknownOptions.isEmpty()) {
+    const StartArguments parsed = readStartArguments(arguments);
+    if (!parsed.unknownOptions.isEmpty()) {
         printError(QCoreApplication::translate("CommandLine", "There is no option %1; see --help.")
-                       .arg(asked.unknownOptions.first()));
+                       .arg(parsed.unknownOptions.first()));
         return std::nullopt;
     }
     QStringList files;
-    for (const QString &argument : asked.files) {
+    for (const QString &argument : parsed.files) {
         const QString file = startFile(argument, folder);
         if (QFileInfo::exists(file))
             files << file;

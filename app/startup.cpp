@@ -17,7 +17,7 @@ void setUpApplication(QApplication &application)
     QDir::setCurrent(bundleFolder(executableFolder));
     // Texts need no codec: every literal is ASCII, and Qt reads literals as UTF-8.
     limitDecodedPictures();
-    applyLook(application);
+    applyStyle(application);
     activateWindows(application);
     attachPopups(application);
     keepFixedSizes(application);

@@ -241,7 +241,7 @@ QPalette lightPalette()
 
 } // namespace
 
-void applyLook(QApplication &application)
+void applyStyle(QApplication &application)
 {
     application.setStyle(new Style); // the application owns it
     application.setPalette(lightPalette());

@@ -4,4 +4,4 @@ class QApplication;
 
 /// Gives `application` the light colours that the window's own pictures and style sheets are made
 /// for and one font, the user's, whatever theme the desktop has.
-void applyLook(QApplication &application);
+void applyStyle(QApplication &application);

@@ -164,11 +164,12 @@ std::size_t LineDecoder::takeRun(std::span<std::uint8_t> line)
 /// Copies the next values without a count, in a photo most of them; returns how many there were.
 std::size_t LineDecoder::takeValues(std::span<std::uint8_t> line)
 {
-    const Bytes ready =
+    const Bytes available =
         Bytes(m_buffer).subspan(m_position, std::min(m_end - m_position, line.size()));
-    const auto stop = m_runLength ? std::find_if(ready.begin(), ready.end(), isCount) : ready.end();
-    std::copy(ready.begin(), stop, line.begin());
-    const auto count = static_cast<std::size_t>(stop - ready.begin());
+    const auto stop =
+        m_runLength ? std::find_if(available.begin(), available.end(), isCount) : available.end();
+    std::copy(available.begin(), stop, line.begin());
+    const auto count = static_cast<std::size_t>(stop - available.begin());
     m_position += count;
     return count;
 }

@@ -21,7 +21,7 @@ private slots:
 
 void ColoursTest::initTestCase()
 {
-    applyLook(*qApp);
+    applyStyle(*qApp);
 }
 
 void ColoursTest::coloursAreThoseOfTheDesign_data()

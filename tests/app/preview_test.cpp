@@ -342,7 +342,7 @@ void PreviewTest::rewrittenFileShowsItsNewContent()
     fixture.window.setpreview();
     QTRY_COMPARE(colourOf(fixture), QColor(Qt::red));
 
-    // Same name, same size, same time of change: only the content tells.
+    // Same name, size and time of change: only the content differs.
     const qint64 size = QFileInfo(path).size();
     savePicture(fixture, u"p.bmp"_s, {20, 20}, Qt::blue);
     QVERIFY(rewind());

@@ -76,7 +76,7 @@ private slots:
     void readsNothingFromAFileThatEndsAnywhereInside();
     void looksNoFurtherIntoAFileTooShortForItsSize();
     void obeysTheReadersLimitOfMemory();
-    void tellsTheSizeWithoutMovingTheDevice();
+    void reportsTheSizeWithoutMovingTheDevice();
 };
 
 void TestPcxTest::givesThePixelsOfTheFile_data()
@@ -272,7 +272,7 @@ void TestPcxTest::obeysTheReadersLimitOfMemory()
     QImageReader::setAllocationLimit(previous);
 }
 
-void TestPcxTest::tellsTheSizeWithoutMovingTheDevice()
+void TestPcxTest::reportsTheSizeWithoutMovingTheDevice()
 {
     QByteArray file = PcxFile{.left = 3, .top = 2, .right = 4, .bottom = 6}.bytes();
     QBuffer buffer(&file);

@@ -59,7 +59,7 @@ void demandPossibleCount(const ConvertedImage &image, std::size_t size)
 
 #ifdef FUZZ_PNG
 // A fuzzer does not guess check sums: each chunk gets the right one, but for one in 256.
-void mendSums(std::uint8_t *data, std::size_t size)
+void fixChecksums(std::uint8_t *data, std::size_t size)
 {
     constexpr std::size_t signature = 8;
     constexpr std::size_t around = 12;
@@ -86,7 +86,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t s
                                                std::size_t most, unsigned int)
 {
     const std::size_t changed = LLVMFuzzerMutate(data, size, most);
-    mendSums(data, changed);
+    fixChecksums(data, changed);
     return changed;
 }
 #endif

@@ -42,7 +42,7 @@ struct SubprocessSpec
 
 struct SubprocessResult
 {
-    /// What waitpid tells.
+    /// The status from waitpid.
     int waitStatus = 0;
     bool timedOut = false;
     /// The beginnings (up to a quarter MiB) of what the child wrote.
