@@ -5,6 +5,9 @@
 
 #include <QSet>
 #include <QTest>
+#include <QtEndian>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace imagefiles;
@@ -19,6 +22,8 @@ private slots:
     void everyPageHasItsOwnStrips();
     void isCopiedOrLeftToImageMagick_data();
     void isCopiedOrLeftToImageMagick();
+    void fieldThatNobodySeesChangesNothing_data();
+    void fieldThatNobodySeesChangesNothing();
     void incompleteFileIsRefused_data();
     void incompleteFileIsRefused();
     void sharedTablesAreRefused();
@@ -62,6 +67,26 @@ QByteArray withFieldByte(const QByteArray &file, int tag, int place, char value)
     QByteArray changed = file;
     changed[fieldAt(file, tag) + place] = value;
     return changed;
+}
+
+// The little-endian file with one field more; its directory moves to the end.
+QByteArray withFieldMore(QByteArray file, quint16 tag, quint16 type, quint16 count)
+{
+    const auto little = [](quint32 value, int size) {
+        const quint32 bytes = qToLittleEndian(value);
+        return QByteArray(reinterpret_cast<const char *>(&bytes), size);
+    };
+    const auto directory = qFromLittleEndian<quint32>(file.constData() + 4);
+    const auto fields = qFromLittleEndian<quint16>(file.constData() + directory);
+    QByteArrayList table = {little(tag, 2) + little(type, 2) + little(count, 4) +
+                            QByteArray("1\0\0\0", 4)};
+    for (int field = 0; field < fields; ++field)
+        table += file.mid(qsizetype{directory} + 2 + qsizetype{12} * field, 12);
+    std::ranges::sort(table, {}, [](const QByteArray &field) {
+        return qFromLittleEndian<quint16>(field.constData());
+    });
+    file.append(file.size() % 2, '\0').replace(4, 4, little(quint32(file.size()), 4));
+    return file + little(fields + 1U, 2) + table.join() + little(0, 4);
 }
 
 // The file whose last directory says that another one is its successor.
@@ -148,6 +173,40 @@ void TiffPagesTest::isCopiedOrLeftToImageMagick_data()
 }
 
 void TiffPagesTest::isCopiedOrLeftToImageMagick()
+{
+    compareReading();
+}
+
+void TiffPagesTest::fieldThatNobodySeesChangesNothing_data()
+{
+    addReadingRows();
+    constexpr quint16 text = 2;
+    constexpr quint16 number = 3;
+    const auto row = [](const char *name, quint16 tag, quint16 type, bool isCopied = true) {
+        const quint16 count = type == text || tag == 297 ? 2 : 1;
+        QTest::newRow(name) << withFieldMore(tiff(form()), tag, type, count) << isCopied;
+    };
+    row("thresholding", 263, number);
+    row("width of a dither cell", 264, number);
+    row("length of a dither cell", 265, number);
+    row("document name", 269, text);
+    row("description", 270, text);
+    row("make", 271, text);
+    row("model", 272, text);
+    row("least sample", 280, number);
+    row("greatest sample", 281, number);
+    row("page number", 297, number);
+    row("software", 305, text);
+    row("date", 306, text);
+    row("artist", 315, text);
+    row("computer", 316, text);
+    row("bad lines of a fax", 326, number);
+    row("copyright", 33432, text);
+    row("page name, which ImageMagick prints", 285, text, false);
+    row("a number that nobody knows", 40000, number, false);
+}
+
+void TiffPagesTest::fieldThatNobodySeesChangesNothing()
 {
     compareReading();
 }
