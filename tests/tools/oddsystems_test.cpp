@@ -50,8 +50,9 @@ void OddSystemsTest::temporaryFolderMayHaveAnyName()
     const QString place = places.filePath(name);
     const ToolBundle bundle(shellTool(u"touch \"$MAGICK_TEMPORARY_PATH/pixels\" && "
                                       "echo \"$MAGICK_TEMPORARY_PATH\" >&2; exit 3"_s));
-    const RunResult result = runProgram(bundle.tool(u"convert"_s), {u"-rotate"_s, u"90"_s, u"x.png"_s, u"o.pdf"_s},
-                                        m_folder.path(), {{u"TMPDIR"_s, place}});
+    const RunResult result =
+        runProgram(bundle.tool(u"convert"_s), {u"-rotate"_s, u"90"_s, u"x.png"_s, u"o.pdf"_s},
+                   m_folder.path(), {{u"TMPDIR"_s, place}});
     QCOMPARE(result.status, 3);
     QVERIFY2(result.errors.startsWith(place.toUtf8() + "/.tessaro-"), result.errors.constData());
     QCOMPARE(namesIn(place), QStringList());
@@ -68,10 +69,9 @@ void OddSystemsTest::longMergeNeedsFewDescriptors()
 {
     QFETCH(const QStringList, options);
     constexpr int pages = 150;
-    const RunResult result =
-        runInShell(u"ulimit -n 64"_s, bundledTool(u"convert"_s),
-                   options + QStringList(pages, u"x.png"_s) + QStringList{u"long.pdf"_s},
-                   m_folder.path());
+    const RunResult result = runInShell(
+        u"ulimit -n 64"_s, bundledTool(u"convert"_s),
+        options + QStringList(pages, u"x.png"_s) + QStringList{u"long.pdf"_s}, m_folder.path());
     QCOMPARE(result.errors, QByteArray());
     QCOMPARE(readPdf(file(u"long.pdf"_s)).pages, pages);
 }
@@ -93,11 +93,10 @@ void OddSystemsTest::foldersOfTheSystemMayBeAway()
     QFETCH(const QByteArray, errors);
     if (geteuid() != 0)
         QSKIP("only root can mount a file system");
-    const RunResult result =
-        runProgram(QStringLiteral(TESSARO_ON_IMAGE),
-                   {u"tmpfs"_s, u"1"_s, folder, bundledTool(u"convert"_s), u"-rotate"_s, u"90"_s,
-                    u"x.png"_s, u"o.pdf"_s},
-                   m_folder.path());
+    const RunResult result = runProgram(QStringLiteral(TESSARO_ON_IMAGE),
+                                        {u"tmpfs"_s, u"1"_s, folder, bundledTool(u"convert"_s),
+                                         u"-rotate"_s, u"90"_s, u"x.png"_s, u"o.pdf"_s},
+                                        m_folder.path());
     QCOMPARE(result.errors, errors);
     QCOMPARE(result.status, errors.isEmpty() ? 0 : 1);
 }
