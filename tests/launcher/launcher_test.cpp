@@ -1,55 +1,26 @@
 // The command of an installation: the bundle that it sets up for each window, and the program that
 // it executes.
 
+#include "launcherfixture.h"
+
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 #include <utility>
 #include <vector>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Variables = QStringList;
-
-/// The installed program prints how it was started; a change of `version` keeps its size.
-QByteArray programText(char version)
-{
-    return QByteArray("#!/bin/sh\necho \"") + version + R"(|$PWD|$*"
-[ -z "$TESSARO_PLACE_FAILURE$TESSARO_TOOLS_FAILURE" ] && exit 7
-echo "place: $TESSARO_PLACE_FAILURE, tools: $TESSARO_TOOLS_FAILURE" >&2
-exit 1
-)";
-}
-
 /// Prints where it runs, and waits for the end of its standard input.
 const QByteArray windowText = "#!/bin/sh\necho \"$0\"\nread -r line\n";
-
-struct Ended
-{
-    int status = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-Ended ended(QProcess &process)
-{
-    process.waitForFinished();
-    if (process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
 
 struct stat statusOf(const QString &path)
 {
@@ -61,12 +32,11 @@ struct stat statusOf(const QString &path)
 
 } // namespace
 
-class LauncherTest : public QObject
+class LauncherTest : public LauncherFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
     void programIsACopyAndTheRestAreLinks();
     void argumentsFolderAndStatusArePassedOn();
     void dataFolderIsTheUsers_data();
@@ -79,81 +49,11 @@ private slots:
     void startsAtOnceAllSucceed();
     void eachWindowHasAFolderOfItsOwn();
     void foldersOfClosedWindowsAreUsedAgain();
-    void failuresArePassedOn_data();
-    void failuresArePassedOn();
-    void failureWithoutAProgramIsPrinted();
-    void failureLeavesNoBundle();
-    void lockThatCannotBeMadeIsNamed();
-    void fileSystemWithoutLocksHasOneBundle();
-    void programThatCannotRunIsNamed();
-    void noexecIsNamed();
-    void toolsThatAreNotSetUpArePassedOn();
 
 private:
-    void write(const QString &name, const QByteArray &content) const;
-    std::unique_ptr<QProcess> start(const Variables &variables,
-                                    const QStringList &words = {}) const;
-    Ended run(const Variables &variables, const QStringList &words = {}) const;
-    /// With system calls refused: tests/support/withoutcalls.cpp.
-    Ended runWithout(const QString &calls) const;
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString own(const QString &name) const
-    {
-        return path(u"home/.local/share/tessaro/Tessaro.app/Contents/"_s + name);
-    }
-    Variables home() const { return {u"HOME="_s + path(u"home"_s)}; }
     /// A program that runs on, and the folder that holds its bundle, below that of the data.
     std::pair<std::unique_ptr<QProcess>, QString> openWindow() const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_prefix;
 };
-
-void LauncherTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_prefix = path(u"a prefix"_s);
-    QVERIFY(QDir().mkpath(path(u"home"_s)));
-    QVERIFY(QDir().mkpath(m_prefix + u"/bin"_s));
-    QVERIFY(QFile::copy(QStringLiteral(TESSARO_LAUNCHER), m_prefix + u"/bin/tessaro"_s));
-    write(u"MacOS/tessaro"_s, programText('1'));
-    write(u"MacOS/convert"_s, "convert");
-    write(u"Plugins/platforms/libq.so"_s, "plug-in");
-    write(u"Resources/convert.tool"_s, "tool");
-}
-
-void LauncherTest::write(const QString &name, const QByteArray &content) const
-{
-    const QString file = m_prefix + u"/lib/tessaro/Tessaro.app/Contents/"_s + name;
-    QVERIFY(QDir().mkpath(QFileInfo(file).path()));
-    QFile::remove(file);
-    QFile out(file);
-    QVERIFY(out.open(QIODevice::WriteOnly) && out.write(content) == content.size());
-    QVERIFY(out.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-}
-
-std::unique_ptr<QProcess> LauncherTest::start(const Variables &variables,
-                                              const QStringList &words) const
-{
-    auto process = std::make_unique<QProcess>();
-    process->setEnvironment(variables);
-    process->setWorkingDirectory(m_folder->path());
-    process->start(m_prefix + u"/bin/tessaro"_s, words);
-    return process;
-}
-
-Ended LauncherTest::run(const Variables &variables, const QStringList &words) const
-{
-    return ended(*start(variables, words));
-}
-
-Ended LauncherTest::runWithout(const QString &calls) const
-{
-    QProcess process;
-    process.setEnvironment(home());
-    process.start(QStringLiteral(TESSARO_WITHOUTCALLS), {calls, m_prefix + u"/bin/tessaro"_s});
-    return ended(process);
-}
 
 void LauncherTest::programIsACopyAndTheRestAreLinks()
 {
@@ -338,92 +238,6 @@ void LauncherTest::foldersOfClosedWindowsAreUsedAgain()
     second.first->closeWriteChannel();
     QVERIFY(second.first->waitForFinished());
     QCOMPARE(openWindow().second, u"window-2/"_s);
-}
-
-void LauncherTest::failuresArePassedOn_data()
-{
-    QTest::addColumn<Variables>("variables");
-    QTest::addColumn<QString>("failure");
-    QTest::newRow("no home") << Variables() << u"HOME: No such file or directory"_s;
-    QTest::newRow("a home that is a file")
-        << Variables{u"HOME=/bin/true"_s} << u"/bin/true/.local: Not a directory"_s;
-    QTest::newRow("a home that cannot be written")
-        << Variables{u"HOME=/proc"_s} << u"/proc/.local: No such file or directory"_s;
-}
-
-void LauncherTest::failuresArePassedOn()
-{
-    QFETCH(Variables, variables);
-    QFETCH(QString, failure);
-    const Ended result = run(variables, {u"--help"_s});
-    QCOMPARE(result.status, 1);
-    QCOMPARE(QString::fromUtf8(result.errors), u"place: %1, tools: \n"_s.arg(failure));
-    QVERIFY(result.output.endsWith("|--help\n")); // which the program answers
-}
-
-void LauncherTest::failureWithoutAProgramIsPrinted()
-{
-    QVERIFY(QFile::remove(m_prefix + u"/lib/tessaro/Tessaro.app/Contents/MacOS/tessaro"_s));
-    const Ended result = run({});
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors, QByteArray("tessaro: HOME: No such file or directory\n"));
-}
-
-void LauncherTest::failureLeavesNoBundle()
-{
-    const Ended result = runWithout(u"symlinks"_s);
-    QCOMPARE(result.status, 1);
-    const QString folder = path(u"home/.local/share/tessaro"_s);
-    QVERIFY2(result.errors.startsWith("place: " + folder.toUtf8() + "/Tessaro.app/Contents/"),
-             result.errors.constData());
-    QVERIFY(result.errors.contains(": Operation not permitted"));
-    QVERIFY(!QFile::exists(folder + u"/Tessaro.app"_s));
-}
-
-void LauncherTest::lockThatCannotBeMadeIsNamed()
-{
-    const QString lock = path(u"home/.local/share/tessaro/Tessaro.app/lock"_s);
-    QVERIFY(QDir().mkpath(lock));
-    QCOMPARE(run(home()).errors, "place: " + lock.toUtf8() + ": Is a directory, tools: \n");
-}
-
-void LauncherTest::fileSystemWithoutLocksHasOneBundle()
-{
-    QCOMPARE(runWithout(u"locks"_s).status, 7);
-    QVERIFY(QFile::exists(own(u"MacOS/tessaro"_s)));
-}
-
-void LauncherTest::programThatCannotRunIsNamed()
-{
-    write(u"MacOS/tessaro"_s, "no program");
-    const Ended result = run(home());
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors,
-             "tessaro: " + own(u"MacOS/tessaro"_s).toUtf8() + ": Exec format error\n");
-}
-
-void LauncherTest::noexecIsNamed()
-{
-    if (geteuid() != 0)
-        QSKIP("only root can mount a file system");
-    QProcess process;
-    process.setEnvironment(home() + QProcess::systemEnvironment().filter(u"PATH="_s));
-    process.start(QStringLiteral(TESSARO_ON_IMAGE),
-                  {u"tmpfs"_s, u"16,noexec"_s, path(u"home"_s), m_prefix + u"/bin/tessaro"_s});
-    const Ended result = ended(process);
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors, "place: " + path(u"home/.local/share/tessaro/Tessaro.app"_s).toUtf8() +
-                                ": noexec, tools: \n");
-}
-
-void LauncherTest::toolsThatAreNotSetUpArePassedOn()
-{
-    write(u"Resources/setup-error"_s, "there is no program convert: install the package.\n");
-    const Ended result = run(home(), {u"--version"_s});
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors,
-             QByteArray("place: , tools: there is no program convert: install the package.\n"));
-    QVERIFY(result.output.endsWith("|--version\n"));
 }
 
 QTEST_GUILESS_MAIN(LauncherTest)

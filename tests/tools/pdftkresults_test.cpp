@@ -31,7 +31,6 @@ private slots:
     void damagedInputsAreRefused_data();
     void damagedInputsAreRefused();
     void deepNestingIsASentence();
-    void pagesAreNotHeldInMemory();
 
 private:
     QString file(const QString &name) const { return m_folder.filePath(name); }
@@ -382,33 +381,6 @@ void PdftkResultsTest::deepNestingIsASentence()
     QVERIFY2(result.errors.startsWith("pdftk: cannot read 'deep.pdf': "),
              result.errors.constData());
     QCOMPARE(contentOf(file(u"o.pdf"_s)), QByteArray("older"));
-}
-
-// 100 MB of them, with 64 MiB to work in.
-void PdftkResultsTest::pagesAreNotHeldInMemory()
-{
-    const QByteArray page(1'000'000, 'x');
-    QByteArray content = "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n";
-    QByteArray kids;
-    constexpr int pages = 100;
-    for (int i = 0; i < pages; ++i) {
-        const QByteArray number = QByteArray::number(3 + 2 * i);
-        kids += number + " 0 R ";
-        content += number + " 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Contents " +
-                   QByteArray::number(4 + 2 * i) + " 0 R >>\nendobj\n" +
-                   QByteArray::number(4 + 2 * i) + " 0 obj\n<< /Length 1000000 >>\nstream\n" +
-                   page + "\nendstream\nendobj\n";
-    }
-    content += "2 0 obj\n<< /Type /Pages /Count 100 /Kids [ " + kids +
-               "] >>\nendobj\ntrailer\n<< /Root 1 0 R /Size 203 >>\n";
-    writeContent(file(u"text"_s), content);
-    printed(u"qpdf"_s, {u"--warning-exit-0"_s, u"--no-warn"_s, u"--stream-data=preserve"_s,
-                        u"text"_s, u"big.pdf"_s});
-    const RunResult result = runInShell(
-        u"ulimit -d 65536"_s, bundledTool(u"pdftk"_s),
-        {u"big.pdf"_s, u"output"_s, u"o.pdf"_s, u"user_pw"_s, u"use"_s}, m_folder.path());
-    QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(readPdf(file(u"o.pdf"_s), "use").pages, pages);
 }
 
 QTEST_GUILESS_MAIN(PdftkResultsTest)
