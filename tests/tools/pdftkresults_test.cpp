@@ -1,14 +1,11 @@
-// The PDFs of our pdftk: the same as those of the real one, everything else kept, and none from an
-// input that is damaged or protected.
+// The PDFs of our pdftk: the same as those of the real one, and everything else kept.
 
 #include "pdffacts.h"
+#include "sampledocument.h"
 #include "toolbench.h"
 
 #include <QRegularExpression>
 #include <QTest>
-
-#include <sys/resource.h>
-#include <sys/wait.h>
 
 using namespace Qt::StringLiterals;
 
@@ -26,11 +23,6 @@ private slots:
     void everythingElseIsKept_data();
     void everythingElseIsKept();
     void encryptionIsAes256();
-    void protectedInputsAreRefused_data();
-    void protectedInputsAreRefused();
-    void damagedInputsAreRefused_data();
-    void damagedInputsAreRefused();
-    void deepNestingIsASentence();
 
 private:
     QString file(const QString &name) const { return m_folder.filePath(name); }
@@ -42,60 +34,6 @@ private:
 };
 
 namespace {
-
-// A document with everything that a finished PDF has to keep. qpdf writes its cross-references.
-const QByteArray document = R"(%PDF-1.4
-1 0 obj
-<< /Type /Catalog /Pages 2 0 R /Metadata 5 0 R /Outlines 8 0 R
-   /Names << /EmbeddedFiles << /Names [(a.txt) 6 0 R] >> >>
-   /AcroForm << /Fields [12 0 R] >> >>
-endobj
-2 0 obj
-<< /Type /Pages /Kids [3 0 R 11 0 R] /Count 2 /MediaBox [0 0 200 300] >>
-endobj
-3 0 obj
-<< /Type /Page /Parent 2 0 R /Contents 4 0 R /CropBox [1 2 100 200] /Annots [12 0 R] >>
-endobj
-4 0 obj
-<< /Length 22 >>
-stream
-1 0 0 rg 9 9 70 90 re f
-endstream
-endobj
-5 0 obj
-<< /Type /Metadata /Subtype /XML /Length 41 >>
-stream
-<x:xmpmeta xmlns:x="adobe:ns:meta/"/>    
-endstream
-endobj
-6 0 obj
-<< /Type /Filespec /F (a.txt) /EF << /F 7 0 R >> >>
-endobj
-7 0 obj
-<< /Type /EmbeddedFile /Length 5 >>
-stream
-hello
-endstream
-endobj
-8 0 obj
-<< /Type /Outlines /First 9 0 R /Last 9 0 R /Count 1 >>
-endobj
-9 0 obj
-<< /Title (chapter) /Parent 8 0 R /Dest [3 0 R /Fit] >>
-endobj
-10 0 obj
-<< /Title (Older) /Author (Writer) /Producer (Maker) /Creator (Program) /Custom (own)
-   /CreationDate (D:20200101000000Z) /ModDate (D:20200102000000Z) >>
-endobj
-11 0 obj
-<< /Type /Page /Parent 2 0 R /Rotate 90 >>
-endobj
-12 0 obj
-<< /Type /Annot /Subtype /Widget /FT /Tx /T (field) /V (value) /Rect [10 10 60 20] /P 3 0 R >>
-endobj
-trailer
-<< /Root 1 0 R /Info 10 0 R /Size 13 >>
-)";
 
 const QStringList permissionWords = {u"printing"_s, u"modifycontents"_s, u"copycontents"_s,
                                      u"modifyannotations"_s};
@@ -148,13 +86,7 @@ QByteArray PdftkResultsTest::printed(const QString &program, const QStringList &
 
 void PdftkResultsTest::initTestCase()
 {
-    writeContent(file(u"text"_s), document);
-    const QStringList rebuilding = {u"--warning-exit-0"_s, u"--no-warn"_s,
-                                    u"--stream-data=preserve"_s};
-    QCOMPARE(runProgram(u"/usr/bin/qpdf"_s, rebuilding + QStringList{u"text"_s, u"in.pdf"_s},
-                        m_folder.path())
-                 .status,
-             0);
+    makeSampleDocument(file(u"in.pdf"_s));
     QCOMPARE(printed(u"qpdf"_s, {u"--show-npages"_s, u"in.pdf"_s}), QByteArray("2\n"));
     qInfo().noquote() << real({u"--version"_s}).output.trimmed().split('\n').first();
 }
@@ -286,101 +218,6 @@ void PdftkResultsTest::encryptionIsAes256()
         QCOMPARE(report.count("AESv3"), 3);
         QVERIFY(!content.contains("chapter") && !content.contains("hello"));
     }
-}
-
-void PdftkResultsTest::protectedInputsAreRefused_data()
-{
-    QTest::addColumn<QStringList>("encryption");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("a password to open it") << QStringList{u"use"_s, u"own"_s, u"256"_s} << false;
-    QTest::newRow("an owner password, and not all is allowed")
-        << QStringList{u""_s, u"own"_s, u"256"_s, u"--print=none"_s} << false;
-    QTest::newRow("an owner password, and assembling is not allowed")
-        << QStringList{u""_s, u"own"_s, u"256"_s, u"--assemble=n"_s} << false;
-    QTest::newRow("an owner password, and all is allowed")
-        << QStringList{u""_s, u"own"_s, u"256"_s} << true;
-    QTest::newRow("no password at all, and not all is allowed")
-        << QStringList{u""_s, u""_s, u"256"_s, u"--print=none"_s, u"--allow-insecure"_s} << true;
-}
-
-void PdftkResultsTest::protectedInputsAreRefused()
-{
-    QFETCH(QStringList, encryption);
-    QFETCH(bool, accepted);
-    QFile::remove(file(u"o.pdf"_s));
-    QCOMPARE(runProgram(u"/usr/bin/qpdf"_s,
-                        QStringList{u"--encrypt"_s} + encryption +
-                            QStringList{u"--"_s, u"in.pdf"_s, u"locked.pdf"_s},
-                        m_folder.path())
-                 .status,
-             0);
-    const RunResult result = ours({u"output"_s, u"o.pdf"_s}, u"locked.pdf"_s);
-    QCOMPARE(result.status, accepted ? 0 : 1);
-    QCOMPARE(result.errors.count('\n'), accepted ? 0 : 1);
-    QVERIFY2(accepted || result.errors.contains("locked.pdf"), result.errors.constData());
-    QCOMPARE(readPdf(file(u"o.pdf"_s)).pages, accepted ? 2 : -1);
-    QVERIFY(!readPdf(file(u"o.pdf"_s)).encrypted);
-}
-
-void PdftkResultsTest::damagedInputsAreRefused_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    const QByteArray whole = contentOf(file(u"in.pdf"_s));
-    const auto changed = [&whole](const QByteArray &from, const QByteArray &to) {
-        if (from.size() != to.size() || whole.count(from) != 1)
-            qFatal("cannot damage %s", from.constData());
-        return QByteArray(whole).replace(from, to);
-    };
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no PDF") << QByteArray(5000, 'x');
-    QTest::newRow("cut in the middle") << whole.left(whole.size() / 2);
-    QTest::newRow("cut before the end") << whole.left(whole.size() - 60);
-    QTest::newRow("without cross-references") << changed("\nxref\n", "\nxxxx\n");
-    QTest::newRow("another number of pages") << changed("/Count 2", "/Count 3");
-    QTest::newRow("a stream without an end") << changed("re f\nendstream", "re f\nendstre  ");
-    QTest::newRow("a page that is no object")
-        << changed("/Rotate 90 /Type /Page >>", "/Rotate 90 /Type /Page   ");
-}
-
-void PdftkResultsTest::damagedInputsAreRefused()
-{
-    QFETCH(QByteArray, content);
-    writeContent(file(u"damaged.pdf"_s), content);
-    writeContent(file(u"o.pdf"_s), "older");
-    const RunResult result = ours({u"output"_s, u"o.pdf"_s}, u"damaged.pdf"_s);
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors.count('\n'), 1);
-    QVERIFY2(result.errors.startsWith("pdftk: cannot read 'damaged.pdf': "),
-             result.errors.constData());
-    QCOMPARE(contentOf(file(u"o.pdf"_s)), QByteArray("older"));
-}
-
-// The length of each stream is another stream: more calls within calls than a stack holds.
-void PdftkResultsTest::deepNestingIsASentence()
-{
-    constexpr int count = 50'000;
-    QByteArray content = "%PDF-1.4\n";
-    QByteArray table = "xref\n0 " + QByteArray::number(count + 1) + "\n0000000000 65535 f \n";
-    int number = 0;
-    const auto add = [&](const QByteArray &object) {
-        table += QByteArray::number(content.size()).rightJustified(10, '0') + " 00000 n \n";
-        content += QByteArray::number(++number) + " 0 obj\n" + object + "\nendobj\n";
-    };
-    add("<< /Type /Catalog /Pages 2 0 R >>");
-    add("<< /Type /Pages /Count 1 /Kids [3 0 R] >>");
-    add("<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Contents 4 0 R >>");
-    while (number < count)
-        add("<< /Length " + QByteArray::number(number + 2) + " 0 R >>\nstream\n\nendstream");
-    const QByteArray end = "trailer\n<< /Root 1 0 R /Size " + QByteArray::number(count + 1) +
-                           " >>\nstartxref\n" + QByteArray::number(content.size()) + "\n%%EOF\n";
-    writeContent(file(u"deep.pdf"_s), content + table + end);
-    writeContent(file(u"o.pdf"_s), "older");
-    const RunResult result = ours({u"output"_s, u"o.pdf"_s}, u"deep.pdf"_s);
-    QCOMPARE(result.status, 1);
-    QCOMPARE(result.errors.count('\n'), 1);
-    QVERIFY2(result.errors.startsWith("pdftk: cannot read 'deep.pdf': "),
-             result.errors.constData());
-    QCOMPARE(contentOf(file(u"o.pdf"_s)), QByteArray("older"));
 }
 
 QTEST_GUILESS_MAIN(PdftkResultsTest)
