@@ -257,6 +257,11 @@ void DamagedImagesTest::damageThatImageMagickReportsIsRefused_data()
         QTest::addRow("TIFF file with half of its field %d", tag)
             << "x.tif" << patched(tiff, placeOf(tiff, tag) + 4, 2) << QStringList{}
             << QByteArray("Incorrect count for \"") + table;
+    for (const auto &[tag, name] : {std::pair(quint16(TIFFTAG_XRESOLUTION), "XResolution"),
+                                    std::pair(quint16(TIFFTAG_YRESOLUTION), "YResolution")})
+        QTest::addRow("TIFF file without its %s", name)
+            << "x.tif" << withField(imagefiles::tiff({.x = 300, .y = 300}), tag, 1'000'000)
+            << QStringList{} << "IO error during reading of \"" + QByteArray(name);
     QTest::newRow("run of bytes longer than its strip")
         << "x.tif" << withHalfOverwritten(runs, '\x81') << QStringList{}
         << QByteArray("to avoid buffer overrun");

@@ -48,15 +48,26 @@ QByteArray sharingTiff(quint32 directories, quint32 strips)
     const auto field = [](quint32 tag, quint32 count, quint32 value) {
         return little(tag, 2) + little(4, 2) + little(count, 4) + little(value, 4);
     };
-    const QByteArray fields =
-        field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) + field(279, strips, 8);
+    const QByteArray fields = field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) +
+                              field(278, 1, 1) + field(279, strips, 8);
     const auto size = static_cast<quint32>(2 + fields.size() + 4);
     QByteArray file =
         QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
     for (quint32 directory = 1; directory <= directories; ++directory)
-        file += little(4, 2) + fields +
+        file += little(5, 2) + fields +
                 little(directory == directories ? 0 : first + directory * size, 4);
     return file;
+}
+
+// Its only page follows its text.
+QByteArray tiffWithText(quint32 length)
+{
+    TiffForm form;
+    form.description = "text";
+    QByteArray file = tiff(form);
+    const QByteArray field = little(270, 2) + little(2, 2);
+    file.replace(file.indexOf(field + little(5, 4)) + 4, 8, little(length, 4) + little(8, 4));
+    return file + QByteArray(length, ' ');
 }
 
 // The same part of a profile again and again.
@@ -111,7 +122,10 @@ void ToolMemoryTest::hostileTableTakesLittleMemory_data()
     const QByteArray long100(100 * megabyte, '\0');
     QTest::newRow("TIFF directories that share a table")
         << sharingTiff(4'000, 500'000) << QByteArray("tables of the TIFF file overlap\n");
-    QTest::newRow("TIFF directory of 20 million strips") << sharingTiff(1, 20'000'000) << converted;
+    QTest::newRow("TIFF directory of 20 million strips")
+        << sharingTiff(1, 20'000'000)
+        << QByteArray("a directory of the TIFF file cannot be read\n");
+    QTest::newRow("TIFF with a text of 100 MB") << tiffWithText(100 * megabyte) << converted;
     QTest::newRow("JPEG with one part of a profile 1,500 times")
         << jpegOfProfileParts(1'500) << converted;
     QTest::newRow("JPEG in five million pieces") << jpegOfPieces(5'000'000) << converted;

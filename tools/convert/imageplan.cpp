@@ -52,7 +52,7 @@ ImagePlan readPng(Source &source)
 
 ImagePlan readTiff(Source &source)
 {
-    TiffImage image = readTiffImage(source.bytes, source.file, source.mayCopy, source.spool);
+    TiffImage image = readTiffImage(source.file, source.mayCopy, source.spool);
     if (!image.copied.empty())
         return CopiedImage{std::move(image.copied)};
     return ConvertedImage{ImageKind::Tiff, image.pages};

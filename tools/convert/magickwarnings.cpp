@@ -26,6 +26,8 @@ constexpr std::array damage = {
     // libtiff's. Not those of a bad row of a fax: decoding goes on at the next one, and whether
     // rows are missing is looked at before (group4.h).
     "Premature EOF"sv,
+    "IO error during reading of \"XResolution"sv,
+    "IO error during reading of \"YResolution"sv,
     "Incorrect count for \"Strip"sv,
     "Incorrect count for \"Tile"sv,
     "to avoid buffer overrun"sv,

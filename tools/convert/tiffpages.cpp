@@ -2,8 +2,9 @@
 
 #include "density.h"
 #include "error.h"
+#include "filebytes.h"
 #include "group4.h"
-#include "tiffdirectory.h"
+#include "tifffile.h"
 
 #include <algorithm>
 #include <array>
@@ -13,43 +14,140 @@
 
 namespace {
 
-constexpr std::uint64_t group4 = 4;
-constexpr std::uint64_t zeroIsWhite = 0;
-constexpr std::uint64_t zeroIsBlack = 1;
-constexpr std::uint64_t pageOfSeveral = 2;
-constexpr std::uint64_t lowestBitFirst = 2;
+// What libtiff reads most fields into.
+using Short = std::uint16_t;
+using Long = std::uint32_t;
 
-bool isSide(std::uint64_t pixels)
+struct Directory
 {
-    return pixels > 0 && pixels <= maxSide;
+    std::uint64_t offset = 0;
+    /// One bit in Group 3 or 4, in strips.
+    bool isFax = false;
+    /// If it can be copied; without extents its strips have to become one.
+    std::optional<CopyablePage> page;
+    /// Group 4 data that ends as it has to is not decoded.
+    bool endsWithMark = false;
+};
+
+struct Field
+{
+    std::uint64_t tag = 0;
+    std::uint64_t count = 0;
+};
+
+// The fields of the current directory, which libtiff cannot list: it passes over some without a
+// word, reads no more of a table than it needs, and takes a directory whose end is cut off for the
+// last one (4.5). Throws ToolError when the directory does not lie inside the file.
+std::vector<Field> fieldsOf(const TiffFile &tiff)
+{
+    const bool isBigEndian = TIFFIsBigEndian(tiff.get()) != 0;
+    const auto number = [isBigEndian](std::string bytes) {
+        if (!isBigEndian)
+            std::ranges::reverse(bytes);
+        std::uint64_t value = 0;
+        for (const char byte : bytes)
+            value = value << 8U | static_cast<unsigned char>(byte);
+        return value;
+    };
+    const bool isBig = TIFFIsBigTIFF(tiff.get()) != 0;
+    const std::size_t countSize = isBig ? 8 : 2;
+    const std::size_t numberSize = isBig ? 8 : 4;
+    const std::size_t fieldSize = 4 + 2 * numberSize;
+    const std::uint64_t start = TIFFCurrentDirOffset(tiff.get());
+    const std::size_t size = number(tiff.read(start, countSize)) * fieldSize + numberSize;
+    const std::string bytes = tiff.read(start + countSize, size);
+    if (bytes.size() < size)
+        throw ToolError("the image is incomplete: the TIFF file ends inside a directory");
+    std::vector<Field> fields;
+    for (std::size_t at = 0; at + fieldSize <= size; at += fieldSize)
+        fields.push_back({number(bytes.substr(at, 2)), number(bytes.substr(at + 4, numberSize))});
+    return fields;
 }
 
-bool isCopyable(const TiffDirectory &page)
+// Whether nothing but these fields makes the page. Of all but the strips libtiff checks the count.
+bool areKnown(const std::vector<Field> &fields, std::uint64_t strips)
 {
-    const std::uint64_t rows = std::min(page.rowsPerStrip, page.height);
-    return !page.doubtful && !page.tiled && page.compression == group4 && page.bits == 1 &&
-           page.samples == 1 && page.group4Options == 0 && page.planarConfiguration == 1 &&
-           (page.photometric == zeroIsWhite || page.photometric == zeroIsBlack) &&
-           (page.fillOrder == 1 || page.fillOrder == lowestBitFirst) && page.orientation >= 1 &&
-           page.orientation <= 8 && (page.subfileType == 0 || page.subfileType == pageOfSeveral) &&
-           page.resolutionUnit >= 1 && page.resolutionUnit <= 3 && isSide(page.width) &&
-           isSide(page.height) && rows > 0 && page.strips == (page.height + rows - 1) / rows &&
-           !page.hasEmptyStrip;
+    // Those read here, and then what ImageMagick makes no page from: thresholding, names,
+    // descriptions, least and greatest sample, date, page number, copyright and the like.
+    constexpr std::array<Short, 33> known = {
+        254, 256, 257, 258, 259, 262, 266, 273, 274, 277, 278, 279, 282, 283, 284, 293,  296,
+        263, 264, 265, 269, 270, 271, 272, 280, 281, 297, 305, 306, 315, 316, 326, 33432};
+    return std::ranges::all_of(fields, [&known, strips](const Field &field) {
+        const bool isTable =
+            field.tag == TIFFTAG_STRIPOFFSETS || field.tag == TIFFTAG_STRIPBYTECOUNTS;
+        return std::ranges::find(known, field.tag) != known.end() &&
+               (!isTable || field.count == strips);
+    });
 }
 
-Density densityOf(const TiffDirectory &page)
+Extent stripOf(const TiffFile &tiff, Long strip)
+{
+    return {TIFFGetStrileOffset(tiff.get(), strip), TIFFGetStrileByteCount(tiff.get(), strip)};
+}
+
+Long stripsOf(const TiffFile &tiff)
+{
+    return TIFFIsTiled(tiff.get()) != 0 ? TIFFNumberOfTiles(tiff.get())
+                                        : TIFFNumberOfStrips(tiff.get());
+}
+
+// Whether each strip holds data. Throws ToolError when one does not lie inside the file; not of the
+// old form of JPEG, which has fields of its own for its data.
+bool holdsData(const TiffFile &tiff)
+{
+    const bool isOldJpeg = tiff.value<Short>(TIFFTAG_COMPRESSION) == COMPRESSION_OJPEG;
+    bool isFilled = true;
+    for (Long strip = 0; strip < stripsOf(tiff); ++strip) {
+        const Extent extent = stripOf(tiff, strip);
+        const bool isInside =
+            extent.offset <= tiff.size() && extent.length <= tiff.size() - extent.offset;
+        if (!isInside && !isOldJpeg)
+            throw ToolError(
+                "the image is incomplete: a strip of the TIFF file lies beyond its end");
+        isFilled &= extent.length > 0;
+    }
+    return isFilled;
+}
+
+bool isFax(const TiffFile &tiff)
+{
+    constexpr std::array<Short, 3> compressions = {COMPRESSION_CCITTRLE, COMPRESSION_CCITTFAX3,
+                                                   COMPRESSION_CCITTFAX4};
+    const auto isSide = [&tiff](Long tag) {
+        const auto pixels = tiff.value<Long>(tag);
+        return pixels > 0 && pixels <= maxSide;
+    };
+    return std::ranges::find(compressions, tiff.value<Short>(TIFFTAG_COMPRESSION)) !=
+               compressions.end() &&
+           TIFFIsTiled(tiff.get()) == 0 && isSide(TIFFTAG_IMAGEWIDTH) &&
+           isSide(TIFFTAG_IMAGELENGTH) && tiff.value<Short>(TIFFTAG_BITSPERSAMPLE) == 1 &&
+           tiff.value<Short>(TIFFTAG_SAMPLESPERPIXEL) == 1;
+}
+
+bool isCopyable(const TiffFile &tiff)
+{
+    const auto photometric = tiff.value<Short>(TIFFTAG_PHOTOMETRIC, UINT16_MAX);
+    const auto subfileType = tiff.value<Long>(TIFFTAG_SUBFILETYPE);
+    return isFax(tiff) && tiff.value<Short>(TIFFTAG_COMPRESSION) == COMPRESSION_CCITTFAX4 &&
+           tiff.value<Long>(TIFFTAG_GROUP4OPTIONS) == 0 &&
+           tiff.value<Short>(TIFFTAG_PLANARCONFIG) == PLANARCONFIG_CONTIG &&
+           (photometric == PHOTOMETRIC_MINISWHITE || photometric == PHOTOMETRIC_MINISBLACK) &&
+           (subfileType == 0 || subfileType == FILETYPE_PAGE);
+}
+
+Density densityOf(const TiffFile &tiff)
 {
     constexpr std::array units = {Density::Unit::None, Density::Unit::Inch,
                                   Density::Unit::Centimetre};
-    return {page.xResolution, page.yResolution,
-            units[static_cast<std::size_t>(page.resolutionUnit - 1)]};
+    return {tiff.value<float>(TIFFTAG_XRESOLUTION), tiff.value<float>(TIFFTAG_YRESOLUTION),
+            units.at(tiff.value<Short>(TIFFTAG_RESOLUTIONUNIT) - 1U)};
 }
 
-CopyablePage pageOf(const TiffDirectory &directory)
+CopyablePage pageOf(const TiffFile &tiff)
 {
     CopyablePage page;
-    page.width = static_cast<std::uint32_t>(directory.width);
-    page.height = static_cast<std::uint32_t>(directory.height);
+    page.width = tiff.value<Long>(TIFFTAG_IMAGEWIDTH);
+    page.height = tiff.value<Long>(TIFFTAG_IMAGELENGTH);
     page.bitsPerComponent = 1;
     page.components = 1;
     page.filter = "CCITTFaxDecode";
@@ -58,63 +156,77 @@ CopyablePage pageOf(const TiffDirectory &directory)
                         {"/Columns", std::to_string(page.width)},
                         {"/Rows", std::to_string(page.height)},
                         {"/EndOfBlock", "false"}};
-    page.inverted = directory.photometric == zeroIsBlack;
-    page.orientation = static_cast<int>(directory.orientation);
-    setPageSize(page, densityOf(directory));
+    page.inverted = tiff.value<Short>(TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_MINISBLACK;
+    page.orientation = tiff.value<Short>(TIFFTAG_ORIENTATION);
+    setPageSize(page, densityOf(tiff));
+    if (stripsOf(tiff) == 1 && tiff.value<Short>(TIFFTAG_FILLORDER) == FILLORDER_MSB2LSB)
+        page.extents = {stripOf(tiff, 0)};
     return page;
 }
 
-constexpr std::array<std::uint64_t, 3> faxCompressions = {2, 3, group4};
-
-bool isFax(const TiffDirectory &page)
-{
-    return std::ranges::find(faxCompressions, page.compression) != faxCompressions.end() &&
-           !page.tiled && isSide(page.width) && isSide(page.height) && page.bits == 1 &&
-           page.samples == 1;
-}
-
-// Group 4 data that ends as it has to is not decoded.
-bool endsWithMark(FileBytes &bytes, const Extent &strip)
+bool endsWithMark(const TiffFile &tiff, const Extent &strip)
 {
     constexpr std::uint64_t mark = 0x001001;
     std::uint64_t end = 0;
-    bytes.seek(strip.offset + strip.length - std::min<std::uint64_t>(strip.length, sizeof end));
-    for (const char byte : bytes.read(sizeof end))
+    const std::uint64_t size = std::min<std::uint64_t>(strip.length, sizeof end);
+    for (const char byte : tiff.read(strip.offset + strip.length - size, size))
         end = end << 8U | static_cast<unsigned char>(byte);
     return end != 0 && (end >> std::countr_zero(end) & 0xFFFFFFU) == mark;
 }
 
-void requireWhole(const TiffDirectory &page, int file)
+// The directories of the pages in their order.
+std::vector<Directory> directoriesOf(int file, bool mayCopy)
+{
+    constexpr std::size_t maxDirectories = 65535;
+    TiffFile tiff(file);
+    std::vector<Directory> directories;
+    std::uint64_t strips = 0;
+    while (directories.size() < maxDirectories && tiff.readNext()) {
+        requireNoSignal();
+        strips += stripsOf(tiff);
+        if (strips > tiff.size())
+            throw ToolError("the image is damaged: tables of the TIFF file overlap");
+        const bool isPlain = areKnown(fieldsOf(tiff), stripsOf(tiff));
+        const bool isSound = holdsData(tiff) && !tiff.takeReport();
+        Directory &directory = directories.emplace_back();
+        directory.offset = TIFFCurrentDirOffset(tiff.get());
+        directory.isFax = isFax(tiff);
+        if (mayCopy && isPlain && isSound && isCopyable(tiff)) {
+            directory.page = pageOf(tiff);
+            directory.endsWithMark = !directory.page->extents.empty() &&
+                                     endsWithMark(tiff, directory.page->extents.front());
+        }
+    }
+    if (directories.empty())
+        throw ToolError("the image is damaged: the TIFF file holds no page");
+    // They form a loop, or are too many.
+    if (TIFFLastDirectory(tiff.get()) == 0)
+        directories.back().page.reset();
+    return directories;
+}
+
+void requireWhole(const Directory &directory, int file)
 {
     // The pages of a long fax take seconds together.
     requireNoSignal();
-    if (isFax(page) && !isWholeFax(file, page.offset))
+    if (directory.isFax && !isWholeFax(file, directory.offset))
         throw ToolError("the image is damaged: rows of a fax are missing");
 }
 
-std::optional<std::vector<Extent>> dataOf(const TiffDirectory &directory, FileBytes &bytes,
-                                          int file, Spool &spool)
-{
-    if (directory.strips == 1 && directory.fillOrder != lowestBitFirst) {
-        if (!endsWithMark(bytes, directory.firstStrip))
-            requireWhole(directory, file);
-        return std::vector<Extent>{directory.firstStrip};
-    }
-    const std::optional<std::string> strip = asOneStrip(file, directory.offset);
-    return strip ? std::optional(std::vector<Extent>{spool.add(*strip)}) : std::nullopt;
-}
-
-// Empty when libtiff finds fault with a page.
-std::vector<CopyablePage> copiedPages(const std::vector<TiffDirectory> &directories,
-                                      FileBytes &bytes, int file, Spool &spool)
+// Empty when one of the pages cannot be copied.
+std::vector<CopyablePage> copiedPages(std::vector<Directory> &directories, int file, Spool &spool)
 {
     std::vector<CopyablePage> pages;
-    for (const TiffDirectory &directory : directories) {
-        CopyablePage page = pageOf(directory);
-        std::optional<std::vector<Extent>> data = dataOf(directory, bytes, file, spool);
-        if (!data)
-            return {};
-        page.extents = std::move(*data);
+    for (Directory &directory : directories) {
+        CopyablePage &page = *directory.page;
+        if (page.extents.empty()) {
+            const std::optional<std::string> strip = asOneStrip(file, directory.offset);
+            if (!strip)
+                return {};
+            page.extents = {spool.add(*strip)};
+        } else if (!directory.endsWithMark) {
+            requireWhole(directory, file);
+        }
         pages.push_back(std::move(page));
     }
     return pages;
@@ -122,14 +234,14 @@ std::vector<CopyablePage> copiedPages(const std::vector<TiffDirectory> &director
 
 } // namespace
 
-TiffImage readTiffImage(FileBytes &bytes, int file, bool mayCopy, Spool &spool)
+TiffImage readTiffImage(int file, bool mayCopy, Spool &spool)
 {
-    const std::vector<TiffDirectory> directories = tiffDirectories(bytes);
+    std::vector<Directory> directories = directoriesOf(file, mayCopy);
     TiffImage image = {directories.size(), {}};
-    if (mayCopy && std::ranges::all_of(directories, isCopyable))
-        image.copied = copiedPages(directories, bytes, file, spool);
+    if (std::ranges::all_of(directories, [](const auto &each) { return each.page.has_value(); }))
+        image.copied = copiedPages(directories, file, spool);
     if (image.copied.empty()) {
-        for (const TiffDirectory &directory : directories)
+        for (const Directory &directory : directories)
             requireWhole(directory, file);
     }
     return image;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "copyablepage.h"
-#include "filebytes.h"
 #include "spool.h"
 
 #include <cstddef>
@@ -15,7 +14,6 @@ struct TiffImage
     std::vector<CopyablePage> copied;
 };
 
-/// Reads the TIFF file `bytes`, which is also the descriptor `file`. Pages are copied only if
-/// `mayCopy`, as strips may have to be decoded for that. Throws ToolError when the file is
-/// incomplete, in any case.
-TiffImage readTiffImage(FileBytes &bytes, int file, bool mayCopy, Spool &spool);
+/// Reads the TIFF file in the descriptor `file`. Pages are copied only if `mayCopy`, as strips may
+/// have to be decoded for that. Throws ToolError when the file is incomplete, in any case.
+TiffImage readTiffImage(int file, bool mayCopy, Spool &spool);
