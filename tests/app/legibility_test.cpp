@@ -1,6 +1,7 @@
 // No text is cut off or overlaps another: in English in the fonts of a stock Debian desktop, at
 // the usual size and at 125 percent, and in every language in the fonts that desktops start with.
 
+#include "layouttable.h"
 #include "translation.h"
 #include "windowfixture.h"
 
@@ -36,6 +37,7 @@ private slots:
     void textsStayLegible();
     void everyLetterHasAPicture_data();
     void everyLetterHasAPicture();
+    void translatedCaptionsGrowInWidthAlone();
 
 private:
     static void addFonts();
@@ -272,6 +274,22 @@ void LegibilityTest::everyLetterHasAPicture()
                 QVERIFY2(!run.glyphIndexes().contains(0), qPrintable(text));
         }
     }
+}
+
+void LegibilityTest::translatedCaptionsGrowInWidthAlone()
+{
+    installTranslators(*qApp, u"de"_s);
+    WindowFixture fixture;
+    int captions = 0;
+    for (const LayoutRow &row : layoutTable) {
+        if (row.geometry.isEmpty() || !QByteArray(row.settings).contains("AlignRight"))
+            continue;
+        const QRect place = fixture.find<QWidget>(row.name)->geometry();
+        QVERIFY2(place.contains(row.geometry), row.name);
+        QCOMPARE(place.height(), row.geometry.height());
+        ++captions;
+    }
+    QVERIFY(captions > 0);
 }
 
 QTEST_MAIN(LegibilityTest)

@@ -108,6 +108,9 @@ void ConvertRulesTest::otherCallsAreRefused_data()
     QTest::newRow("a size that is no box") << Words{"-resize", "50%", "/a", "o.pdf"};
     QTest::newRow("a size with more in it") << Words{"-resize", "9x9!", "/a", "o.pdf"};
     QTest::newRow("a size of nothing") << Words{"-resize", "0x9", "/a", "o.pdf"};
+    QTest::newRow("another sign in a size") << Words{"-resize", "595*842", "/a", "o.pdf"};
+    QTest::newRow("no height in a size") << Words{"-resize", "595", "/a", "o.pdf"};
+    QTest::newRow("an empty compression") << Words{"-compress", "", "/a", "o.pdf"};
     QTest::newRow("an unknown compression") << Words{"-compress", "WebP", "/a", "o.pdf"};
     QTest::newRow("an empty path") << Words{"", "o.pdf"};
     QTest::newRow("the standard input") << Words{"-", "o.pdf"};

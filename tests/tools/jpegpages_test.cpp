@@ -119,6 +119,7 @@ void JpegPagesTest::isCopiedOrLeftToImageMagick_data()
         true);
     row("another image behind the first", jpeg({}, colour) + jpeg({}, colour), true);
     row("stray bytes before a marker", jpeg({"stray"}, colour), false);
+    row("a stray restart marker", jpeg({"\xFF\xD0"}, colour), false);
     row("application data behind a scan", jpeg({}, afterScan(segment(0xE1, "x"))), false);
     row("two JFIF segments", jpeg({jfif(1, 72, 72), jfif(1, 96, 96)}, colour), false);
     row("two EXIF segments", jpeg({exif({72, 72, 2}), exif({96, 96, 2})}, colour), false);
