@@ -115,6 +115,10 @@ void JpegPagesTest::isCopiedOrLeftToImageMagick_data()
     row("progressive", jpeg({}, jpegBody(true, true)), true);
     row("fill bytes before a marker", jpeg({"\xFF\xFF\xFF"}, colour), true);
     row("restart interval", jpeg({segment(0xDD, big16(0))}, colour), true);
+    // What a comment parts is a piece of its own.
+    const QByteArray part = segment(0xFE, "x") + segment(0xDD, big16(0));
+    row("65,000 pieces", jpeg({part.repeated(65'000)}, colour), true);
+    row("65,600 pieces", jpeg({part.repeated(65'600)}, colour), false);
     row("comment between the scans' end and the image's", jpeg({}, afterScan(segment(0xFE, "x"))),
         true);
     row("another image behind the first", jpeg({}, colour) + jpeg({}, colour), true);
@@ -124,6 +128,8 @@ void JpegPagesTest::isCopiedOrLeftToImageMagick_data()
     row("two JFIF segments", jpeg({jfif(1, 72, 72), jfif(1, 96, 96)}, colour), false);
     row("two EXIF segments", jpeg({exif({72, 72, 2}), exif({96, 96, 2})}, colour), false);
     row("EXIF in small letters", jpeg({segment(0xE1, QByteArray("exif\0\0MM\0*", 10))}, colour),
+        false);
+    row("EXIF by a longer name", jpeg({segment(0xE1, QByteArray("Exifs\0MM\0*", 10))}, colour),
         false);
     row("EXIF of no known byte order",
         jpeg({segment(0xE1, QByteArray("Exif\0\0XX\0*", 10))}, colour), false);
