@@ -2,6 +2,7 @@
 
 #include "imagefiles.h"
 #include "pdfpages.h"
+#include "tifffields.h"
 #include "toolbench.h"
 
 #include <QImage>
@@ -134,42 +135,6 @@ QByteArray tiffFile(const TiffForm &form)
     }
     TIFFClose(tiff);
     return file.readAll();
-}
-
-// Where the field `tag` of the page stands.
-qsizetype placeOf(const QByteArray &tiff, quint16 tag, int page = 0)
-{
-    quint32 directory = qFromLittleEndian<quint32>(tiff.constData() + 4);
-    for (;; --page) {
-        const qsizetype entries = qFromLittleEndian<quint16>(tiff.constData() + directory);
-        for (qsizetype place = directory + 2; place < directory + 2 + 12 * entries; place += 12) {
-            if (page == 0 && qFromLittleEndian<quint16>(tiff.constData() + place) == tag)
-                return place;
-        }
-        directory = qFromLittleEndian<quint32>(tiff.constData() + directory + 2 + 12 * entries);
-    }
-}
-
-QByteArray patched(QByteArray file, qsizetype place, quint32 number)
-{
-    qToLittleEndian(number, file.data() + place);
-    return file;
-}
-
-quint32 numberAt(const QByteArray &file, qsizetype place)
-{
-    return qFromLittleEndian<quint32>(file.constData() + place);
-}
-
-// With another number in the field, which holds just one.
-QByteArray withField(const QByteArray &tiff, quint16 tag, quint32 number, int page = 0)
-{
-    return patched(tiff, placeOf(tiff, tag, page) + 8, number);
-}
-
-quint32 fieldOf(const QByteArray &tiff, quint16 tag, int page = 0)
-{
-    return numberAt(tiff, placeOf(tiff, tag, page) + 8);
 }
 
 QByteArray withHalfOfItsData(const QByteArray &tiff, int page = 0)
