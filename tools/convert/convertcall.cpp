@@ -52,47 +52,52 @@ std::string lowerCase(std::string word)
     return word;
 }
 
+// Each adds the value `word` of an option, or returns nothing when it is none.
+using Options = std::optional<ConvertOptions>;
+
 // "595x842" and nothing else.
-bool parseResize(const std::string &word, ConvertOptions &options)
+Options withResize(ConvertOptions options, const std::string &word)
 {
     PixelSize &box = options.resize.emplace();
     const char *end = word.data() + word.size();
     const auto [middle, widthError] = std::from_chars(word.data(), end, box.width);
     if (widthError != std::errc() || middle == end || *middle != 'x')
-        return false;
+        return std::nullopt;
     const auto [last, heightError] = std::from_chars(middle + 1, end, box.height);
-    return heightError == std::errc() && last == end && box.width > 0 && box.height > 0;
+    const bool isBox = heightError == std::errc() && last == end && box.width > 0 && box.height > 0;
+    return isBox ? Options(options) : std::nullopt;
 }
 
-// A decimal number, which may have a sign: the user can type it.
-bool parseRotate(const std::string &word, ConvertOptions &options)
+// A decimal number, which may have a sign: a person may type it into the application's box.
+Options withRotate(ConvertOptions options, const std::string &word)
 {
     const size_t sign = word.starts_with('-') || word.starts_with('+') ? 1 : 0;
     const char *end = word.data() + word.size();
     double degrees = 0;
     const auto [last, error] = std::from_chars(word.data() + sign, end, degrees);
     options.rotate = word;
-    return error == std::errc() && last == end &&
-           word.find_first_not_of("0123456789.", sign) == std::string::npos;
+    const bool isNumber = error == std::errc() && last == end &&
+                          word.find_first_not_of("0123456789.", sign) == std::string::npos;
+    return isNumber ? Options(options) : std::nullopt;
 }
 
-bool parseCompress(const std::string &word, ConvertOptions &options)
+Options withCompress(ConvertOptions options, const std::string &word)
 {
     options.compress = word;
-    return compressionNamed(word) != nullptr;
+    return compressionNamed(word) ? Options(options) : std::nullopt;
 }
 
 // In the order in which the application puts them.
 struct ValueOption
 {
     std::string_view word;
-    bool (*parse)(const std::string &word, ConvertOptions &options);
+    Options (*with)(ConvertOptions options, const std::string &word);
 };
 
 constexpr std::array<ValueOption, 3> valueOptions = {{
-    {"-resize", parseResize},
-    {"-rotate", parseRotate},
-    {"-compress", parseCompress},
+    {"-resize", withResize},
+    {"-rotate", withRotate},
+    {"-compress", withCompress},
 }};
 
 } // namespace
@@ -115,8 +120,12 @@ std::optional<ConvertCall> parseConvertCall(const Words &arguments)
     for (const ValueOption &option : valueOptions) {
         if (word == arguments.end() || *word != option.word)
             continue;
-        if (++word == arguments.end() || !option.parse(*word++, call.options))
+        if (++word == arguments.end())
             return std::nullopt;
+        const Options options = option.with(call.options, *word++);
+        if (!options)
+            return std::nullopt;
+        call.options = *options;
     }
     call.options.monochrome = word != arguments.end() && *word == "-monochrome";
     word += call.options.monochrome ? 1 : 0;
