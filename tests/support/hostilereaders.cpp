@@ -2,6 +2,7 @@
 // these functions instead (--wrap). The file says what they know, a line
 // "NAME=value" each.
 
+#include "filebytes.h"
 #include "hostileattempts.h"
 #include "jpegpage.h"
 #include "pngpage.h"
@@ -28,8 +29,7 @@ namespace {
 
 JpegImage attackByJpeg(FileBytes &, Spool &) asm("__wrap__Z13readJpegImageR9FileBytesR5Spool");
 PngImage attackByPng(FileBytes &, Spool &) asm("__wrap__Z12readPngImageR9FileBytesR5Spool");
-TiffImage attackByTiff(FileBytes &, int, bool, Spool &) //
-    asm("__wrap__Z13readTiffImageR9FileBytesibR5Spool");
+TiffImage attackByTiff(int, bool, Spool &) asm("__wrap__Z13readTiffImageibR5Spool");
 
 JpegImage attackByJpeg(FileBytes &file, Spool &)
 {
@@ -41,7 +41,8 @@ PngImage attackByPng(FileBytes &file, Spool &)
     attack(file);
 }
 
-TiffImage attackByTiff(FileBytes &file, int, bool, Spool &)
+TiffImage attackByTiff(int file, bool, Spool &)
 {
-    attack(file);
+    FileBytes content(file);
+    attack(content);
 }
