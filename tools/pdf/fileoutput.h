@@ -6,9 +6,9 @@
 
 #include <string>
 
-/// Writes what libqpdf makes to a file. libqpdf's own way to a file takes no notice of a
-/// write that fails when a later one succeeds. It also writes in destructors, which must not throw:
-/// so a failure is reported by requireSuccess() alone.
+/// Writes what libqpdf makes to a file. libqpdf's own class for that ignores a write that fails
+/// when a later one succeeds. libqpdf also writes in destructors, which must not throw, so only
+/// requireSuccess() reports a failure.
 class FileOutput : public Pipeline
 {
 public:

@@ -20,8 +20,7 @@ public:
 
     /// Makes the file at `path` known as `name`, which no other input may have, to a tool that
     /// works in `folder`, and returns the word for its command line. Where no folder takes links,
-    /// the file is copied. Throws
-    /// ToolError when that fails too.
+    /// the file is copied. Throws ToolError when that fails too.
     std::string add(int folder, const std::string &path, const std::string &name);
 
     /// What a tool that succeeded wrote to its standard error, with the user's own paths. Throws
