@@ -104,9 +104,11 @@ struct TiffForm
     uint32_t rowsPerStrip = 200;
     int pages = 1;
     bool isBilevel = true;
+    /// In one tile that is a little larger than the page.
+    bool isTiled = false;
 };
 
-constexpr uint32_t tiffWidth = 200, tiffHeight = 200;
+constexpr uint32_t tiffWidth = 200, tiffHeight = 200, tileSide = 208;
 
 QByteArray tiffFile(const TiffForm &form)
 {
@@ -117,7 +119,12 @@ QByteArray tiffFile(const TiffForm &form)
     for (int page = 0; page < form.pages; ++page) {
         TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, tiffWidth);
         TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, tiffHeight);
-        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, form.rowsPerStrip);
+        if (form.isTiled) {
+            TIFFSetField(tiff, TIFFTAG_TILEWIDTH, tileSide);
+            TIFFSetField(tiff, TIFFTAG_TILELENGTH, tileSide);
+        } else {
+            TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, form.rowsPerStrip);
+        }
         TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, form.isBilevel ? 1 : 8);
         TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
         TIFFSetField(tiff, TIFFTAG_COMPRESSION, form.compression);
@@ -126,10 +133,18 @@ QByteArray tiffFile(const TiffForm &form)
         if (form.compression == COMPRESSION_CCITTFAX3)
             TIFFSetField(tiff, TIFFTAG_GROUP3OPTIONS, form.options);
         std::array<unsigned char, tiffWidth> row{};
+        std::vector<unsigned char> tile;
         for (uint32_t y = 0; y < tiffHeight; ++y) {
             for (uint32_t x = 0; x < tiffWidth; ++x)
                 row[x] = static_cast<unsigned char>((x * 31 + y * 7 / 3) & 0xFCU);
-            TIFFWriteScanline(tiff, row.data(), y, 0);
+            if (form.isTiled)
+                tile.insert(tile.end(), row.begin(), row.begin() + tileSide / 8);
+            else
+                TIFFWriteScanline(tiff, row.data(), y, 0);
+        }
+        if (form.isTiled) {
+            tile.resize(tileSide * tileSide / 8);
+            TIFFWriteEncodedTile(tiff, 0, tile.data(), tmsize_t(tile.size()));
         }
         TIFFWriteDirectory(tiff);
     }
@@ -143,11 +158,13 @@ QByteArray withHalfOfItsData(const QByteArray &tiff, int page = 0)
                      fieldOf(tiff, TIFFTAG_STRIPBYTECOUNTS, page) / 2, page);
 }
 
-// The second half of its only strip is overwritten.
-QByteArray withHalfOverwritten(const QByteArray &tiff, char byte)
+// The second half of its only strip, or tile, is overwritten.
+QByteArray withHalfOverwritten(const QByteArray &tiff, char byte,
+                               quint16 offsets = TIFFTAG_STRIPOFFSETS,
+                               quint16 counts = TIFFTAG_STRIPBYTECOUNTS)
 {
-    const auto size = qsizetype(fieldOf(tiff, TIFFTAG_STRIPBYTECOUNTS));
-    const auto start = qsizetype(fieldOf(tiff, TIFFTAG_STRIPOFFSETS));
+    const auto size = qsizetype(fieldOf(tiff, counts));
+    const auto start = qsizetype(fieldOf(tiff, offsets));
     return QByteArray(tiff).replace(start + size / 2, size - size / 2,
                                     QByteArray(size - size / 2, byte));
 }
@@ -270,6 +287,14 @@ void DamagedImagesTest::faxWithMissingRowsIsRefused_data()
     row("with fill bits", withHalfOfItsData(tiffFile({.options = GROUP3OPT_FILLBITS})), {});
     row("the second page of three", withHalfOfItsData(tiffFile({.pages = 3}), 1), {});
     row("without marks", withHalfOfItsData(tiffFile({.compression = COMPRESSION_CCITTRLE})), {});
+    row("without marks, in words",
+        withHalfOverwritten(tiffFile({.compression = COMPRESSION_CCITTRLEW}), '\0'), {});
+    for (const int compression : {COMPRESSION_CCITTFAX3, COMPRESSION_CCITTFAX4}) {
+        const QByteArray tiled = tiffFile({.compression = compression, .isTiled = true});
+        const QByteArray name = "tile of compression " + QByteArray::number(compression);
+        row(name.constData(),
+            withHalfOverwritten(tiled, '\0', TIFFTAG_TILEOFFSETS, TIFFTAG_TILEBYTECOUNTS), {});
+    }
     row("more rows in a strip than there are",
         withField(tiffFile({.rowsPerStrip = 50}), TIFFTAG_ROWSPERSTRIP, 100), {});
     row("another width", withField(group3, TIFFTAG_IMAGEWIDTH, 2 * tiffWidth), {});
@@ -348,6 +373,8 @@ void DamagedImagesTest::oddImageIsConverted_data()
         row((title + " and a bad row").constData(), "x.tif",
             QByteArray(fax).replace(middle, 2, "\x5A\x5A"), true);
     }
+    row("fax in tiles", "x.tif", tiffFile({.compression = COMPRESSION_CCITTFAX4, .isTiled = true}),
+        true);
     const QByteArray group4 = tiffFile({.compression = COMPRESSION_CCITTFAX4});
     const quint32 bytes = fieldOf(group4, TIFFTAG_STRIPBYTECOUNTS);
     row("Group 4 without an end mark", "x.tif",

@@ -1,5 +1,6 @@
 #include "group4.h"
 
+#include "filebytes.h"
 #include "tifffile.h"
 
 #include <algorithm>
@@ -65,6 +66,22 @@ bool isRowLeft(TiffFile &tiff, std::uint32_t height, Row &row)
     return beyond.faulty == 0;
 }
 
+// No fax machine writes tiles: nothing may be wrong with them.
+bool areWholeTiles(TiffFile &tiff)
+{
+    constexpr tmsize_t maxTile = tmsize_t{256} * 1024 * 1024;
+    const tmsize_t size = TIFFTileSize(tiff.get());
+    if (size <= 0 || size > maxTile)
+        return false;
+    Row tile(static_cast<std::size_t>(size));
+    for (std::uint32_t number = 0; number < TIFFNumberOfTiles(tiff.get()); ++number) {
+        requireNoSignal();
+        if (TIFFReadEncodedTile(tiff.get(), number, tile.data(), size) < 0 || tiff.takeReport())
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 std::optional<std::string> asOneStrip(int file, std::uint64_t directory)
@@ -87,6 +104,8 @@ std::optional<std::string> asOneStrip(int file, std::uint64_t directory)
 bool isWholeFax(int file, std::uint64_t directory)
 {
     TiffFile tiff(file, directory);
+    if (TIFFIsTiled(tiff.get()) != 0)
+        return areWholeTiles(tiff);
     const auto height = tiff.value<std::uint32_t>(TIFFTAG_IMAGELENGTH);
     const auto rowsPerStrip = tiff.value<std::uint32_t>(TIFFTAG_ROWSPERSTRIP);
     Row row = rowOf(tiff);

@@ -21,7 +21,7 @@ using Long = std::uint32_t;
 struct Directory
 {
     std::uint64_t offset = 0;
-    /// One bit in Group 3 or 4, in strips.
+    /// One bit, in a compression of fax machines.
     bool isFax = false;
     /// If it can be copied; without extents its strips have to become one.
     std::optional<CopyablePage> page;
@@ -109,18 +109,19 @@ bool holdsData(const TiffFile &tiff)
     return isFilled;
 }
 
+// In RLEW, libtiff (4.5) loses rows of whole images as well: they are missing on the page, too.
 bool isFax(const TiffFile &tiff)
 {
-    constexpr std::array<Short, 3> compressions = {COMPRESSION_CCITTRLE, COMPRESSION_CCITTFAX3,
-                                                   COMPRESSION_CCITTFAX4};
+    constexpr std::array<Short, 4> compressions = {COMPRESSION_CCITTRLE, COMPRESSION_CCITTRLEW,
+                                                   COMPRESSION_CCITTFAX3, COMPRESSION_CCITTFAX4};
     const auto isSide = [&tiff](Long tag) {
         const auto pixels = tiff.value<Long>(tag);
         return pixels > 0 && pixels <= maxSide;
     };
     return std::ranges::find(compressions, tiff.value<Short>(TIFFTAG_COMPRESSION)) !=
                compressions.end() &&
-           TIFFIsTiled(tiff.get()) == 0 && isSide(TIFFTAG_IMAGEWIDTH) &&
-           isSide(TIFFTAG_IMAGELENGTH) && tiff.value<Short>(TIFFTAG_BITSPERSAMPLE) == 1 &&
+           isSide(TIFFTAG_IMAGEWIDTH) && isSide(TIFFTAG_IMAGELENGTH) &&
+           tiff.value<Short>(TIFFTAG_BITSPERSAMPLE) == 1 &&
            tiff.value<Short>(TIFFTAG_SAMPLESPERPIXEL) == 1;
 }
 
@@ -128,7 +129,8 @@ bool isCopyable(const TiffFile &tiff)
 {
     const auto photometric = tiff.value<Short>(TIFFTAG_PHOTOMETRIC, UINT16_MAX);
     const auto subfileType = tiff.value<Long>(TIFFTAG_SUBFILETYPE);
-    return isFax(tiff) && tiff.value<Short>(TIFFTAG_COMPRESSION) == COMPRESSION_CCITTFAX4 &&
+    return isFax(tiff) && TIFFIsTiled(tiff.get()) == 0 &&
+           tiff.value<Short>(TIFFTAG_COMPRESSION) == COMPRESSION_CCITTFAX4 &&
            tiff.value<Long>(TIFFTAG_GROUP4OPTIONS) == 0 &&
            tiff.value<Short>(TIFFTAG_PLANARCONFIG) == PLANARCONFIG_CONTIG &&
            (photometric == PHOTOMETRIC_MINISWHITE || photometric == PHOTOMETRIC_MINISBLACK) &&
@@ -199,9 +201,9 @@ std::vector<Directory> directoriesOf(int file, bool mayCopy)
     }
     if (directories.empty())
         throw ToolError("the image is damaged: the TIFF file holds no page");
-    // They form a loop, or are too many.
+    // Pages may be missing that the loop leaves out.
     if (TIFFLastDirectory(tiff.get()) == 0)
-        directories.back().page.reset();
+        throw ToolError("the image is damaged: the directories of the TIFF file form a loop");
     return directories;
 }
 
