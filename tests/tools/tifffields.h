@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QtEndian>
 
-// Fields of a little-endian TIFF file of a test.
+// Little-endian TIFF files of the tests, and their fields.
 
 // The place of the field `tag` of the page.
 inline qsizetype placeOf(const QByteArray &tiff, quint16 tag, int page = 0)
@@ -39,4 +39,30 @@ inline QByteArray withField(const QByteArray &tiff, quint16 tag, quint32 number,
 inline quint32 fieldOf(const QByteArray &tiff, quint16 tag, int page = 0)
 {
     return numberAt(tiff, placeOf(tiff, tag, page) + 8);
+}
+
+inline QByteArray little(quint32 value, int size)
+{
+    QByteArray bytes;
+    for (int byte = 0; byte < size; ++byte)
+        bytes += static_cast<char>(value >> (8 * byte));
+    return bytes;
+}
+
+// Directories that share the tables of their strips.
+inline QByteArray sharingTiff(quint32 directories, quint32 strips)
+{
+    const quint32 first = 8 + 4 * strips;
+    const auto field = [](quint32 tag, quint32 count, quint32 value) {
+        return little(tag, 2) + little(4, 2) + little(count, 4) + little(value, 4);
+    };
+    const QByteArray fields = field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) +
+                              field(278, 1, 1) + field(279, strips, 8);
+    const auto size = static_cast<quint32>(2 + fields.size() + 4);
+    QByteArray file =
+        QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
+    for (quint32 directory = 1; directory <= directories; ++directory)
+        file += little(5, 2) + fields +
+                little(directory == directories ? 0 : first + directory * size, 4);
+    return file;
 }

@@ -2,6 +2,7 @@
 
 #include "imagefiles.h"
 #include "pagereading.h"
+#include "tifffields.h"
 
 #include <QSet>
 #include <QTest>
@@ -254,26 +255,7 @@ void TiffPagesTest::incompleteFileIsRefused()
 // Time and memory would grow with the directories times the strips.
 void TiffPagesTest::sharedTablesAreRefused()
 {
-    constexpr quint32 strips = 10'000;
-    constexpr quint32 directories = 1'000;
-    constexpr quint32 first = 8 + 4 * strips;
-    const auto little = [](quint32 value, int size) {
-        QByteArray bytes;
-        for (int byte = 0; byte < size; ++byte)
-            bytes += static_cast<char>(value >> (8 * byte));
-        return bytes;
-    };
-    const auto field = [&little](quint32 tag, quint32 count, quint32 value) {
-        return little(tag, 2) + little(4, 2) + little(count, 4) + little(value, 4);
-    };
-    const QByteArray fields = field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) +
-                              field(278, 1, 1) + field(279, strips, 8);
-    const auto size = static_cast<quint32>(2 + fields.size() + 4);
-    QByteArray file =
-        QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
-    for (quint32 directory = 1; directory <= directories; ++directory)
-        file += little(5, 2) + fields +
-                little(directory == directories ? 0 : first + directory * size, 4);
+    const QByteArray file = sharingTiff(1'000, 10'000);
     QCOMPARE(readImage(file).refusal, u"the image is damaged: tables of the TIFF file overlap"_s);
 }
 

@@ -2,6 +2,7 @@
 
 #include "imagefiles.h"
 #include "pdffacts.h"
+#include "tifffields.h"
 #include "toolbench.h"
 
 #include <QTest>
@@ -32,32 +33,6 @@ constexpr qsizetype megabyte = 1'000'000;
 
 // Of addresses, with those of the libraries; ImageMagick would need more.
 const QString littleMemory = u"ulimit -v 65536"_s;
-
-QByteArray little(quint32 value, int size)
-{
-    QByteArray bytes;
-    for (int byte = 0; byte < size; ++byte)
-        bytes += static_cast<char>(value >> (8 * byte));
-    return bytes;
-}
-
-// Directories that share the tables of their strips.
-QByteArray sharingTiff(quint32 directories, quint32 strips)
-{
-    const quint32 first = 8 + 4 * strips;
-    const auto field = [](quint32 tag, quint32 count, quint32 value) {
-        return little(tag, 2) + little(4, 2) + little(count, 4) + little(value, 4);
-    };
-    const QByteArray fields = field(256, 1, 40) + field(257, 1, strips) + field(273, strips, 8) +
-                              field(278, 1, 1) + field(279, strips, 8);
-    const auto size = static_cast<quint32>(2 + fields.size() + 4);
-    QByteArray file =
-        QByteArray("II*\0", 4) + little(first, 4) + QByteArray(qsizetype{4} * strips, '\0');
-    for (quint32 directory = 1; directory <= directories; ++directory)
-        file += little(5, 2) + fields +
-                little(directory == directories ? 0 : first + directory * size, 4);
-    return file;
-}
 
 // Its only page follows its text.
 QByteArray tiffWithText(quint32 length)
